@@ -1,0 +1,59 @@
+#pragma once
+
+#include "OptionEnum.h"
+
+#include <QByteArray>
+
+/// The encoding of the converted file.
+enum class OutputFormat { png, jpeg };
+
+/// Where converted files go, relative to the source file's folder.
+enum class OutputLocation {
+    alongside,       ///< into the source's own folder
+    convertedFolder, ///< into its subfolder `Lumaport`
+};
+
+/// What happens to the source file after a successful conversion.
+enum class OriginalPolicy {
+    keep,
+    archive, ///< moved into the subfolder `Originals` of its own folder
+};
+
+template<>
+struct OptionCases<OutputFormat>
+{
+    static constexpr std::array cases{OptionCase{OutputFormat::png, "PNG"},
+                                      OptionCase{OutputFormat::jpeg, "JPEG"}};
+};
+
+template<>
+struct OptionCases<OutputLocation>
+{
+    static constexpr std::array cases{OptionCase{OutputLocation::alongside, "Beside originals"},
+                                      OptionCase{OutputLocation::convertedFolder, "Lumaport folder"}};
+};
+
+template<>
+struct OptionCases<OriginalPolicy>
+{
+    static constexpr std::array cases{OptionCase{OriginalPolicy::keep, "Keep originals"},
+                                      OptionCase{OriginalPolicy::archive, "Move to Originals"}};
+};
+
+/// What the user has set about conversions.
+struct ConversionSettings
+{
+    OutputFormat format = OutputFormat::png;
+    OutputLocation outputLocation = OutputLocation::convertedFolder;
+    OriginalPolicy originalPolicy = OriginalPolicy::keep;
+    /// Fraction of 1, handed unchanged to the JPEG encoder; nothing checks its range.
+    double jpegQuality = 0.9;
+    bool notificationsEnabled = true;
+
+    bool operator==(const ConversionSettings &) const = default;
+
+    /// One JSON object with five keys named after the fields. None when the quality is no finite number.
+    std::optional<QByteArray> toJson() const;
+    /// All five keys must be there with the right types and exact texts; other keys are ignored.
+    static std::optional<ConversionSettings> fromJson(const QByteArray &json);
+};

@@ -1,0 +1,74 @@
+#include "FolderListing.h"
+
+#include "PhotoFileName.h"
+
+#include <QCollator>
+#include <QFile>
+
+#include <algorithm>
+#include <dirent.h>
+#include <memory>
+#include <vector>
+
+namespace {
+
+struct CloseDirectory
+{
+    void operator()(DIR *directory) const { ::closedir(directory); }
+};
+
+QStringList photoNames(const QByteArray &path)
+{
+    const std::unique_ptr<DIR, CloseDirectory> directory(::opendir(path.constData()));
+    QStringList names;
+    if (!directory) {
+        return names;
+    }
+    // readdir is safe on a stream that no other thread has.
+    while (const dirent *entry = ::readdir(directory.get())) { // NOLINT(concurrency-mt-unsafe)
+        const QByteArrayView bytes(&entry->d_name[0]);
+        if (bytes.startsWith('.') || bytes.size() < 6 || bytes[bytes.size() - 5] != '.') {
+            continue; // tens of thousands of other names pass here: look before decoding
+        }
+        const QString name = QFile::decodeName(bytes.toByteArray());
+        if (PhotoFileName::isHeic(name)) {
+            names.append(name);
+        }
+    }
+    return names;
+}
+
+void sortAsInFileManager(QStringList &names)
+{
+    // The C locale has no notion of numbers in names.
+    const QLocale locale;
+    QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
+    collator.setNumericMode(true);
+    collator.setCaseSensitivity(Qt::CaseInsensitive);
+    std::vector<std::pair<QCollatorSortKey, QString>> keyed;
+    keyed.reserve(static_cast<std::size_t>(names.size()));
+    for (const QString &name : names) {
+        keyed.emplace_back(collator.sortKey(name), name);
+    }
+    std::sort(keyed.begin(), keyed.end(), [](const auto &left, const auto &right) {
+        const int order = left.first.compare(right.first);
+        return order != 0 ? order < 0 : left.second < right.second;
+    });
+    std::transform(keyed.begin(), keyed.end(), names.begin(), [](const auto &each) { return each.second; });
+}
+
+} // namespace
+
+QList<QUrl> FolderListing::photos(const QUrl &folder)
+{
+    const QString path = folder.toLocalFile();
+    QStringList names = photoNames(QFile::encodeName(path));
+    sortAsInFileManager(names);
+    const QString prefix = path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
+    QList<QUrl> urls;
+    urls.reserve(names.size());
+    for (const QString &name : names) {
+        urls.append(QUrl::fromLocalFile(prefix + name));
+    }
+    return urls;
+}

@@ -1,0 +1,34 @@
+#include "FolderMonitor.h"
+
+#include "FolderWatch.h"
+
+#include <QFile>
+
+FolderMonitor::FolderMonitor() = default;
+
+FolderMonitor::~FolderMonitor()
+{
+    stop();
+}
+
+bool FolderMonitor::start(const QUrl &at, std::function<void()> onChange)
+{
+    stop();
+    auto source = FolderWatch::open(QFile::encodeName(at.toLocalFile()), std::move(onChange));
+    if (!source) {
+        return false;
+    }
+    const std::lock_guard guard(m_lock);
+    m_source = std::move(source);
+    return true;
+}
+
+void FolderMonitor::stop()
+{
+    std::unique_ptr<FolderWatch> source;
+    {
+        const std::lock_guard guard(m_lock);
+        source = std::move(m_source);
+    }
+    // Ends here, outside the lock: ending waits for a report that is being delivered.
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <mutex>
+
+class FolderWatch;
+
+/// Tells its owner that the watched folder itself changed: an entry was added, removed or renamed in it, its
+/// attributes changed, or it was renamed or deleted. It neither says what changed nor looks into files and
+/// subfolders. Watches at most one folder at a time; a renamed or deleted folder stays the watched one until
+/// the owner stops or restarts.
+class FolderMonitor
+{
+public:
+    FolderMonitor();
+    ~FolderMonitor();
+    FolderMonitor(const FolderMonitor &) = delete;
+    FolderMonitor &operator=(const FolderMonitor &) = delete;
+
+    /// Ends any earlier watch, then watches the folder `at`. False when it cannot be opened; nothing is
+    /// watched then. `onChange` is called on a background thread of the watch; reports that arrive while it
+    /// runs become one call.
+    bool start(const QUrl &at, std::function<void()> onChange);
+
+    void stop();
+
+private:
+    std::mutex m_lock; ///< guards m_source
+    std::unique_ptr<FolderWatch> m_source;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+/// Names of photo files. Only the name counts here; what a file really holds is found out by opening it.
+namespace PhotoFileName {
+
+/// The part after the last point, as written; empty when there is none. A leading point only hides a file.
+QString extension(const QString &fileName);
+
+/// The part before the last point.
+QString base(const QString &fileName);
+
+/// The extension is "heic" or "heif" in any letter case.
+bool isHeic(const QString &fileName);
+
+} // namespace PhotoFileName

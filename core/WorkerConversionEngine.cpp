@@ -1,0 +1,224 @@
+#include "WorkerConversionEngine.h"
+
+#include "FileOperations.h"
+#include "ImageWorker.h"
+#include "ImageWorkerLauncher.h"
+#include "PhotoFileName.h"
+#include "ScratchFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPromise>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace {
+
+ImageFormat imageFormat(OutputFormat format)
+{
+    return format == OutputFormat::jpeg ? ImageFormat::Jpeg : ImageFormat::Png;
+}
+
+QString outputExtension(OutputFormat format)
+{
+    return format == OutputFormat::jpeg ? QStringLiteral("jpg") : QStringLiteral("png");
+}
+
+QString folderOf(const QUrl &file)
+{
+    return QFileInfo(file.toLocalFile()).path();
+}
+
+/// "name.ext", then "name 2.ext", "name 3.ext" and so on.
+QString numberedName(const QString &base, const QString &extension, int number)
+{
+    QString name = base;
+    if (number > 1) {
+        name += QLatin1Char(' ') + QString::number(number);
+    }
+    return extension.isEmpty() ? name : name + QLatin1Char('.') + extension;
+}
+
+/// Offers the names one after another until `use` takes one with anything but `std::errc::file_exists`: a
+/// name that was free a moment ago may be taken by now.
+template<typename Use>
+tl::expected<QString, std::error_code> useFirstFreeName(const QString &folder, const QString &base,
+                                                        const QString &extension, Use use)
+{
+    for (int number = 1;; ++number) {
+        const QString path = QDir(folder).filePath(numberedName(base, extension, number));
+        if (FileOperations::exists(path)) {
+            continue;
+        }
+        const std::error_code error = use(path);
+        if (!error) {
+            return path;
+        }
+        if (error != std::errc::file_exists) {
+            return tl::unexpected(error);
+        }
+    }
+}
+
+/// None for what is no regular file: a pipe named like a photo must not be waited for.
+FileDescriptor openPhoto(const QUrl &file)
+{
+    const QByteArray path = QFile::encodeName(file.toLocalFile());
+    FileDescriptor photo(::open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    struct stat status = {};
+    const bool isRegular = photo.isOpen() && ::fstat(photo.number(), &status) == 0 && S_ISREG(status.st_mode);
+    return isRegular ? std::move(photo) : FileDescriptor();
+}
+
+ConversionFailure failureOf(ImageWorkerFault fault)
+{
+    switch (fault) {
+    case ImageWorkerFault::Unreadable:
+        return ConversionError::unreadableImage;
+    case ImageWorkerFault::CannotWrite:
+        return ConversionError::cannotWriteImage;
+    case ImageWorkerFault::NotLockedDown:
+        return UnsafeToOpen();
+    }
+    Q_UNREACHABLE();
+}
+
+bool archive(const QUrl &source)
+{
+    const QString originals = QDir(folderOf(source)).filePath(QStringLiteral("Originals"));
+    if (FileOperations::createFolder(originals)) {
+        return false;
+    }
+    std::error_code error;
+    do {
+        const QUrl destination =
+            WorkerConversionEngine::uniqueSourceURL(QUrl::fromLocalFile(originals), source);
+        error = FileOperations::move(source.toLocalFile(), destination.toLocalFile());
+    } while (error == std::errc::file_exists);
+    return !error;
+}
+
+} // namespace
+
+std::unique_ptr<ConversionEngine> ConversionEngine::create(std::shared_ptr<ImageWorkerLauncher> launcher)
+{
+    return std::make_unique<WorkerConversionEngine>(std::move(launcher));
+}
+
+WorkerConversionEngine::WorkerConversionEngine(std::shared_ptr<ImageWorkerLauncher> launcher)
+    : m_launcher(std::move(launcher))
+{
+    m_executor.setMaxThreadCount(1);
+    m_executor.setExpiryTimeout(-1);
+}
+
+WorkerConversionEngine::~WorkerConversionEngine()
+{
+    m_executor.clear();
+    m_launcher->endAll();
+    m_executor.waitForDone();
+}
+
+QFuture<ConversionOutcome> WorkerConversionEngine::convert(const QUrl &sourceURL,
+                                                           const ConversionSettings &settings)
+{
+    auto promise = std::make_shared<QPromise<ConversionOutcome>>();
+    QFuture<ConversionOutcome> future = promise->future();
+    promise->start();
+    ++m_waiting;
+    m_executor.start([this, promise, sourceURL, settings] {
+        if (--m_waiting > 0) {
+            prepare(); // the next photo's worker gets ready while this one is busy
+        }
+        promise->addResult(convertNow(sourceURL, settings));
+        promise->finish();
+    });
+    return future;
+}
+
+void WorkerConversionEngine::prepare()
+{
+    m_launcher->prepare();
+}
+
+ConversionOutcome WorkerConversionEngine::convertNow(const QUrl &sourceURL,
+                                                     const ConversionSettings &settings)
+{
+    const QString fileName = sourceURL.fileName();
+    if (!PhotoFileName::isHeic(fileName)) {
+        return tl::unexpected(ConversionError::unsupportedFile);
+    }
+    const auto image = render(sourceURL, settings);
+    if (!image && image.error() != ConversionFailure(ConversionError::cannotWriteImage)) {
+        return tl::unexpected(image.error());
+    }
+    const auto folder = makeOutputDirectory(sourceURL, settings.outputLocation);
+    if (!folder) {
+        return tl::unexpected(folder.error());
+    }
+    if (!image) {
+        return tl::unexpected(image.error());
+    }
+    const auto output =
+        useFirstFreeName(*folder, PhotoFileName::base(fileName), outputExtension(settings.format),
+                         [&image](const QString &path) { return image->placeAs(path); });
+    if (!output) {
+        return tl::unexpected(ConversionError::cannotWriteImage);
+    }
+    if (settings.originalPolicy == OriginalPolicy::archive && !archive(sourceURL)) {
+        return tl::unexpected(ConversionError::cannotArchiveOriginal);
+    }
+    return ConversionResult{.sourceURL = sourceURL, .outputURL = QUrl::fromLocalFile(*output)};
+}
+
+tl::expected<ScratchFile, ConversionFailure>
+WorkerConversionEngine::render(const QUrl &sourceURL, const ConversionSettings &settings)
+{
+    const FileDescriptor photo = openPhoto(sourceURL);
+    if (!photo.isOpen()) {
+        return tl::unexpected(ConversionError::unreadableImage);
+    }
+    const std::unique_ptr<ImageWorker> worker = m_launcher->launch();
+    if (const auto size = worker->open(photo); !size) {
+        return tl::unexpected(failureOf(size.error()));
+    }
+    auto scratch = ScratchFile::create(folderOf(sourceURL));
+    if (!scratch) {
+        return tl::unexpected(ConversionError::cannotWriteImage);
+    }
+    const auto written =
+        worker->write(scratch->descriptor(), imageFormat(settings.format), settings.jpegQuality);
+    if (!written) {
+        return tl::unexpected(failureOf(written.error()));
+    }
+    return std::move(*scratch);
+}
+
+tl::expected<QString, std::error_code> WorkerConversionEngine::makeOutputDirectory(const QUrl &sourceURL,
+                                                                                   OutputLocation location)
+{
+    const QString sourceFolder = folderOf(sourceURL);
+    if (location == OutputLocation::alongside) {
+        return sourceFolder;
+    }
+    const QString folder = QDir(sourceFolder).filePath(QStringLiteral("Lumaport"));
+    if (const std::error_code error = FileOperations::createFolder(folder)) {
+        return tl::unexpected(error);
+    }
+    return folder;
+}
+
+QUrl WorkerConversionEngine::uniqueSourceURL(const QUrl &directory, const QUrl &source)
+{
+    const QString fileName = source.fileName();
+    const QString base = PhotoFileName::base(fileName);
+    const QString extension = PhotoFileName::extension(fileName);
+    for (int number = 1;; ++number) {
+        const QString path = QDir(directory.toLocalFile()).filePath(numberedName(base, extension, number));
+        if (!FileOperations::exists(path)) {
+            return QUrl::fromLocalFile(path);
+        }
+    }
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "ConversionEngine.h"
+
+#include <QThreadPool>
+
+#include <atomic>
+#include <memory>
+#include <system_error>
+
+class ScratchFile;
+
+/// The engine that has photos decoded and encoded by image workers and does everything about files and names
+/// itself.
+///
+/// The worker writes into a file without a name on the source's file system. Decoding and writing thus go
+/// hand in hand, tile by tile, and still no folder is made and nothing appears before the whole photo has
+/// proved readable.
+class WorkerConversionEngine : public ConversionEngine
+{
+public:
+    explicit WorkerConversionEngine(std::shared_ptr<ImageWorkerLauncher> launcher);
+    /// Ends a running conversion, which leaves nothing behind, and drops those that wait.
+    ~WorkerConversionEngine() override;
+
+    QFuture<ConversionOutcome> convert(const QUrl &sourceURL, const ConversionSettings &settings) override;
+    void prepare() override;
+
+    /// The folder that the output goes into, made when it is missing; else the file system's error.
+    static tl::expected<QString, std::error_code> makeOutputDirectory(const QUrl &sourceURL,
+                                                                      OutputLocation location);
+    /// A free name in `directory` for the archived original.
+    static QUrl uniqueSourceURL(const QUrl &directory, const QUrl &source);
+
+private:
+    ConversionOutcome convertNow(const QUrl &sourceURL, const ConversionSettings &settings);
+    tl::expected<ScratchFile, ConversionFailure> render(const QUrl &sourceURL,
+                                                        const ConversionSettings &settings);
+
+    std::shared_ptr<ImageWorkerLauncher> m_launcher;
+    std::atomic<int> m_waiting = 0; ///< accepted conversions that have not started
+    QThreadPool m_executor;         ///< one thread, kept: a worker ends with the thread that started it
+};

@@ -1,0 +1,21 @@
+#include "AppModel.h"
+#include "ConversionEngine.h"
+#include "DefaultsStore.h"
+#include "ImageWorkerLauncher.h"
+#include "JobScheduler.h"
+#include "NotificationManager.h"
+#include "OpenPanel.h"
+#include "WallClock.h"
+#include "Workspace.h"
+
+AppModelServices AppModelServices::standard()
+{
+    return {.jobs = JobScheduler::create(),
+            .clock = std::make_shared<WallClock>(),
+            .defaults = DefaultsStore::standard(),
+            .notifications = &NotificationManager::shared(),
+            .workspace = Workspace::create(),
+            .openPanel = OpenPanel::create(),
+            .appearance = nullptr,
+            .engine = ConversionEngine::create(ImageWorkerLauncher::create())};
+}

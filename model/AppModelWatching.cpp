@@ -1,0 +1,169 @@
+// Watching and scanning of AppModel: which files of the watched folder are new, and when they have settled.
+
+#include "AppModel.h"
+#include "ConversionEngine.h"
+#include "FolderListing.h"
+#include "FolderMonitor.h"
+#include "JobScheduler.h"
+#include "ModelTexts.h"
+#include "OpenPanel.h"
+
+#include <QPointer>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto changeDebounce = 350ms;
+constexpr auto settleCheck = 850ms;
+constexpr auto resumeDelay = 100ms;
+
+} // namespace
+
+void AppModel::startMonitoringFolder()
+{
+    // Reports come on the monitor's thread; the monitor ends, and with it its reports, before the model does.
+    m_monitorAvailable = m_folderMonitor->start(m_watchFolder, [this] {
+        QMetaObject::invokeMethod(
+            this, [this] { scheduleScan(changeDebounce); }, Qt::QueuedConnection);
+    });
+    Q_EMIT monitorAvailableChanged();
+    if (!m_monitorAvailable) {
+        setLastEventText(ModelTexts::couldNotWatch(m_watchFolder.fileName()));
+    }
+}
+
+QList<QUrl> AppModel::heicFiles(const QUrl &folder)
+{
+    return FolderListing::photos(folder);
+}
+
+std::optional<FileSignature> AppModel::signature(const QUrl &file)
+{
+    return FileSignature::of(file);
+}
+
+void AppModel::seedKnownFiles()
+{
+    m_knownFiles.clear();
+    m_candidates.clear();
+    const QList<QUrl> files = heicFiles(m_watchFolder);
+    for (const QUrl &file : files) {
+        if (const auto current = signature(file)) {
+            m_knownFiles.insert(file.toLocalFile(), *current);
+        }
+    }
+}
+
+void AppModel::scheduleScan(std::chrono::milliseconds after)
+{
+    m_pendingScanTask = m_services.jobs->after(after, [this] {
+        m_pendingScanTask.reset();
+        scanForNewFiles();
+    });
+}
+
+void AppModel::scanForNewFiles()
+{
+    if (!m_isWatching) {
+        return;
+    }
+    const QList<QUrl> files = heicFiles(m_watchFolder);
+    QSet<QString> present;
+    for (const QUrl &file : files) {
+        present.insert(file.toLocalFile());
+    }
+    const auto isGone = [&present](const auto &entry) { return !present.contains(entry.key()); };
+    m_knownFiles.removeIf(isGone);
+    m_candidates.removeIf(isGone);
+
+    bool needsSettleCheck = false;
+    for (const QUrl &file : files) {
+        const QString path = file.toLocalFile();
+        if (m_processingPaths.contains(path)) {
+            continue;
+        }
+        const auto current = signature(file);
+        if (!current || m_knownFiles.value(path, FileSignature{.size = -1, .modifiedAt = {}}) == *current) {
+            continue;
+        }
+        if (m_candidates.contains(path) && m_candidates.value(path) == *current) {
+            m_candidates.remove(path);
+            enqueue({file});
+        } else {
+            m_candidates.insert(path, *current);
+            needsSettleCheck = true;
+        }
+    }
+    if (needsSettleCheck) {
+        m_services.engine->prepare();
+        scheduleScan(settleCheck);
+    }
+}
+
+void AppModel::reactToWatching()
+{
+    if (m_isWatching) {
+        scheduleScan(resumeDelay);
+    } else {
+        m_pendingScanTask.reset();
+        m_candidates.clear();
+    }
+}
+
+void AppModel::chooseWatchFolder()
+{
+    m_services.openPanel->show({.choice = OpenPanelRequest::Choice::oneFolder,
+                                .title = tr("Choose the folder where AirDrop saves photos"),
+                                .prompt = tr("Watch this folder"),
+                                .folder = m_watchFolder},
+                               [this](const QList<QUrl> &chosen) {
+                                   setWatchFolder(chosen.first());
+                                   seedKnownFiles();
+                                   startMonitoringFolder();
+                                   setLastEventText(ModelTexts::watching(m_watchFolder.fileName()));
+                               });
+}
+
+void AppModel::retryMonitoring()
+{
+    startMonitoringFolder();
+    if (m_monitorAvailable && m_isWatching) {
+        scheduleScan(resumeDelay);
+    }
+}
+
+void AppModel::convertExistingFiles()
+{
+    const QList<QUrl> files = heicFiles(m_watchFolder);
+    if (files.isEmpty()) {
+        setLastEventText(ModelTexts::noPhotosIn(m_watchFolder.fileName()));
+        return;
+    }
+    enqueue(files);
+}
+
+QString AppModel::monitorTitle() const
+{
+    if (!m_monitorAvailable) {
+        return tr("Folder unavailable");
+    }
+    return m_isWatching ? tr("Auto-convert: On") : tr("Auto-convert: Paused");
+}
+
+QString AppModel::monitorDetail() const
+{
+    if (!m_monitorAvailable) {
+        return tr("Check your watched folder, then retry.");
+    }
+    return m_isWatching ? tr("Watching %1 for new HEIC photos.").arg(m_watchFolder.fileName())
+                        : tr("New arrivals won’t convert until you resume.");
+}
+
+QString AppModel::monitorSymbol() const
+{
+    if (!m_monitorAvailable) {
+        return QStringLiteral("exclamationmark.triangle.fill");
+    }
+    return m_isWatching ? QStringLiteral("checkmark.circle.fill") : QStringLiteral("pause.circle.fill");
+}

@@ -1,0 +1,94 @@
+#include "NotificationManager.h"
+
+#include "NotificationCenter.h"
+#include "Workspace.h"
+
+#include <QCoreApplication>
+#include <QUuid>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto announceDelay = 250ms;
+
+QString categoryIdentifier()
+{
+    return QStringLiteral("LUMAPORT_CONVERSION_READY");
+}
+
+QString showActionIdentifier()
+{
+    return QStringLiteral("LUMAPORT_SHOW_IN_FINDER");
+}
+
+QString outputPathKey()
+{
+    return QStringLiteral("outputPath");
+}
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("NotificationManager", text);
+}
+
+} // namespace
+
+NotificationManager &NotificationManager::shared()
+{
+    static NotificationManager manager(NotificationCenter::create(), Workspace::create());
+    return manager;
+}
+
+NotificationManager::NotificationManager(std::shared_ptr<NotificationCenter> center,
+                                         std::shared_ptr<Workspace> workspace)
+    : m_center(std::move(center))
+    , m_workspace(std::move(workspace))
+{}
+
+void NotificationManager::configure(Authorization authorization)
+{
+    if (!m_isConfigured) {
+        m_isConfigured = true;
+        m_center->onResponse([this](const NotificationResponse &response) { didReceive(response); });
+        m_center->setCategories({{.identifier = categoryIdentifier(),
+                                  .actions = {{.identifier = showActionIdentifier(),
+                                               .title = translated(QT_TRANSLATE_NOOP("NotificationManager",
+                                                                                     "Show in Finder"))}}}});
+    }
+    if (authorization == Authorization::request) {
+        requestAuthorization();
+    }
+}
+
+void NotificationManager::requestAuthorization()
+{
+    m_center->requestAuthorization();
+}
+
+void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
+{
+    m_center->add({.identifier = QStringLiteral("lumaport-ready-") +
+                                 QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(),
+                   .title = translated(QT_TRANSLATE_NOOP("NotificationManager", "Photo landed ready")),
+                   .subtitle = outputURL.fileName(),
+                   .body = translated(QT_TRANSLATE_NOOP("NotificationManager",
+                                                        "Converted locally. Click to reveal it in Finder.")),
+                   .categoryIdentifier = categoryIdentifier(),
+                   .payload = {{outputPathKey(), outputURL.toLocalFile()}},
+                   .soundName = QStringLiteral("LumaportArrival.wav"),
+                   .imagePath = outputURL.toLocalFile(),
+                   .delay = announceDelay});
+}
+
+void NotificationManager::didReceive(const NotificationResponse &response) const
+{
+    if (response.actionIdentifier != NotificationCenter::defaultAction &&
+        response.actionIdentifier != showActionIdentifier()) {
+        return;
+    }
+    const QVariant path = response.payload.value(outputPathKey());
+    if (path.typeId() == QMetaType::QString) {
+        m_workspace->reveal(QUrl::fromLocalFile(path.toString()));
+    }
+}

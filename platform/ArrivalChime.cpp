@@ -1,0 +1,59 @@
+#include "ArrivalChime.h"
+
+#include "ShippedFile.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <canberra.h>
+
+namespace {
+
+class CanberraChime : public ArrivalChime
+{
+public:
+    void play(const QString &soundName) override
+    {
+        const QString path = shippedFile(soundName);
+        if (path.isEmpty() || !isOpen()) {
+            return;
+        }
+        ca_proplist *properties = nullptr;
+        if (ca_proplist_create(&properties) != CA_SUCCESS) {
+            return;
+        }
+        ca_proplist_sets(properties, CA_PROP_MEDIA_FILENAME, QFile::encodeName(path).constData());
+        ca_proplist_sets(properties, CA_PROP_MEDIA_ROLE, "event");
+        ca_proplist_sets(properties, CA_PROP_EVENT_ID, "complete-transfer");
+        ca_context_play_full(m_context, 0, properties, nullptr, nullptr);
+        ca_proplist_destroy(properties);
+    }
+
+    CanberraChime() = default;
+    ~CanberraChime() override
+    {
+        if (m_context != nullptr) {
+            ca_context_destroy(m_context);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(CanberraChime)
+
+private:
+    bool isOpen()
+    {
+        if (m_context == nullptr && ca_context_create(&m_context) == CA_SUCCESS) {
+            ca_context_change_props(m_context, CA_PROP_APPLICATION_NAME, "Lumaport", CA_PROP_APPLICATION_ID,
+                                    "io.lumaport.Lumaport", nullptr);
+        }
+        return m_context != nullptr;
+    }
+
+    ca_context *m_context = nullptr;
+};
+
+} // namespace
+
+std::shared_ptr<ArrivalChime> ArrivalChime::create()
+{
+    return std::make_shared<CanberraChime>();
+}

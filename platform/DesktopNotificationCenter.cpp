@@ -1,0 +1,146 @@
+#include "DesktopNotificationCenter.h"
+
+#include "ArrivalChime.h"
+#include "JobScheduler.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+#include <algorithm>
+
+namespace {
+
+QString service()
+{
+    return QStringLiteral("org.freedesktop.Notifications");
+}
+
+QString objectPath()
+{
+    return QStringLiteral("/org/freedesktop/Notifications");
+}
+
+QDBusMessage call(const QString &method)
+{
+    return QDBusMessage::createMethodCall(service(), objectPath(), service(), method);
+}
+
+} // namespace
+
+std::shared_ptr<NotificationCenter> NotificationCenter::create()
+{
+    return std::make_shared<DesktopNotificationCenter>(QDBusConnection::sessionBus(), JobScheduler::create(),
+                                                       ArrivalChime::create());
+}
+
+DesktopNotificationCenter::DesktopNotificationCenter(const QDBusConnection &bus,
+                                                     std::shared_ptr<JobScheduler> jobs,
+                                                     std::shared_ptr<ArrivalChime> chime)
+    : m_bus(bus)
+    , m_jobs(std::move(jobs))
+    , m_chime(std::move(chime))
+{
+    m_bus.connect(service(), objectPath(), service(), QStringLiteral("ActionInvoked"), this,
+                  SLOT(actionInvoked(uint, QString)));
+    m_bus.connect(service(), objectPath(), service(), QStringLiteral("NotificationClosed"), this,
+                  SLOT(notificationClosed(uint, uint)));
+}
+
+DesktopNotificationCenter::~DesktopNotificationCenter() = default;
+
+void DesktopNotificationCenter::setCategories(const QList<NotificationCategory> &categories)
+{
+    m_categories = categories;
+}
+
+void DesktopNotificationCenter::onResponse(std::function<void(const NotificationResponse &)> handler)
+{
+    m_handler = std::move(handler);
+}
+
+void DesktopNotificationCenter::add(const NotificationRequest &request)
+{
+    if (!m_capabilities) {
+        askForCapabilities(); // answered long before the delay is over
+    }
+    m_waiting.insert(request.identifier, m_jobs->after(request.delay, [this, request] {
+        m_waiting.remove(request.identifier);
+        post(request);
+    }));
+}
+
+void DesktopNotificationCenter::askForCapabilities()
+{
+    auto *watcher =
+        new QDBusPendingCallWatcher(m_bus.asyncCall(call(QStringLiteral("GetCapabilities"))), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        const QDBusPendingReply<QStringList> reply = *watcher;
+        if (reply.isValid()) {
+            m_capabilities = reply.value();
+        }
+        watcher->deleteLater();
+    });
+}
+
+void DesktopNotificationCenter::post(const NotificationRequest &request)
+{
+    QDBusMessage message = call(QStringLiteral("Notify"));
+    const QVariantMap hints{
+        {QStringLiteral("desktop-entry"), QStringLiteral("io.lumaport.Lumaport")},
+        {QStringLiteral("category"), QStringLiteral("transfer.complete")},
+        {QStringLiteral("image-path"), request.imagePath},
+        {QStringLiteral("urgency"), QVariant::fromValue<uchar>(1)},
+        {QStringLiteral("suppress-sound"), true},
+    };
+    constexpr int serviceDecides = -1;
+    message << QStringLiteral("Lumaport") << 0U << QStringLiteral("io.lumaport.Lumaport") << request.title
+            << bodyOf(request) << actionsOf(request.categoryIdentifier) << hints << serviceDecides;
+
+    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request] {
+        const QDBusPendingReply<uint> reply = *watcher;
+        if (reply.isValid()) {
+            m_shown.insert(reply.value(), request.payload);
+            m_chime->play(request.soundName);
+        }
+        watcher->deleteLater();
+    });
+}
+
+QStringList DesktopNotificationCenter::actionsOf(const QString &categoryIdentifier) const
+{
+    // An empty title for the click on the notification itself: services draw a button for any other.
+    QStringList actions{defaultAction, QString()};
+    const auto category = std::find_if(m_categories.begin(), m_categories.end(),
+                                       [&categoryIdentifier](const NotificationCategory &each) {
+                                           return each.identifier == categoryIdentifier;
+                                       });
+    if (category != m_categories.end()) {
+        for (const NotificationAction &action : category->actions) {
+            actions << action.identifier << action.title;
+        }
+    }
+    return actions;
+}
+
+QString DesktopNotificationCenter::bodyOf(const NotificationRequest &request) const
+{
+    // The service knows no subtitle: it becomes the body's first line.
+    const QString text = request.subtitle + QLatin1Char('\n') + request.body;
+    const bool readsMarkup = m_capabilities && m_capabilities->contains(QLatin1String("body-markup"));
+    return readsMarkup ? text.toHtmlEscaped() : text;
+}
+
+void DesktopNotificationCenter::actionInvoked(uint id, const QString &action)
+{
+    const auto payload = m_shown.constFind(id);
+    if (payload != m_shown.constEnd() && m_handler) {
+        m_handler({.actionIdentifier = action, .payload = *payload});
+    }
+}
+
+void DesktopNotificationCenter::notificationClosed(uint id, uint /*reason*/)
+{
+    m_shown.remove(id);
+}

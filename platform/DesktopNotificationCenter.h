@@ -1,0 +1,49 @@
+#pragma once
+
+#include "NotificationCenter.h"
+
+#include <QDBusConnection>
+#include <QHash>
+#include <QObject>
+
+#include <optional>
+
+class ArrivalChime;
+class JobScheduler;
+class ScheduledJob;
+
+/// `org.freedesktop.Notifications` (Desktop Notifications Specification 1.2). The service plays no sound of
+/// ours, so the chime is played here, once the service has taken the notification.
+class DesktopNotificationCenter : public QObject, public NotificationCenter
+{
+    Q_OBJECT
+
+public:
+    DesktopNotificationCenter(const QDBusConnection &bus, std::shared_ptr<JobScheduler> jobs,
+                              std::shared_ptr<ArrivalChime> chime);
+    ~DesktopNotificationCenter() override;
+
+    void setCategories(const QList<NotificationCategory> &categories) override;
+    void onResponse(std::function<void(const NotificationResponse &)> handler) override;
+    void requestAuthorization() override {}
+    void add(const NotificationRequest &request) override;
+
+private Q_SLOTS:
+    void actionInvoked(uint id, const QString &action);
+    void notificationClosed(uint id, uint reason);
+
+private:
+    void askForCapabilities();
+    void post(const NotificationRequest &request);
+    QStringList actionsOf(const QString &categoryIdentifier) const;
+    QString bodyOf(const NotificationRequest &request) const;
+
+    QDBusConnection m_bus;
+    std::shared_ptr<JobScheduler> m_jobs;
+    std::shared_ptr<ArrivalChime> m_chime;
+    QList<NotificationCategory> m_categories;
+    std::function<void(const NotificationResponse &)> m_handler;
+    std::optional<QStringList> m_capabilities;
+    QHash<QString, std::shared_ptr<ScheduledJob>> m_waiting; ///< by request identifier
+    QHash<uint, QVariantMap> m_shown;                        ///< payloads by the service's own number
+};

@@ -1,0 +1,102 @@
+#include "FolderWatch.h"
+
+#include "FileDescriptor.h"
+
+#include <array>
+#include <cerrno>
+#include <poll.h>
+#include <pthread.h>
+#include <sys/eventfd.h>
+#include <sys/inotify.h>
+
+namespace {
+
+constexpr std::uint32_t entryChanges = IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO;
+constexpr std::uint32_t folderChanges = IN_ATTRIB | IN_MOVE_SELF | IN_DELETE_SELF;
+
+/// IN_ATTRIB is also sent for the folder's entries; those carry a name, the folder itself does not.
+bool concernsFolder(const inotify_event &event)
+{
+    return (event.mask & (entryChanges | IN_MOVE_SELF | IN_DELETE_SELF | IN_UNMOUNT | IN_Q_OVERFLOW)) != 0 ||
+           ((event.mask & IN_ATTRIB) != 0 && event.len == 0);
+}
+
+/// Takes everything that waits in the queue. True when any of it concerns the folder.
+bool drain(const FileDescriptor &queue)
+{
+    alignas(inotify_event) std::array<char, 16 * 1024> buffer;
+    bool changed = false;
+    for (;;) {
+        const ssize_t length = ::read(queue.number(), buffer.data(), buffer.size());
+        if (length < 0 && errno == EINTR) {
+            continue;
+        }
+        if (length <= 0) {
+            return changed;
+        }
+        for (std::size_t offset = 0; offset < static_cast<std::size_t>(length);) {
+            const auto *event = reinterpret_cast<const inotify_event *>(buffer.data() + offset);
+            changed |= concernsFolder(*event);
+            offset += sizeof(inotify_event) + event->len;
+        }
+    }
+}
+
+} // namespace
+
+struct FolderWatch::State
+{
+    FileDescriptor queue;
+    FileDescriptor ending;
+    std::function<void()> onChange;
+};
+
+std::unique_ptr<FolderWatch> FolderWatch::open(const QByteArray &path, std::function<void()> onChange)
+{
+    FileDescriptor queue(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
+    FileDescriptor ending(::eventfd(0, EFD_CLOEXEC));
+    if (!queue.isOpen() || !ending.isOpen() ||
+        ::inotify_add_watch(queue.number(), path.constData(), entryChanges | folderChanges | IN_ONLYDIR) <
+            0) {
+        return nullptr;
+    }
+    return std::unique_ptr<FolderWatch>(new FolderWatch(std::make_shared<State>(
+        State{.queue = std::move(queue), .ending = std::move(ending), .onChange = std::move(onChange)})));
+}
+
+FolderWatch::FolderWatch(std::shared_ptr<State> state)
+    : m_state(std::move(state))
+    , m_thread([state = m_state] { deliverReports(*state); })
+{
+    ::pthread_setname_np(m_thread.native_handle(), "folder-monitor");
+}
+
+FolderWatch::~FolderWatch()
+{
+    ::eventfd_write(m_state->ending.number(), 1);
+    if (m_thread.get_id() == std::this_thread::get_id()) {
+        m_thread.detach(); // called from within a report: the thread ends, and closes, by itself
+    } else {
+        m_thread.join();
+    }
+}
+
+void FolderWatch::deliverReports(const State &state)
+{
+    std::array<pollfd, 2> waiting{{{.fd = state.queue.number(), .events = POLLIN, .revents = 0},
+                                   {.fd = state.ending.number(), .events = POLLIN, .revents = 0}}};
+    for (;;) {
+        if (::poll(waiting.data(), waiting.size(), -1) < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            return;
+        }
+        if (drain(state.queue)) {
+            state.onChange();
+        }
+        if (waiting[1].revents != 0) {
+            return;
+        }
+    }
+}

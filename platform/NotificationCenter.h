@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QVariantMap>
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+struct NotificationAction
+{
+    QString identifier;
+    QString title;
+};
+
+/// Notifications of one category carry the same buttons.
+struct NotificationCategory
+{
+    QString identifier;
+    QList<NotificationAction> actions;
+};
+
+struct NotificationRequest
+{
+    QString identifier; ///< two requests of the same identifier are one notification
+    QString title;
+    QString subtitle;
+    QString body;
+    QString categoryIdentifier;
+    QVariantMap payload; ///< comes back with the response
+    QString soundName;   ///< a sound file shipped with the application
+    QString imagePath;   ///< a picture for the notification, where the desktop shows one
+    std::chrono::milliseconds delay{};
+};
+
+/// The user clicked a notification or one of its buttons.
+struct NotificationResponse
+{
+    QString actionIdentifier; ///< `NotificationCenter::defaultAction` for the notification itself
+    QVariantMap payload;
+};
+
+/// The desktop's notifications. Everything here is silent where there is no notification service or no sound.
+class NotificationCenter
+{
+public:
+    inline static const QString defaultAction = QStringLiteral("default");
+
+    virtual ~NotificationCenter() = default;
+
+    virtual void setCategories(const QList<NotificationCategory> &categories) = 0;
+    /// `handler` is called on the main thread.
+    virtual void onResponse(std::function<void(const NotificationResponse &)> handler) = 0;
+    /// Asks the user to allow alerts and sounds, where the desktop has such a question. This desktop has
+    /// none.
+    virtual void requestAuthorization() = 0;
+    virtual void add(const NotificationRequest &request) = 0;
+
+    static std::shared_ptr<NotificationCenter> create();
+};

@@ -1,0 +1,105 @@
+#include "ScratchFile.h"
+
+#include "FileOperations.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+
+namespace {
+
+FileDescriptor openUnnamed(const QString &folder)
+{
+    constexpr mode_t asAllowed = 0666; // less what the user's mask takes away
+    return FileDescriptor(
+        ::open(QFile::encodeName(folder).constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, asAllowed));
+}
+
+std::error_code flush(const FileDescriptor &file)
+{
+    return ::fdatasync(file.number()) == 0 ? std::error_code() : FileOperations::lastError();
+}
+
+std::error_code giveName(const FileDescriptor &file, const QByteArray &path)
+{
+    const QByteArray self = "/proc/self/fd/" + QByteArray::number(file.number());
+    const int linked = ::linkat(AT_FDCWD, self.constData(), AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW);
+    return linked == 0 ? std::error_code() : FileOperations::lastError();
+}
+
+/// A hidden file for the while of copying. What an end of the process left under this name is taken over.
+tl::expected<FileDescriptor, std::error_code> openPart(const QByteArray &path)
+{
+    FileDescriptor part(::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666));
+    if (!part.isOpen() || ::flock(part.number(), LOCK_EX | LOCK_NB) != 0 ||
+        ::ftruncate(part.number(), 0) != 0) {
+        return tl::unexpected(FileOperations::lastError());
+    }
+    return part;
+}
+
+std::error_code placeThroughPart(const FileDescriptor &content, const QByteArray &folder,
+                                 const QByteArray &path)
+{
+    const QByteArray partPath = folder + "/.lumaport-part";
+    const auto part = openPart(partPath);
+    if (!part) {
+        return part.error();
+    }
+    auto error = FileOperations::copyContents(content.number(), part->number());
+    if (!error) {
+        error = flush(*part);
+    }
+    if (!error) {
+        error = FileOperations::renameWithoutReplacing(partPath, path);
+    }
+    if (error) {
+        ::unlink(partPath.constData());
+    }
+    return error;
+}
+
+} // namespace
+
+ScratchFile::ScratchFile(FileDescriptor descriptor)
+    : m_descriptor(std::move(descriptor))
+{}
+
+tl::expected<ScratchFile, std::error_code> ScratchFile::create(const QString &folder)
+{
+    FileDescriptor file = openUnnamed(folder);
+    if (!file.isOpen()) {
+        file = openUnnamed(QDir::tempPath());
+    }
+    if (!file.isOpen()) {
+        return tl::unexpected(FileOperations::lastError());
+    }
+    return ScratchFile(std::move(file));
+}
+
+std::error_code ScratchFile::placeAs(const QString &path) const
+{
+    const QByteArray target = QFile::encodeName(path);
+    if (const auto error = flush(m_descriptor)) {
+        return error;
+    }
+    const auto error = giveName(m_descriptor, target);
+    if (!error || error == std::errc::file_exists) {
+        return error;
+    }
+    // Another file system, or one that cannot link: the content has to be copied there.
+    const QString folder = QFileInfo(path).path();
+    const FileDescriptor copy = openUnnamed(folder);
+    if (copy.isOpen() && !FileOperations::copyContents(m_descriptor.number(), copy.number()) &&
+        !flush(copy)) {
+        const auto linkError = giveName(copy, target);
+        if (!linkError || linkError == std::errc::file_exists) {
+            return linkError;
+        }
+    }
+    return placeThroughPart(m_descriptor, QFile::encodeName(folder), target);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "FileDescriptor.h"
+
+#include <QString>
+
+#include <system_error>
+#include <tl/expected.hpp>
+
+/// A file that has no name until it is whole, so that no end of the process leaves a part of it behind.
+class ScratchFile
+{
+public:
+    /// A nameless file on the file system of `folder`; where that cannot have one, among the temporary files.
+    static tl::expected<ScratchFile, std::error_code> create(const QString &folder);
+
+    /// Open for reading and writing.
+    const FileDescriptor &descriptor() const { return m_descriptor; }
+
+    /// Brings the content to the disk and gives it a name, on any file system. Never replaces anything:
+    /// `std::errc::file_exists` when the name is taken, and another name may be tried.
+    std::error_code placeAs(const QString &path) const;
+
+private:
+    explicit ScratchFile(FileDescriptor descriptor);
+
+    FileDescriptor m_descriptor;
+};

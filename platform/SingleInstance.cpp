@@ -1,0 +1,81 @@
+#include "SingleInstance.h"
+
+#include <QDBusMessage>
+
+namespace {
+
+QString serviceName()
+{
+    return QStringLiteral("io.lumaport.Lumaport");
+}
+
+QString objectPath()
+{
+    return QStringLiteral("/io/lumaport/Lumaport");
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(const QDBusConnection &bus, QObject *parent)
+    : QObject(parent)
+    , m_bus(bus)
+{}
+
+SingleInstance::~SingleInstance()
+{
+    if (m_isClaimed) {
+        m_bus.unregisterService(serviceName());
+        m_bus.unregisterObject(objectPath());
+    }
+}
+
+bool SingleInstance::claim()
+{
+    if (!m_bus.isConnected()) {
+        return true;
+    }
+    // The object first: whoever sees the name may call at once.
+    m_bus.registerObject(objectPath(), this, QDBusConnection::ExportAllSlots);
+    m_isClaimed = m_bus.registerService(serviceName());
+    if (!m_isClaimed) {
+        m_bus.unregisterObject(objectPath());
+    }
+    return m_isClaimed;
+}
+
+void SingleInstance::forward(const QList<QUrl> &files) const
+{
+    const QString method = files.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open");
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        serviceName(), objectPath(), QStringLiteral("org.freedesktop.Application"), method);
+    if (!files.isEmpty()) {
+        QStringList uris;
+        for (const QUrl &file : files) {
+            uris << QString::fromLatin1(file.toEncoded());
+        }
+        message << uris;
+    }
+    message << QVariantMap();
+    m_bus.call(message);
+}
+
+void SingleInstance::Activate(const QVariantMap & /*platformData*/)
+{
+    Q_EMIT activated();
+}
+
+void SingleInstance::Open(const QStringList &uris, const QVariantMap & /*platformData*/)
+{
+    QList<QUrl> files;
+    for (const QString &uri : uris) {
+        files.append(QUrl(uri, QUrl::StrictMode));
+    }
+    Q_EMIT activated();
+    Q_EMIT opened(files);
+}
+
+void SingleInstance::ActivateAction(const QString & /*action*/, const QVariantList & /*parameter*/,
+                                    const QVariantMap & /*platformData*/)
+{
+    Q_EMIT activated();
+}

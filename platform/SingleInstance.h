@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QList>
+#include <QObject>
+#include <QUrl>
+#include <QVariantMap>
+
+/// One process for each session: the first one owns the application's bus name and answers the others'
+/// requests by `org.freedesktop.Application` (Desktop Entry Specification, "D-Bus Activation").
+class SingleInstance : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    explicit SingleInstance(const QDBusConnection &bus, QObject *parent = nullptr);
+    ~SingleInstance() override;
+
+    /// True when this process is the first, or when there is no bus to ask.
+    bool claim();
+
+    /// Asks the first process to show its window, with the files that this one was given; waits until it has.
+    void forward(const QList<QUrl> &files) const;
+
+public Q_SLOTS:
+    void Activate(const QVariantMap &platformData); // NOLINT(readability-identifier-naming)
+    void Open(const QStringList &uris,
+              const QVariantMap &platformData); // NOLINT(readability-identifier-naming)
+    void ActivateAction(const QString &action,
+                        const QVariantList &parameter, // NOLINT(readability-identifier-naming)
+                        const QVariantMap &platformData);
+
+Q_SIGNALS:
+    void activated();
+    void opened(const QList<QUrl> &files);
+
+private:
+    QDBusConnection m_bus;
+    bool m_isClaimed = false;
+};
