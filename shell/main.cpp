@@ -1,0 +1,31 @@
+#include "LumaportApp.h"
+#include "SingleInstance.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+
+int main(int argc, char **argv)
+{
+    QApplication::setApplicationName(QStringLiteral("lumaport"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Lumaport"));
+    QApplication::setDesktopFileName(QStringLiteral("io.lumaport.Lumaport"));
+    QApplication::setApplicationVersion(QStringLiteral(LUMAPORT_VERSION));
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    QList<QUrl> files;
+    const QStringList arguments = QApplication::arguments().mid(1);
+    for (const QString &argument : arguments) {
+        files.append(QUrl::fromUserInput(argument, QString(), QUrl::AssumeLocalFile));
+    }
+    SingleInstance instance(QDBusConnection::sessionBus());
+    if (!instance.claim()) {
+        instance.forward(files);
+        return 0;
+    }
+    const LumaportApp lumaport(instance);
+    if (!files.isEmpty()) {
+        Q_EMIT instance.opened(files);
+    }
+    return QApplication::exec();
+}
