@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -52,7 +53,14 @@ ConversionOutcome convertInto(const Order &order)
         return tl::unexpected(ConversionError::cannotWriteImage);
     }
     const auto engine = ConversionEngine::create(ImageWorkerLauncher::create());
-    return engine->convert(QUrl::fromLocalFile(photo), order.settings).result();
+    ConversionOutcome result;
+    QEventLoop loop;
+    engine->convert(QUrl::fromLocalFile(photo), order.settings, &loop, [&](const ConversionOutcome &outcome) {
+        result = outcome;
+        loop.quit();
+    });
+    loop.exec();
+    return result;
 }
 
 } // namespace

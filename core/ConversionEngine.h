@@ -3,13 +3,14 @@
 #include "ConversionError.h"
 #include "ConversionSettings.h"
 
-#include <QFuture>
 #include <QUrl>
 
+#include <functional>
 #include <memory>
 #include <tl/expected.hpp>
 
 class ImageWorkerLauncher;
+class QObject;
 
 /// One successful conversion.
 struct ConversionResult
@@ -29,7 +30,10 @@ class ConversionEngine
 public:
     virtual ~ConversionEngine() = default;
 
-    virtual QFuture<ConversionOutcome> convert(const QUrl &sourceURL, const ConversionSettings &settings) = 0;
+    /// Takes the photo and returns at once. `done` is called on the engine's own thread, the main one, when
+    /// the photo's turn is over; not at all when `receiver` or the engine is gone by then.
+    virtual void convert(const QUrl &sourceURL, const ConversionSettings &settings, QObject *receiver,
+                         std::function<void(const ConversionOutcome &)> done) = 0;
 
     /// A photo is about to be converted: whatever takes time and needs no photo may start now. Returns at
     /// once.

@@ -83,12 +83,9 @@ std::optional<ConversionItem> fromObject(const QJsonObject &object)
     }
     ConversionItem item{.id = *id,
                         .sourceName = *sourceName,
-                        .outputName = {},
                         .status = *status,
                         .createdAt = {createdAt.toDouble()},
-                        .sourceURL = *sourceURL,
-                        .outputURL = {},
-                        .errorMessage = {}};
+                        .sourceURL = *sourceURL};
     const auto plainText = [](const QString &text) { return std::optional(text); };
     if (!readOptional(object, QLatin1String("outputName"), item.outputName, plainText) ||
         !readOptional(object, QLatin1String("outputURL"), item.outputURL, fileUrlFromText) ||
@@ -104,12 +101,9 @@ ConversionItem ConversionItem::queuedFor(const QUrl &sourceURL, ReferenceDate cr
 {
     return {.id = QUuid::createUuid(),
             .sourceName = sourceURL.fileName(),
-            .outputName = {},
             .status = ConversionStatus::queued,
             .createdAt = createdAt,
-            .sourceURL = sourceURL,
-            .outputURL = {},
-            .errorMessage = {}};
+            .sourceURL = sourceURL};
 }
 
 std::optional<QByteArray> ConversionItem::listToJson(const QList<ConversionItem> &items)

@@ -8,7 +8,7 @@ FolderMonitor::FolderMonitor() = default;
 
 FolderMonitor::~FolderMonitor()
 {
-    stop();
+    FolderMonitor::stop();
 }
 
 bool FolderMonitor::start(const QUrl &at, std::function<void()> onChange)

@@ -16,16 +16,16 @@ class FolderMonitor
 {
 public:
     FolderMonitor();
-    ~FolderMonitor();
+    virtual ~FolderMonitor();
     FolderMonitor(const FolderMonitor &) = delete;
     FolderMonitor &operator=(const FolderMonitor &) = delete;
 
     /// Ends any earlier watch, then watches the folder `at`. False when it cannot be opened; nothing is
     /// watched then. `onChange` is called on a background thread of the watch; reports that arrive while it
     /// runs become one call.
-    bool start(const QUrl &at, std::function<void()> onChange);
+    virtual bool start(const QUrl &at, std::function<void()> onChange);
 
-    void stop();
+    virtual void stop();
 
 private:
     std::mutex m_lock; ///< guards m_source

@@ -9,7 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QPromise>
+#include <QPointer>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -121,21 +121,24 @@ WorkerConversionEngine::~WorkerConversionEngine()
     m_executor.waitForDone();
 }
 
-QFuture<ConversionOutcome> WorkerConversionEngine::convert(const QUrl &sourceURL,
-                                                           const ConversionSettings &settings)
+void WorkerConversionEngine::convert(const QUrl &sourceURL, const ConversionSettings &settings,
+                                     QObject *receiver, std::function<void(const ConversionOutcome &)> done)
 {
-    auto promise = std::make_shared<QPromise<ConversionOutcome>>();
-    QFuture<ConversionOutcome> future = promise->future();
-    promise->start();
     ++m_waiting;
-    m_executor.start([this, promise, sourceURL, settings] {
+    m_executor.start([this, sourceURL, settings, receiver = QPointer(receiver), done = std::move(done)] {
         if (--m_waiting > 0) {
             prepare(); // the next photo's worker gets ready while this one is busy
         }
-        promise->addResult(convertNow(sourceURL, settings));
-        promise->finish();
+        const ConversionOutcome outcome = convertNow(sourceURL, settings);
+        QMetaObject::invokeMethod(
+            this,
+            [receiver, done, outcome] {
+                if (receiver) {
+                    done(outcome);
+                }
+            },
+            Qt::QueuedConnection);
     });
-    return future;
 }
 
 void WorkerConversionEngine::prepare()

@@ -2,6 +2,7 @@
 
 #include "ConversionEngine.h"
 
+#include <QObject>
 #include <QThreadPool>
 
 #include <atomic>
@@ -16,14 +17,17 @@ class ScratchFile;
 /// The worker writes into a file without a name on the source's file system. Decoding and writing thus go
 /// hand in hand, tile by tile, and still no folder is made and nothing appears before the whole photo has
 /// proved readable.
-class WorkerConversionEngine : public ConversionEngine
+class WorkerConversionEngine : public QObject, public ConversionEngine
 {
+    Q_OBJECT
+
 public:
     explicit WorkerConversionEngine(std::shared_ptr<ImageWorkerLauncher> launcher);
     /// Ends a running conversion, which leaves nothing behind, and drops those that wait.
     ~WorkerConversionEngine() override;
 
-    QFuture<ConversionOutcome> convert(const QUrl &sourceURL, const ConversionSettings &settings) override;
+    void convert(const QUrl &sourceURL, const ConversionSettings &settings, QObject *receiver,
+                 std::function<void(const ConversionOutcome &)> done) override;
     void prepare() override;
 
     /// The folder that the output goes into, made when it is missing; else the file system's error.

@@ -78,7 +78,6 @@ AppModel::AppModel(AppModelServices services, QObject *parent)
     : QObject(parent)
     , m_lastEventText(ModelTexts::waiting())
     , m_services(std::move(services))
-    , m_folderMonitor(std::make_unique<FolderMonitor>())
 {
     for (const auto signal :
          {&AppModel::isWatchingChanged, &AppModel::watchFolderChanged, &AppModel::monitorAvailableChanged}) {
@@ -93,7 +92,10 @@ AppModel::AppModel(AppModelServices services, QObject *parent)
     startMonitoringFolder();
 }
 
-AppModel::~AppModel() = default;
+AppModel::~AppModel()
+{
+    m_services.folderMonitor->stop(); // its reports call this model
+}
 
 void AppModel::loadStoredState()
 {

@@ -34,6 +34,7 @@ struct AppModelServices
     std::shared_ptr<OpenPanel> openPanel;
     std::shared_ptr<Appearance> appearance;
     std::shared_ptr<ConversionEngine> engine;
+    std::shared_ptr<FolderMonitor> folderMonitor;
 
     /// The real ones.
     static AppModelServices standard();
@@ -172,7 +173,6 @@ private:
     int m_welcomeReplayToken = 0;
 
     AppModelServices m_services;
-    std::unique_ptr<FolderMonitor> m_folderMonitor;
     std::unique_ptr<ScheduledJob> m_pendingScanTask;
     std::unique_ptr<ScheduledJob> m_statusClearTask;
     QHash<QString, FileSignature> m_knownFiles; ///< by path: photos that need no conversion

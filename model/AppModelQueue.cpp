@@ -62,14 +62,14 @@ void AppModel::startConversion(const QUuid &id, const QUrl &sourceURL, const Con
         Q_EMIT itemsChanged();
     }
     showStatus(ConversionStatus::converting);
-    m_services.engine->convert(sourceURL, settings)
-        .then(this, [this, id, sourceURL, settings](const ConversionOutcome &outcome) {
-            if (outcome) {
-                finishConversion(id, sourceURL, settings, outcome->outputURL);
-            } else {
-                failConversion(id, sourceURL, description(outcome.error()));
-            }
-        });
+    m_services.engine->convert(sourceURL, settings, this,
+                               [this, id, sourceURL, settings](const ConversionOutcome &outcome) {
+                                   if (outcome) {
+                                       finishConversion(id, sourceURL, settings, outcome->outputURL);
+                                   } else {
+                                       failConversion(id, sourceURL, description(outcome.error()));
+                                   }
+                               });
 }
 
 void AppModel::finishConversion(const QUuid &id, const QUrl &sourceURL, const ConversionSettings &settings,
@@ -177,8 +177,7 @@ void AppModel::choosePhotos()
 {
     m_services.openPanel->show({.choice = OpenPanelRequest::Choice::photoFiles,
                                 .title = tr("Choose HEIC photos"),
-                                .prompt = tr("Convert photos"),
-                                .folder = {}},
+                                .prompt = tr("Convert photos")},
                                [this](const QList<QUrl> &photos) { convertManually(photos); });
 }
 

@@ -1,6 +1,7 @@
 #include "AppModel.h"
 #include "ConversionEngine.h"
 #include "DefaultsStore.h"
+#include "FolderMonitor.h"
 #include "ImageWorkerLauncher.h"
 #include "JobScheduler.h"
 #include "NotificationManager.h"
@@ -17,5 +18,6 @@ AppModelServices AppModelServices::standard()
             .workspace = Workspace::create(),
             .openPanel = OpenPanel::create(),
             .appearance = nullptr,
-            .engine = ConversionEngine::create(ImageWorkerLauncher::create())};
+            .engine = ConversionEngine::create(ImageWorkerLauncher::create()),
+            .folderMonitor = std::make_shared<FolderMonitor>()};
 }

@@ -8,8 +8,6 @@
 #include "ModelTexts.h"
 #include "OpenPanel.h"
 
-#include <QPointer>
-
 using namespace std::chrono_literals;
 
 namespace {
@@ -22,8 +20,8 @@ constexpr auto resumeDelay = 100ms;
 
 void AppModel::startMonitoringFolder()
 {
-    // Reports come on the monitor's thread; the monitor ends, and with it its reports, before the model does.
-    m_monitorAvailable = m_folderMonitor->start(m_watchFolder, [this] {
+    // Reports come on the monitor's thread; they end before the model does.
+    m_monitorAvailable = m_services.folderMonitor->start(m_watchFolder, [this] {
         QMetaObject::invokeMethod(
             this, [this] { scheduleScan(changeDebounce); }, Qt::QueuedConnection);
     });
@@ -84,7 +82,7 @@ void AppModel::scanForNewFiles()
             continue;
         }
         const auto current = signature(file);
-        if (!current || m_knownFiles.value(path, FileSignature{.size = -1, .modifiedAt = {}}) == *current) {
+        if (!current || m_knownFiles.value(path, FileSignature{.size = -1}) == *current) {
             continue;
         }
         if (m_candidates.contains(path) && m_candidates.value(path) == *current) {

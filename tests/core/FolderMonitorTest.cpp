@@ -1,0 +1,156 @@
+#include "FolderMonitor.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSemaphore>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <atomic>
+#include <sys/stat.h>
+
+namespace {
+
+/// Generous; a report that comes at all comes within a millisecond.
+constexpr int patience = 10'000;
+
+void touch(const QString &path)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+}
+
+int openDescriptors()
+{
+    return static_cast<int>(
+        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size());
+}
+
+} // namespace
+
+class FolderMonitorTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QUrl folder() const { return QUrl::fromLocalFile(m_folder->path() + QStringLiteral("/watched")); }
+    QString inFolder(const QString &name) const { return folder().toLocalFile() + QLatin1Char('/') + name; }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(QDir().mkpath(inFolder(QStringLiteral("sub"))));
+        touch(inFolder(QStringLiteral("old.heic")));
+    }
+
+    void shouldReportChangesOfTheFolderItself_data()
+    {
+        QTest::addColumn<std::function<bool()>>("change");
+        const auto path = [this](const char *name) { return inFolder(QString::fromLatin1(name)); };
+        const auto row = [](const char *name, const std::function<bool()> &change) {
+            QTest::newRow(name) << change;
+        };
+        row("file added", [=] { return QFile(path("new.heic")).open(QIODevice::WriteOnly); });
+        row("file removed", [=] { return QFile::remove(path("old.heic")); });
+        row("file renamed", [=] { return QFile::rename(path("old.heic"), path("b.heic")); });
+        row("attributes", [this] { return ::chmod(qPrintable(folder().toLocalFile()), 0711) == 0; });
+        row("folder renamed", [this] {
+            return QDir().rename(folder().toLocalFile(), m_folder->path() + QStringLiteral("/other"));
+        });
+        row("folder deleted", [this] { return QDir(folder().toLocalFile()).removeRecursively(); });
+    }
+
+    void shouldReportChangesOfTheFolderItself()
+    {
+        QFETCH(std::function<bool()>, change);
+        FolderMonitor monitor;
+        QSemaphore reports;
+        QVERIFY(monitor.start(folder(), [&reports] { reports.release(); }));
+        QVERIFY(change());
+        QVERIFY(reports.tryAcquire(1, patience));
+    }
+
+    void shouldNotReportWhatHappensInsideFilesAndSubfolders()
+    {
+        FolderMonitor monitor;
+        QSemaphore entered;
+        QSemaphore release;
+        std::atomic<int> reports = 0;
+        QVERIFY(monitor.start(folder(), [&] {
+            ++reports;
+            entered.release();
+            release.acquire();
+        }));
+        touch(inFolder(QStringLiteral("new.heic")));
+        QVERIFY(entered.tryAcquire(
+            1, patience)); // the monitor is held in this report while the quiet things happen
+
+        QFile old(inFolder(QStringLiteral("old.heic")));
+        QVERIFY(old.open(QIODevice::Append) && old.write("more") == 4);
+        old.close();
+        QCOMPARE(::chmod(qPrintable(old.fileName()), 0600), 0);
+        touch(inFolder(QStringLiteral("sub/inner.heic")));
+
+        release.release(2);
+        monitor.stop(); // what waits in the kernel's queue is delivered first
+        QCOMPARE(reports, 1);
+    }
+
+    void shouldKeepWatchingARenamedFolder()
+    {
+        FolderMonitor monitor;
+        QSemaphore reports;
+        QVERIFY(monitor.start(folder(), [&reports] { reports.release(); }));
+        const QString elsewhere = m_folder->path() + QStringLiteral("/elsewhere");
+        QVERIFY(QDir().rename(folder().toLocalFile(), elsewhere));
+        QVERIFY(reports.tryAcquire(1, patience));
+        touch(elsewhere + QStringLiteral("/new.heic"));
+        QVERIFY(reports.tryAcquire(1, patience));
+    }
+
+    void shouldRefuseWhatCannotBeOpenedAndEndTheEarlierWatch()
+    {
+        FolderMonitor monitor;
+        std::atomic<int> reports = 0;
+        QVERIFY(monitor.start(folder(), [&reports] { ++reports; }));
+        QVERIFY(
+            !monitor.start(QUrl::fromLocalFile(inFolder(QStringLiteral("gone"))), [&reports] { ++reports; }));
+        touch(inFolder(QStringLiteral("new.heic")));
+        QVERIFY(!monitor.start(QUrl::fromLocalFile(inFolder(QStringLiteral("old.heic"))), [] {}));
+        QCOMPARE(reports, 0);
+    }
+
+    void shouldLeaveNoDescriptorBehind()
+    {
+        const int before = openDescriptors();
+        {
+            FolderMonitor monitor;
+            for (int round = 0; round < 50; ++round) {
+                QVERIFY(monitor.start(folder(), [] {}));
+            }
+            QVERIFY(openDescriptors() <= before + 2); // the queue and the end signal of one watch
+            monitor.stop();
+            monitor.stop();
+            QVERIFY(monitor.start(folder(), [] {}));
+        }
+        QCOMPARE(openDescriptors(), before);
+    }
+
+    void shouldBearBeingStoppedFromWithinAReport()
+    {
+        FolderMonitor monitor;
+        QSemaphore stopped;
+        QVERIFY(monitor.start(folder(), [&] {
+            monitor.stop();
+            stopped.release();
+        }));
+        touch(inFolder(QStringLiteral("new.heic")));
+        QVERIFY(stopped.tryAcquire(1, patience));
+    }
+};
+
+QTEST_GUILESS_MAIN(FolderMonitorTest)
+#include "FolderMonitorTest.moc"
