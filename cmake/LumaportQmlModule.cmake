@@ -24,11 +24,5 @@ function(lumaport_qml_module name)
   list(FILTER sources INCLUDE REGEX "/qmlcache/")
   set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
 
-  string(REPLACE "." "_" plugin_class "${module_URI}Plugin")
-  set(import_file "${CMAKE_CURRENT_BINARY_DIR}/${name}_import.cpp")
-  file(CONFIGURE OUTPUT "${import_file}" CONTENT
-    "#include <QtQml/QQmlExtensionPlugin>\nQ_IMPORT_QML_PLUGIN(@plugin_class@)\n" @ONLY)
-  set(is_program "$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>")
-  target_sources(${name} INTERFACE "$<${is_program}:${import_file}>")
-  target_link_libraries(${name} INTERFACE "$<${is_program}:${name}plugin>")
+  target_link_libraries(${name} INTERFACE "$<$<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>:${name}plugin>")
 endfunction()

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Interaction
 import Lumaport.Vocabulary
 
 // Makes the control it lies in feel alive: a soft highlight under the pointer and the hand cursor, both only while the
@@ -10,10 +11,12 @@ Item {
 
     anchors.fill: parent
 
+    ClickCursor {
+        anchors.fill: parent
+    }
+
     HoverHandler {
         id: hover
-
-        cursorShape: feedback.enabled ? Qt.PointingHandCursor : Qt.ArrowCursor
     }
 
     Rectangle {

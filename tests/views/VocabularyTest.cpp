@@ -70,7 +70,8 @@ private Q_SLOTS:
                         continue;
                     }
                     ++drawn;
-                    QVERIFY2(x > 0 && y > 0 && x < 47 && y < 47, qPrintable(file + QStringLiteral(" is cut at its edge")));
+                    QVERIFY2(x > 0 && y > 0 && x < 47 && y < 47,
+                             qPrintable(file + QStringLiteral(" is cut at its edge")));
                     QVERIFY2(pixel.alpha() < 255 || pixel.rgb() == qRgb(0x24, 0x5B, 0xDB), qPrintable(file));
                 }
             }

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Vocabulary
 
 // A text of the program: in the palette's ink unless told otherwise, never taken for markup, and there for a screen reader.
 Text {

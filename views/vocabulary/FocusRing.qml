@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Vocabulary
 
 // The ring around the control that has the keyboard's focus. Its owner says when it shows.
 Rectangle {

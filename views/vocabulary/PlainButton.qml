@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic as Basic
 import QtQuick.Templates as T
+import Lumaport.Vocabulary
 
 // A button without a look of its own: symbol and text, and everything that makes it a button. Space, Return and the
 // assistive interface press it, the focus ring shows where the keyboard is, `help` says what it does.

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Vocabulary
 
 // A button in the quiet style: pressed, it shrinks a little and its fill fades; with reduced motion it only fades.
 PlainButton {

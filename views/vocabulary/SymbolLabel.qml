@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Vocabulary
 
 // A symbol and the text beside it, in one colour. Either may be missing. Where there is more room than it needs it lies
 // at the leading edge, or in the middle when `centred`. Inside a control that speaks for itself it is not `spoken`.
