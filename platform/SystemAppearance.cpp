@@ -1,0 +1,62 @@
+#include "SystemAppearance.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace {
+
+bool isDarkPalette(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+}
+
+// The desktop's own palette where it already has the wanted lightness, for it knows its accent and its
+// contrast; else two colours from which Qt derives the rest.
+void applyWidgetPalette(SystemAppearance::ColorScheme scheme)
+{
+    const bool wantsDark = scheme == SystemAppearance::ColorScheme::Dark;
+    QGuiApplication::setPalette(QPalette());
+    if (isDarkPalette(QGuiApplication::palette()) == wantsDark) {
+        return;
+    }
+    const QColor darkButton(0x25, 0x2F, 0x49);
+    const QColor darkWindow(0x17, 0x1C, 0x30);
+    const QColor lightButton(0xFF, 0xFF, 0xFF);
+    const QColor lightWindow(0xF5, 0xF8, 0xFF);
+    QGuiApplication::setPalette(wantsDark ? QPalette(darkButton, darkWindow)
+                                          : QPalette(lightButton, lightWindow));
+}
+
+} // namespace
+
+void SystemAppearance::setSystemScheme(ColorScheme scheme)
+{
+    m_system = scheme;
+    update();
+}
+
+void SystemAppearance::setMotion(Motion motion)
+{
+    if (m_motion == motion) {
+        return;
+    }
+    m_motion = motion;
+    Q_EMIT reduceMotionChanged();
+}
+
+void SystemAppearance::force(std::optional<ColorScheme> scheme)
+{
+    m_forced = scheme;
+    update();
+}
+
+void SystemAppearance::update()
+{
+    const ColorScheme effective = m_forced.value_or(m_system);
+    if (m_effective == effective) {
+        return;
+    }
+    m_effective = effective;
+    applyWidgetPalette(effective);
+    Q_EMIT darkChanged();
+}

@@ -1,0 +1,46 @@
+import QtQuick
+import QtQuick.Controls.Basic as Basic
+import QtQuick.Templates as T
+import Lumaport.Vocabulary
+
+// A button without a look of its own: symbol and text, and everything that makes it a button. Space, Return and the
+// assistive interface press it, the focus ring shows where the keyboard is, `help` says what it does.
+// With `display: AbstractButton.IconOnly` the text is only spoken.
+T.AbstractButton {
+    id: control
+
+    property string symbol
+    property string help
+    property color color: LumaportPalette.ink
+    property real cornerRadius: 9
+
+    Accessible.description: help === text ? "" : help
+    Accessible.name: text
+    Accessible.onPressAction: control.enabled ? control.clicked() : undefined
+    Basic.ToolTip.delay: 700
+    Basic.ToolTip.text: help
+    Basic.ToolTip.visible: help !== "" && hovered && !down
+    Keys.onEnterPressed: control.clicked()
+    Keys.onReturnPressed: control.clicked()
+    focusPolicy: Qt.StrongFocus
+    font.pixelSize: 12
+    hoverEnabled: true
+    implicitHeight: implicitContentHeight + topPadding + bottomPadding
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    opacity: enabled ? 1 : 0.45
+
+    contentItem: SymbolLabel {
+        centred: true
+        color: control.color
+        elide: Text.ElideMiddle
+        font: control.font
+        spoken: false
+        symbol: control.display === T.AbstractButton.TextOnly ? "" : control.symbol
+        text: control.display === T.AbstractButton.IconOnly ? "" : control.text
+    }
+
+    FocusRing {
+        cornerRadius: control.cornerRadius
+        visible: control.visualFocus
+    }
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "SystemAppearance.h"
+
+#include <QJSEngine>
+#include <QtQml/qqml.h>
+
+/**
+ * Shows the program's one SystemAppearance to QML, as the singleton `SystemAppearance`. Whoever owns it
+ * provides it before the first QML file is loaded, and keeps it for as long as an engine lives.
+ */
+struct SystemAppearanceSingleton
+{
+    Q_GADGET
+    QML_FOREIGN(SystemAppearance)
+    QML_SINGLETON
+    QML_NAMED_ELEMENT(SystemAppearance)
+
+public:
+    static void provide(SystemAppearance &instance) { s_instance = &instance; }
+
+    static SystemAppearance *create(QQmlEngine *, QJSEngine *)
+    {
+        Q_ASSERT(s_instance);
+        QJSEngine::setObjectOwnership(s_instance, QJSEngine::CppOwnership);
+        return s_instance;
+    }
+
+private:
+    inline static SystemAppearance *s_instance = nullptr;
+};
