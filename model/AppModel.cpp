@@ -1,6 +1,5 @@
 #include "AppModel.h"
 
-#include "Appearance.h"
 #include "ConversionEngine.h"
 #include "DefaultsStore.h"
 #include "FolderMonitor.h"
@@ -8,6 +7,7 @@
 #include "ModelTexts.h"
 #include "NotificationManager.h"
 #include "OpenPanel.h"
+#include "SystemAppearance.h"
 #include "WallClock.h"
 #include "Workspace.h"
 
@@ -55,15 +55,16 @@ QUrl folderUrl(const QString &path)
     return QUrl::fromLocalFile(path).adjusted(QUrl::StripTrailingSlash);
 }
 
-Appearance::Choice choiceFor(AppearanceMode mode)
+/// None: what the desktop asks for.
+std::optional<SystemAppearance::ColorScheme> forcedScheme(AppearanceMode mode)
 {
     switch (mode) {
     case AppearanceMode::system:
-        return Appearance::Choice::followSystem;
+        return std::nullopt;
     case AppearanceMode::light:
-        return Appearance::Choice::light;
+        return SystemAppearance::ColorScheme::Light;
     case AppearanceMode::dark:
-        return Appearance::Choice::dark;
+        return SystemAppearance::ColorScheme::Dark;
     }
     Q_UNREACHABLE();
 }
@@ -154,7 +155,7 @@ void AppModel::setAppearanceMode(AppearanceMode mode)
 
 void AppModel::applyAppearance()
 {
-    m_services.appearance->apply(choiceFor(m_appearanceMode));
+    m_services.appearance->force(forcedScheme(m_appearanceMode));
 }
 
 void AppModel::setSettings(const ConversionSettings &settings)

@@ -12,7 +12,6 @@
 #include <chrono>
 #include <memory>
 
-class Appearance;
 class ConversionEngine;
 class DefaultsStore;
 class FolderMonitor;
@@ -20,6 +19,7 @@ class JobScheduler;
 class NotificationManager;
 class OpenPanel;
 class ScheduledJob;
+class SystemAppearance;
 class WallClock;
 class Workspace;
 
@@ -32,7 +32,7 @@ struct AppModelServices
     NotificationManager *notifications = nullptr;
     std::shared_ptr<Workspace> workspace;
     std::shared_ptr<OpenPanel> openPanel;
-    std::shared_ptr<Appearance> appearance;
+    std::shared_ptr<SystemAppearance> appearance;
     std::shared_ptr<ConversionEngine> engine;
     std::shared_ptr<FolderMonitor> folderMonitor;
 

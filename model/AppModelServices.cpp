@@ -6,6 +6,7 @@
 #include "JobScheduler.h"
 #include "NotificationManager.h"
 #include "OpenPanel.h"
+#include "SystemAppearance.h"
 #include "WallClock.h"
 #include "Workspace.h"
 
@@ -17,7 +18,7 @@ AppModelServices AppModelServices::standard()
             .notifications = &NotificationManager::shared(),
             .workspace = Workspace::create(),
             .openPanel = OpenPanel::create(),
-            .appearance = nullptr,
+            .appearance = std::make_shared<SystemAppearance>(),
             .engine = ConversionEngine::create(ImageWorkerLauncher::create()),
             .folderMonitor = std::make_shared<FolderMonitor>()};
 }

@@ -5,6 +5,7 @@
 class AppModel;
 class PlaceholderWindow;
 class QApplication;
+class SettingsPortal;
 class SingleInstance;
 
 /// The application: its one model, its one window, and what other starts of it ask for.
@@ -18,6 +19,7 @@ public:
 private:
     void showMainWindow();
 
+    std::unique_ptr<SettingsPortal> m_portal;
     std::unique_ptr<AppModel> m_model;
     std::unique_ptr<PlaceholderWindow> m_window;
 };

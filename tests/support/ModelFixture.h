@@ -1,13 +1,13 @@
 #pragma once
 
 #include "AppModel.h"
-#include "Appearance.h"
 #include "ConversionEngine.h"
 #include "FolderMonitor.h"
 #include "ManualScheduler.h"
 #include "NotificationCenter.h"
 #include "NotificationManager.h"
 #include "OpenPanel.h"
+#include "SystemAppearance.h"
 #include "WallClock.h"
 #include "Workspace.h"
 
@@ -92,13 +92,6 @@ struct ScriptedOpenPanel : OpenPanel
     QList<QUrl> answer; ///< empty: the user cancels
 };
 
-struct RecordingAppearance : Appearance
-{
-    void apply(Choice choice) override { applied.append(choice); }
-
-    QList<Choice> applied;
-};
-
 struct FixedClock : WallClock
 {
     std::chrono::system_clock::time_point now() const override { return time; }
@@ -131,7 +124,7 @@ public:
     std::shared_ptr<RecordingNotificationCenter> center = std::make_shared<RecordingNotificationCenter>();
     std::shared_ptr<RecordingWorkspace> workspace = std::make_shared<RecordingWorkspace>();
     std::shared_ptr<ScriptedOpenPanel> panel = std::make_shared<ScriptedOpenPanel>();
-    std::shared_ptr<RecordingAppearance> appearance = std::make_shared<RecordingAppearance>();
+    std::shared_ptr<SystemAppearance> appearance = std::make_shared<SystemAppearance>();
     std::shared_ptr<ManualEngine> engine;
     std::shared_ptr<ManualFolderMonitor> monitor = std::make_shared<ManualFolderMonitor>();
 
