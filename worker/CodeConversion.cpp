@@ -1,0 +1,213 @@
+#include "CodeConversion.h"
+
+#include "Vectorised.h"
+
+#include <cmath>
+#include <type_traits>
+
+namespace imageworker {
+
+namespace {
+
+// ITU-T H.273, table 4.
+enum Matrix : unsigned {
+    MatrixIdentity = 0,
+    MatrixBt709 = 1,
+    MatrixUnspecified = 2,
+    MatrixFcc = 4,
+    MatrixBt601Line625 = 5,
+    MatrixBt601 = 6,
+    MatrixSmpte240 = 7,
+    MatrixYCgCo = 8,
+    MatrixBt2020 = 9,
+    MatrixBt2020Constant = 10,
+    MatrixFromPrimaries = 12,
+};
+
+struct Weights
+{
+    double red;
+    double blue;
+};
+
+Weights weightsOf(unsigned matrix, unsigned primaries)
+{
+    switch (matrix) {
+    case MatrixBt709:
+        return {0.2126, 0.0722};
+    case MatrixFcc:
+        return {0.30, 0.11};
+    case MatrixSmpte240:
+        return {0.212, 0.087};
+    case MatrixBt2020:
+    case MatrixBt2020Constant:
+        return {0.2627, 0.0593};
+    case MatrixFromPrimaries: // H.273, equations 39 to 44, worked out for the primaries that cameras use
+        switch (primaries) {
+        case 1:
+            return {0.2126, 0.0722};
+        case 9:
+            return {0.2627, 0.0593};
+        case 12:
+            return {0.2290, 0.0793};
+        default:
+            break;
+        }
+        break;
+    default:
+        break;
+    }
+    return {0.299, 0.114};
+}
+
+template<typename Sample>
+__attribute__((always_inline)) inline void convertRow(const Sample *y, const Sample *cb, const Sample *cr,
+                                                      const auto &by, CodeRow &codes)
+{
+    std::uint16_t *__restrict red = codes.red.data();
+    std::uint16_t *__restrict green = codes.green.data();
+    std::uint16_t *__restrict blue = codes.blue.data();
+    const auto code = [&by](float value) {
+        const float rounded = value + 0.5F;
+        const float positive = rounded > 0.0F ? rounded : 0.0F;
+        const float inside = positive < by.maximum ? positive : by.maximum;
+        return static_cast<std::uint16_t>(static_cast<std::int32_t>(inside));
+    };
+    const int width = codes.width();
+    for (int x = 0; x < width; ++x) {
+        const float luma = by.luma * (static_cast<float>(y[x]) - by.offset);
+        const float first = static_cast<float>(cb[x]) - by.middle;
+        const float second = static_cast<float>(cr[x]) - by.middle;
+        red[x] = code(luma + by.red[0] * first + by.red[1] * second);
+        green[x] = code(luma + by.green[0] * first + by.green[1] * second);
+        blue[x] = code(luma + by.blue[0] * first + by.blue[1] * second);
+    }
+}
+
+template<typename Sample>
+void spread(const Sample *samples, int phase, std::vector<Sample> &row)
+{
+    const auto width = row.size();
+    std::size_t x = 0;
+    if (phase == 1) {
+        row[x++] = *samples++;
+    }
+    for (; x + 1 < width; x += 2) {
+        row[x] = *samples;
+        row[x + 1] = *samples++;
+    }
+    if (x < width) {
+        row[x] = *samples;
+    }
+}
+
+} // namespace
+
+LUMAPORT_VECTORISED void convertColour(const std::uint8_t *y, const std::uint8_t *cb, const std::uint8_t *cr,
+                                       const CodeConversion::Coefficients &by, CodeRow &codes)
+{
+    convertRow(y, cb, cr, by, codes);
+}
+
+LUMAPORT_VECTORISED void convertColour(const std::uint16_t *y, const std::uint16_t *cb,
+                                       const std::uint16_t *cr, const CodeConversion::Coefficients &by,
+                                       CodeRow &codes)
+{
+    convertRow(y, cb, cr, by, codes);
+}
+
+CodePoints effectiveCodePoints(const SampleFormat &format, const ColourDescription &description)
+{
+    CodePoints points = format.codePoints;
+    if (description.codePoints) {
+        const CodePoints &said = *description.codePoints;
+        points.fullRange = said.fullRange;
+        points.primaries = said.primaries == 2 ? points.primaries : said.primaries;
+        points.transfer = said.transfer == 2 ? points.transfer : said.transfer;
+        points.matrix = said.matrix == MatrixUnspecified ? points.matrix : said.matrix;
+    }
+    if (format.isRgb) {
+        points.matrix = MatrixIdentity;
+    } else if (points.matrix == MatrixIdentity || points.matrix == MatrixUnspecified) {
+        points.matrix = MatrixBt601;
+    }
+    return points;
+}
+
+CodeConversion::CodeConversion(const SampleFormat &format, const CodePoints &codePoints)
+    : m_format(format)
+    , m_maximumCode(format.depth == 8 ? 255 : 4095)
+{
+    const double levels = std::exp2(format.depth);
+    const double unit = levels / 256; // limited range is defined for 8 bits and scaled up
+    const double lumaRange = codePoints.fullRange ? levels - 1 : 219 * unit;
+    const double colourRange = codePoints.fullRange ? levels - 1 : 224 * unit;
+    const double luma = m_maximumCode / lumaRange;
+    const double colour = m_maximumCode / colourRange;
+    const auto narrow = [](double value) { return static_cast<float>(value); };
+    m_coefficients.maximum = narrow(m_maximumCode);
+    m_coefficients.offset = narrow(codePoints.fullRange ? 0 : 16 * unit);
+    m_coefficients.luma = narrow(luma);
+    if (codePoints.matrix == MatrixIdentity) { // planes are green, blue, red; all like brightness
+        m_coefficients.middle = 0;
+        return;
+    }
+    m_coefficients.middle = narrow(levels / 2);
+    if (codePoints.matrix == MatrixYCgCo) {
+        m_coefficients.red = {narrow(-colour), narrow(colour)};
+        m_coefficients.green = {narrow(colour), 0.0F};
+        m_coefficients.blue = {narrow(-colour), narrow(-colour)};
+        return;
+    }
+    const auto [red, blue] = weightsOf(codePoints.matrix, codePoints.primaries);
+    const double green = 1 - red - blue;
+    m_coefficients.red = {0.0F, narrow(2 * (1 - red) * colour)};
+    m_coefficients.green = {narrow(-2 * (1 - blue) * blue / green * colour),
+                            narrow(-2 * (1 - red) * red / green * colour)};
+    m_coefficients.blue = {narrow(2 * (1 - blue) * colour), 0.0F};
+}
+
+template<typename Sample>
+void CodeConversion::convertSamples(const SampleRow &row, CodeRow &codes) const
+{
+    const auto plane = [&row](std::size_t index) {
+        return reinterpret_cast<const Sample *>(row.planes[index]);
+    };
+    const auto width = static_cast<std::size_t>(codes.width());
+    if (m_format.isRgb || m_format.planeCount == 1) {
+        // Each channel is a brightness of its own; the colour terms vanish for samples in the middle.
+        Coefficients alone;
+        alone.offset = m_coefficients.offset;
+        alone.luma = m_coefficients.luma;
+        alone.maximum = m_coefficients.maximum;
+        CodeRow same(codes.width());
+        convertColour(plane(0), plane(0), plane(0), alone, codes);
+        if (m_format.isRgb) {
+            convertColour(plane(1), plane(1), plane(1), alone, same);
+            std::swap(codes.blue, same.blue);
+            convertColour(plane(2), plane(2), plane(2), alone, same);
+            std::swap(codes.red, same.red);
+        }
+        return;
+    }
+    if (row.chromaShift == 0) {
+        convertColour(plane(0), plane(1), plane(2), m_coefficients, codes);
+        return;
+    }
+    std::vector<Sample> first(width);
+    std::vector<Sample> second(width);
+    spread(plane(1), row.chromaPhase, first);
+    spread(plane(2), row.chromaPhase, second);
+    convertColour(plane(0), first.data(), second.data(), m_coefficients, codes);
+}
+
+void CodeConversion::convert(const SampleRow &row, CodeRow &codes) const
+{
+    if (m_format.sampleBytes() == 1) {
+        convertSamples<std::uint8_t>(row, codes);
+    } else {
+        convertSamples<std::uint16_t>(row, codes);
+    }
+}
+
+} // namespace imageworker

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+namespace imageworker {
+
+/// One row of non-linear red, green and blue codes, 0 to a maximum that both sides know.
+struct CodeRow
+{
+    explicit CodeRow(int width)
+        : red(static_cast<std::size_t>(width))
+        , green(red)
+        , blue(red)
+    {}
+    int width() const { return static_cast<int>(red.size()); }
+
+    std::vector<std::uint16_t> red;
+    std::vector<std::uint16_t> green;
+    std::vector<std::uint16_t> blue;
+};
+
+} // namespace imageworker

@@ -1,0 +1,117 @@
+#include "Conversation.h"
+
+#include "FileDescriptor.h"
+#include "ImageWorkerWire.h"
+#include "PhotoConverter.h"
+#include "PhotoReader.h"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <sys/resource.h>
+#include <sys/socket.h>
+
+namespace imageworker {
+
+namespace {
+
+using namespace imageworkerwire;
+
+struct Asked
+{
+    Request request;
+    FileDescriptor file;
+};
+
+/// The next request; nothing once the application has gone, or says what no application of ours does.
+std::optional<Asked> receive(int socket)
+{
+    Asked asked;
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> control = {};
+    iovec part = {&asked.request, sizeof(asked.request)};
+    msghdr message = {};
+    message.msg_iov = &part;
+    message.msg_iovlen = 1;
+    message.msg_control = control.data();
+    message.msg_controllen = control.size();
+    ssize_t count = 0;
+    do {
+        count = ::recvmsg(socket, &message, MSG_CMSG_CLOEXEC);
+    } while (count < 0 && errno == EINTR);
+    const cmsghdr *header = CMSG_FIRSTHDR(&message);
+    if (count != ssize_t{sizeof(Request)} || header == nullptr || header->cmsg_type != SCM_RIGHTS) {
+        return std::nullopt;
+    }
+    int descriptor = -1;
+    std::memcpy(&descriptor, CMSG_DATA(header), sizeof(descriptor));
+    asked.file = FileDescriptor(descriptor);
+    return asked;
+}
+
+Outcome outcomeOf(const Result<void> &result)
+{
+    if (result) {
+        return Outcome::Done;
+    }
+    return result.error() == Fault::CannotWrite ? Outcome::CannotWrite : Outcome::Unreadable;
+}
+
+/// The one photo of this process.
+class OpenedPhoto
+{
+public:
+    Reply answer(Asked &asked)
+    {
+        switch (asked.request.kind) {
+        case RequestKind::Open:
+            return open(std::move(asked.file));
+        case RequestKind::Write:
+            return write(asked);
+        case RequestKind::Thumbnail:
+            break;
+        }
+        return {Outcome::Unreadable};
+    }
+
+private:
+    Reply open(FileDescriptor file)
+    {
+        m_file = std::move(file);
+        m_source = sourceOfFile(m_file.number());
+        m_photo = m_source ? readPhoto(*m_source) : unreadable();
+        if (!m_photo) {
+            return {Outcome::Unreadable};
+        }
+        const PixelSize size = m_photo->uprightSize();
+        return {Outcome::Done, size.width, size.height};
+    }
+
+    Reply write(const Asked &asked) const
+    {
+        if (!m_photo) {
+            return {Outcome::Unreadable};
+        }
+        const CopyFormat format = asked.request.format == Format::Png ? CopyFormat::Png : CopyFormat::Jpeg;
+        return {outcomeOf(
+            writeCopy(*m_source, *m_photo, asked.file.number(), format, asked.request.jpegQuality))};
+    }
+
+    FileDescriptor m_file;
+    std::unique_ptr<Source> m_source;
+    Result<Photo> m_photo = unreadable();
+};
+
+} // namespace
+
+void converse(int socket, Rights rights)
+{
+    OpenedPhoto photo;
+    while (auto asked = receive(socket)) {
+        const Reply reply = rights == Rights::GivenUp ? photo.answer(*asked) : Reply{Outcome::NotLockedDown};
+        if (::send(socket, &reply, sizeof(reply), MSG_NOSIGNAL) != ssize_t{sizeof(reply)}) {
+            return;
+        }
+    }
+}
+
+} // namespace imageworker

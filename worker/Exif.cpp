@@ -1,0 +1,103 @@
+#include "Exif.h"
+
+#include "ByteReader.h"
+#include "TiffFields.h"
+#include "TiffWriter.h"
+
+#include <algorithm>
+
+namespace imageworker {
+
+namespace {
+
+constexpr std::uint32_t StandardRgb = 1;
+
+void setIfPresent(TiffFields &tiff, const std::vector<TiffField> &fields, TiffTag tag, std::uint32_t value)
+{
+    if (const TiffField *field = fieldOf(fields, tag)) {
+        tiff.setValue(*field, value);
+    }
+}
+
+/// Unlinks the second directory, which describes the preview, and wipes the preview: it may show what a crop
+/// has removed. Gives the length of the structure without it.
+std::size_t removePreview(TiffFields &tiff)
+{
+    const std::size_t length = tiff.bytes().size();
+    const std::size_t link = tiff.linkPosition(tiff.firstDirectory());
+    const std::size_t directory = link == 0 ? 0 : tiff.number(link, 4);
+    if (directory == 0) {
+        return length;
+    }
+    tiff.setNumber(link, 4, 0);
+    const auto fields = tiff.fields(directory);
+    const TiffField *offsetField = fieldOf(fields, TiffTag::PreviewOffset);
+    const TiffField *lengthField = fieldOf(fields, TiffTag::PreviewLength);
+    if (offsetField == nullptr || lengthField == nullptr) {
+        return length;
+    }
+    const std::size_t offset = tiff.value(*offsetField);
+    const std::size_t previewLength = tiff.value(*lengthField);
+    // A preview starts after the directory that describes it; anything else is a lie about where it lies.
+    if (offset <= directory || offset > length || previewLength > length - offset) {
+        return length;
+    }
+    std::ranges::fill(tiff.bytes().subspan(offset, previewLength), std::uint8_t{0});
+    return offset + previewLength == length ? offset : length;
+}
+
+} // namespace
+
+Bytes tiffOfExifItem(std::span<const std::uint8_t> item)
+{
+    ByteReader reader(item);
+    reader.take(reader.u32());
+    return {reader.rest().begin(), reader.rest().end()};
+}
+
+unsigned exifOrientation(std::span<const std::uint8_t> tiff)
+{
+    Bytes copy(tiff.begin(), tiff.end());
+    const auto structure = TiffFields::of(copy);
+    if (!structure) {
+        return 1;
+    }
+    const auto fields = structure->fields(structure->firstDirectory());
+    const TiffField *field = fieldOf(fields, TiffTag::Orientation);
+    const unsigned orientation = field == nullptr ? 1 : structure->value(*field);
+    return orientation >= 1 && orientation <= 8 ? orientation : 1;
+}
+
+void describeCopy(Bytes &tiff, PixelSize size)
+{
+    auto structure = TiffFields::of(tiff);
+    if (!structure) {
+        tiff.clear();
+        return;
+    }
+    const auto width = static_cast<std::uint32_t>(size.width);
+    const auto height = static_cast<std::uint32_t>(size.height);
+    const auto fields = structure->fields(structure->firstDirectory());
+    setIfPresent(*structure, fields, TiffTag::Orientation, 1);
+    setIfPresent(*structure, fields, TiffTag::ImageWidth, width);
+    setIfPresent(*structure, fields, TiffTag::ImageLength, height);
+    if (const TiffField *link = fieldOf(fields, TiffTag::ExifDirectory)) {
+        const auto details = structure->fields(structure->value(*link));
+        setIfPresent(*structure, details, TiffTag::ColourSpace, StandardRgb);
+        setIfPresent(*structure, details, TiffTag::PixelWidth, width);
+        setIfPresent(*structure, details, TiffTag::PixelHeight, height);
+    }
+    tiff.resize(removePreview(*structure));
+}
+
+Bytes exifWithin(const Bytes &tiff, std::size_t limit)
+{
+    if (tiff.size() <= limit) {
+        return tiff;
+    }
+    Bytes copy = tiff;
+    const auto structure = TiffFields::of(copy);
+    return structure ? rewrittenWithin(*structure, limit) : Bytes();
+}
+
+} // namespace imageworker

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Result.h"
+
+#include <span>
+
+namespace imageworker {
+
+/// Where a copy's bytes go. Once a write has failed, all others do.
+class OutputFile
+{
+public:
+    /// The descriptor stays the caller's.
+    explicit OutputFile(int descriptor)
+        : m_descriptor(descriptor)
+    {}
+
+    /// Appends all of @p bytes; false when the file cannot take them.
+    bool write(std::span<const std::uint8_t> bytes);
+
+    bool hasFailed() const { return m_failed; }
+
+private:
+    int m_descriptor;
+    bool m_failed = false;
+};
+
+} // namespace imageworker

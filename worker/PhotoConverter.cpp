@@ -1,0 +1,30 @@
+#include "PhotoConverter.h"
+
+#include "Exif.h"
+#include "JpegEncoder.h"
+#include "PhotoRows.h"
+#include "Pipeline.h"
+#include "PngEncoder.h"
+#include "Xmp.h"
+
+namespace imageworker {
+
+Result<void> writeCopy(const Source &source, const Photo &photo, int output, CopyFormat format,
+                       double jpegQuality)
+{
+    const int workers = availableWorkers();
+    const auto rows = openRows(source, photo, workers);
+    if (!rows) {
+        return tl::unexpected(rows.error());
+    }
+    const PixelSize size = (*rows)->size();
+    CopyMetadata metadata{photo.exif, photo.xmp};
+    describeCopy(metadata.exif, size);
+    describeCopyInXmp(metadata.xmp, size);
+    OutputFile file(output);
+    const auto encoder = format == CopyFormat::Png ? makePngEncoder(file, size, metadata)
+                                                   : makeJpegEncoder(file, size, jpegQuality, metadata);
+    return runPipeline(**rows, *encoder, workers);
+}
+
+} // namespace imageworker

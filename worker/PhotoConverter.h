@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Photo.h"
+#include "Source.h"
+
+namespace imageworker {
+
+enum class CopyFormat { Png, Jpeg };
+
+/// Decodes @p photo and writes it, upright and in sRGB, with its metadata, to the empty file @p output. @p
+/// jpegQuality is a fraction. Damage within the pictures shows only here: Unreadable.
+Result<void> writeCopy(const Source &source, const Photo &photo, int output, CopyFormat format,
+                       double jpegQuality);
+
+} // namespace imageworker

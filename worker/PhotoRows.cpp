@@ -1,0 +1,90 @@
+#include "PhotoRows.h"
+
+#include "Pipeline.h"
+#include "TileRows.h"
+
+namespace imageworker {
+
+namespace {
+
+/// Keeps one channel of a grey picture: its opacity plane.
+class AlphaWriter : public RowEncoder
+{
+public:
+    explicit AlphaWriter(AlphaPlane &plane)
+        : m_plane(plane)
+    {}
+
+    Order order() const override { return Order::AtOnce; }
+    int chunkHeight() const override { return 64; }
+    Result<void> begin() override
+    {
+        m_plane.samples.resize(static_cast<std::size_t>(m_plane.size.width) *
+                               static_cast<std::size_t>(m_plane.size.height));
+        return {};
+    }
+    Result<void> encodeChunk(int, int top, int height, const RowReader &readRow) override
+    {
+        const auto width = static_cast<std::size_t>(m_plane.size.width);
+        Bytes row(width * 4);
+        for (int y = top; y < top + height; ++y) {
+            readRow(y, row.data());
+            std::uint8_t *opacities = m_plane.samples.data() + static_cast<std::size_t>(y) * width;
+            for (std::size_t x = 0; x < width; ++x) {
+                opacities[x] = row[4 * x];
+            }
+        }
+        return {};
+    }
+    Result<void> finish() override { return {}; }
+
+private:
+    AlphaPlane &m_plane;
+};
+
+Result<AlphaPlane> decodeAlpha(const Source &source, const Picture &picture, int workers)
+{
+    AlphaPlane plane;
+    const auto *grid = std::get_if<TileGrid>(&picture.content);
+    if (grid == nullptr) {
+        return unreadable();
+    }
+    auto rows = TileRows::create(source, *grid, picture.upright, picture.colour, {}, workers);
+    if (!rows) {
+        return unreadable();
+    }
+    plane.size = (*rows)->size();
+    AlphaWriter writer(plane);
+    if (!runPipeline(**rows, writer, workers)) {
+        return unreadable();
+    }
+    return plane;
+}
+
+Result<std::unique_ptr<RowSource>> openPicture(const Source &source, const Picture &picture, int workers)
+{
+    const auto *grid = std::get_if<TileGrid>(&picture.content);
+    if (grid == nullptr) {
+        return unreadable();
+    }
+    AlphaPlane alpha;
+    if (picture.alpha != nullptr) {
+        auto decoded = decodeAlpha(source, *picture.alpha, workers);
+        if (!decoded) {
+            return unreadable();
+        }
+        alpha = std::move(*decoded);
+        alpha.premultiplied = picture.premultiplied;
+    }
+    return TileRows::create(source, *grid, picture.upright, picture.colour, std::move(alpha), workers);
+}
+
+} // namespace
+
+Result<std::unique_ptr<RowSource>> openRows(const Source &source, const Photo &photo, int workers)
+{
+    const auto *picture = std::get_if<Picture>(&photo.picture);
+    return picture == nullptr ? unreadable() : openPicture(source, *picture, workers);
+}
+
+} // namespace imageworker

@@ -1,0 +1,145 @@
+#include "PictureProperties.h"
+
+#include "Boxes.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+namespace imageworker {
+
+namespace {
+
+/// Clean aperture: a size and the distance of its centre from the picture's, all as fractions.
+Result<void> applyCleanAperture(ByteReader reader, Upright &upright)
+{
+    const auto fraction = [&reader] {
+        const auto numerator = static_cast<std::int32_t>(reader.u32());
+        const auto denominator = static_cast<std::int32_t>(reader.u32());
+        return denominator == 0 ? std::nan("") : double{1} * numerator / denominator;
+    };
+    const double width = fraction();
+    const double height = fraction();
+    const double horizontal = fraction();
+    const double vertical = fraction();
+    const PixelSize size = upright.size();
+    const double left = horizontal + (size.width - width) / 2;
+    const double top = vertical + (size.height - height) / 2;
+    constexpr double Farthest = 1e6; // keeps the numbers well inside those that convert
+    const auto isSane = [](double value) { return std::abs(value) < Farthest; }; // false for a NaN, too
+    if (reader.failed() || !isSane(width) || !isSane(height) || !isSane(left) || !isSane(top) || width < 1 ||
+        height < 1 ||
+        !upright.cropTo(std::lround(left), std::lround(top), std::lround(width), std::lround(height))) {
+        return unreadable();
+    }
+    return {};
+}
+
+} // namespace
+
+Result<PixelSize> spatialExtent(const ItemTable &table, const Item &item)
+{
+    const ItemProperty *property = table.property(item, fourCharacters("ispe"));
+    if (property == nullptr) {
+        return unreadable();
+    }
+    ByteReader reader(property->payload);
+    readFullBoxHeader(reader);
+    const std::uint32_t width = reader.u32();
+    const std::uint32_t height = reader.u32();
+    if (reader.failed() || !isAcceptable(width, height)) {
+        return unreadable();
+    }
+    return PixelSize{static_cast<int>(width), static_cast<int>(height)};
+}
+
+void readColour(std::span<const std::uint8_t> payload, ColourDescription &colour)
+{
+    ByteReader reader(payload);
+    switch (reader.u32()) {
+    case fourCharacters("nclx"): {
+        CodePoints points;
+        points.primaries = reader.u16();
+        points.transfer = reader.u16();
+        points.matrix = reader.u16();
+        points.fullRange = (reader.u8() & 0x80) != 0;
+        if (!reader.failed()) {
+            colour.codePoints = points;
+        }
+        break;
+    }
+    case fourCharacters("prof"):
+    case fourCharacters("rICC"):
+        colour.iccProfile.assign(reader.rest().begin(), reader.rest().end());
+        break;
+    default:
+        break;
+    }
+}
+
+ColourDescription colourOf(const ItemTable &table, const Item &item)
+{
+    ColourDescription colour;
+    for (const std::uint32_t index : item.properties) {
+        if (index < table.properties.size() && table.properties[index].type == fourCharacters("colr")) {
+            readColour(table.properties[index].payload, colour);
+        }
+    }
+    return colour;
+}
+
+Result<bool> applyTransformations(const ItemTable &table, const Item &item, Upright &upright)
+{
+    bool turns = false;
+    for (const std::uint32_t index : item.properties) {
+        if (index >= table.properties.size()) {
+            continue;
+        }
+        ByteReader reader(table.properties[index].payload);
+        switch (table.properties[index].type) {
+        case fourCharacters("irot"):
+            upright.rotateAnticlockwise(reader.u8() & 3);
+            turns = true;
+            break;
+        case fourCharacters("imir"):
+            if ((reader.u8() & 1) == 0) {
+                upright.exchangeTopAndBottom();
+            } else {
+                upright.exchangeLeftAndRight();
+            }
+            turns = true;
+            break;
+        case fourCharacters("clap"):
+            if (!applyCleanAperture(reader, upright)) {
+                return unreadable();
+            }
+            break;
+        default:
+            break;
+        }
+    }
+    return turns;
+}
+
+bool isAlpha(const ItemTable &table, const Item &item)
+{
+    constexpr std::string_view Names[] = {
+        "urn:mpeg:mpegB:cicp:systems:auxiliary:alpha", // ISO/IEC 23008-12, 6.5.8
+        "urn:mpeg:hevc:2015:auxid:1",                  // its annex B.2.3 for HEVC
+        "urn:mpeg:avc:2015:auxid:1",
+    };
+    const ItemProperty *property = table.property(item, fourCharacters("auxC"));
+    if (property == nullptr) {
+        return false;
+    }
+    ByteReader reader(property->payload);
+    readFullBoxHeader(reader);
+    const auto text = reader.text();
+    return std::ranges::any_of(Names, [&text](std::string_view name) {
+        return std::ranges::equal(name, text, [](char character, std::uint8_t byte) {
+            return static_cast<std::uint8_t>(character) == byte;
+        });
+    });
+}
+
+} // namespace imageworker

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ItemTable.h"
+#include "Photo.h"
+
+namespace imageworker {
+
+/// "ispe", ISO/IEC 23008-12, 6.5.3; Unreadable when it is missing or asks for more than is accepted.
+Result<PixelSize> spatialExtent(const ItemTable &table, const Item &item);
+
+/// All "colr" properties together, ISO/IEC 14496-12, 12.1.5: an item may have code points and a profile.
+ColourDescription colourOf(const ItemTable &table, const Item &item);
+
+/// "irot", "imir" and "clap" in the order of the item's properties, ISO/IEC 23008-12, 6.5.10, 6.5.12 and
+/// ISO/IEC 14496-12, 12.1.4. Gives whether there was an "irot" or "imir"; Unreadable when a crop leaves
+/// nothing.
+Result<bool> applyTransformations(const ItemTable &table, const Item &item, Upright &upright);
+
+/// Whether "auxC" says that the item is an alpha plane, ISO/IEC 23008-12, 6.5.8.
+bool isAlpha(const ItemTable &table, const Item &item);
+
+/// One "colr" box's payload into @p colour; kinds that are not understood change nothing.
+void readColour(std::span<const std::uint8_t> payload, ColourDescription &colour);
+
+} // namespace imageworker

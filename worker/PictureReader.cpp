@@ -1,0 +1,277 @@
+#include "PictureReader.h"
+
+#include "Boxes.h"
+#include "CodecConfiguration.h"
+#include "ItemData.h"
+#include "PictureProperties.h"
+
+#include <algorithm>
+
+namespace imageworker {
+
+namespace {
+
+constexpr int MaximumDepth = 8;
+constexpr std::size_t MaximumLayers = 64;
+constexpr std::size_t MaximumPictures = 256; // overlays of overlays multiply
+
+class PictureReader
+{
+public:
+    PictureReader(const Source &source, const ItemTable &table)
+        : m_source(source)
+        , m_table(table)
+    {}
+
+    Result<ReadPicture> read(std::uint32_t identifier, int depth);
+
+private:
+    Result<void> readContent(const Item &item, int depth, Picture &picture);
+    Result<CodedPicture> readCoded(const Item &item) const;
+    Result<void> readSingle(const Item &item, Picture &picture) const;
+    Result<void> readGrid(const Item &item, Picture &picture) const;
+    Result<void> readIdentity(const Item &item, int depth, Picture &picture);
+    Result<void> readOverlay(const Item &item, int depth, Picture &picture);
+    Result<void> readAlpha(std::uint32_t identifier, int depth, Picture &picture);
+    Result<Bytes> readDerivation(const Item &item) const;
+
+    const Source &m_source;
+    const ItemTable &m_table;
+    std::size_t m_pictures = 0; ///< read so far, however deep
+};
+
+Result<ReadPicture> PictureReader::read(std::uint32_t identifier, int depth)
+{
+    const Item *item = m_table.find(identifier);
+    if (item == nullptr || depth > MaximumDepth || ++m_pictures > MaximumPictures) {
+        return unreadable();
+    }
+    ReadPicture result;
+    Picture &picture = result.picture;
+    if (!readContent(*item, depth, picture)) {
+        return unreadable();
+    }
+    ColourDescription colour = colourOf(m_table, *item);
+    if (colour.codePoints) {
+        picture.colour.codePoints = colour.codePoints;
+    }
+    if (!colour.iccProfile.empty()) {
+        picture.colour.iccProfile = std::move(colour.iccProfile);
+    }
+    const auto turned = applyTransformations(m_table, *item, picture.upright);
+    if (!turned) {
+        return unreadable();
+    }
+    if (picture.alpha != nullptr) { // of the picture that an identity shows again: it turns along
+        auto alpha = std::make_shared<Picture>(*picture.alpha);
+        if (!applyTransformations(m_table, *item, alpha->upright)) {
+            return unreadable();
+        }
+        picture.alpha = std::move(alpha);
+    }
+    if (!readAlpha(identifier, depth, picture)) {
+        return unreadable();
+    }
+    result.turnsItself = *turned;
+    return result;
+}
+
+Result<void> PictureReader::readContent(const Item &item, int depth, Picture &picture)
+{
+    switch (item.type) {
+    case fourCharacters("grid"):
+        return readGrid(item, picture);
+    case fourCharacters("iden"):
+        return readIdentity(item, depth, picture);
+    case fourCharacters("iovl"):
+        return readOverlay(item, depth, picture);
+    case fourCharacters("tmap"): { // the first input is the picture, the second its gain map
+        const auto inputs = referencesOf(item, fourCharacters("dimg"));
+        const Item *base = inputs.empty() ? nullptr : m_table.find(inputs.front());
+        if (base == nullptr || base->type == item.type) {
+            return unreadable();
+        }
+        return readIdentity(item, depth, picture);
+    }
+    default:
+        return readSingle(item, picture);
+    }
+}
+
+Result<CodedPicture> PictureReader::readCoded(const Item &item) const
+{
+    CodedPicture coded;
+    const ItemProperty *record = m_table.property(item, configurationTypeOf(item.type));
+    if (!readCodecConfiguration(item.type, record, coded)) {
+        return unreadable();
+    }
+    auto location = locateItem(m_source, m_table, item);
+    if (!location) {
+        return unreadable();
+    }
+    const auto bytes = readAll(m_source, *location);
+    if (!bytes || !hasSoundUnits(coded, *bytes)) {
+        return unreadable();
+    }
+    coded.data = std::move(*location);
+    return coded;
+}
+
+Result<void> PictureReader::readSingle(const Item &item, Picture &picture) const
+{
+    const auto size = spatialExtent(m_table, item);
+    auto coded = size ? readCoded(item) : unreadable();
+    if (!coded) {
+        return unreadable();
+    }
+    TileGrid grid;
+    grid.tile = *size;
+    grid.canvas = *size;
+    grid.tiles.push_back(std::move(*coded));
+    picture.upright = Upright(*size);
+    picture.content = std::move(grid);
+    return {};
+}
+
+Result<Bytes> PictureReader::readDerivation(const Item &item) const
+{
+    constexpr std::uint64_t LongestDerivation = 64 * 1024;
+    const auto location = locateItem(m_source, m_table, item);
+    if (!location || lengthOf(*location) > LongestDerivation) {
+        return unreadable();
+    }
+    return readAll(m_source, *location);
+}
+
+/// Grid derivation, ISO/IEC 23008-12, 6.6.2.3.
+Result<void> PictureReader::readGrid(const Item &item, Picture &picture) const
+{
+    const auto bytes = readDerivation(item);
+    if (!bytes) {
+        return unreadable();
+    }
+    ByteReader reader(*bytes);
+    const unsigned version = reader.u8();
+    const unsigned width = (reader.u8() & 1) != 0 ? 4 : 2;
+    TileGrid grid;
+    grid.rows = reader.u8() + 1;
+    grid.columns = reader.u8() + 1;
+    const auto canvasWidth = static_cast<std::int64_t>(reader.number(width));
+    const auto canvasHeight = static_cast<std::int64_t>(reader.number(width));
+    const auto inputs = referencesOf(item, fourCharacters("dimg"));
+    if (reader.failed() || version != 0 || !isAcceptable(canvasWidth, canvasHeight) ||
+        inputs.size() != static_cast<std::size_t>(grid.rows) * static_cast<std::size_t>(grid.columns)) {
+        return unreadable();
+    }
+    grid.canvas = {static_cast<int>(canvasWidth), static_cast<int>(canvasHeight)};
+    for (const std::uint32_t input : inputs) {
+        const Item *tile = m_table.find(input);
+        const auto size = tile != nullptr ? spatialExtent(m_table, *tile) : unreadable();
+        auto coded = size ? readCoded(*tile) : unreadable();
+        if (!coded || (!grid.tiles.empty() && *size != grid.tile)) {
+            return unreadable();
+        }
+        if (grid.tiles.empty()) {
+            grid.tile = *size;
+            picture.colour = colourOf(m_table, *tile);
+        }
+        grid.tiles.push_back(std::move(*coded));
+    }
+    // The tiles together must cover the canvas: a hole could not be told from the photo.
+    if (std::int64_t{grid.tile.width} * grid.columns < canvasWidth ||
+        std::int64_t{grid.tile.height} * grid.rows < canvasHeight) {
+        return unreadable();
+    }
+    picture.upright = Upright(grid.canvas);
+    picture.content = std::move(grid);
+    return {};
+}
+
+/// Identity derivation, ISO/IEC 23008-12, 6.6.2.1: the input as it is shown, ready to be turned once more.
+Result<void> PictureReader::readIdentity(const Item &item, int depth, Picture &picture)
+{
+    const auto inputs = referencesOf(item, fourCharacters("dimg"));
+    auto input = inputs.empty() ? unreadable() : read(inputs.front(), depth + 1);
+    if (!input) {
+        return unreadable();
+    }
+    picture = std::move(input->picture);
+    return {};
+}
+
+/// Overlay derivation, ISO/IEC 23008-12, 6.6.2.2.
+Result<void> PictureReader::readOverlay(const Item &item, int depth, Picture &picture)
+{
+    const auto bytes = readDerivation(item);
+    const auto inputs = referencesOf(item, fourCharacters("dimg"));
+    if (!bytes || inputs.empty() || inputs.size() > MaximumLayers) {
+        return unreadable();
+    }
+    ByteReader reader(*bytes);
+    const unsigned version = reader.u8();
+    const unsigned width = (reader.u8() & 1) != 0 ? 4 : 2;
+    Overlay overlay;
+    for (std::uint16_t &channel : overlay.fill) {
+        channel = reader.u16();
+    }
+    const auto canvasWidth = static_cast<std::int64_t>(reader.number(width));
+    const auto canvasHeight = static_cast<std::int64_t>(reader.number(width));
+    const auto offset = [&reader, width] {
+        const std::uint64_t value = reader.number(width);
+        return width == 2 ? static_cast<std::int16_t>(value) : static_cast<std::int32_t>(value);
+    };
+    if (version != 0 || !isAcceptable(canvasWidth, canvasHeight)) {
+        return unreadable();
+    }
+    overlay.canvas = {static_cast<int>(canvasWidth), static_cast<int>(canvasHeight)};
+    for (const std::uint32_t input : inputs) {
+        Overlay::Layer layer;
+        layer.x = offset();
+        layer.y = offset();
+        auto read = reader.failed() ? unreadable() : this->read(input, depth + 1);
+        if (!read) {
+            return unreadable();
+        }
+        layer.picture = std::make_shared<Picture>(std::move(read->picture));
+        overlay.layers.push_back(std::move(layer));
+    }
+    picture.upright = Upright(overlay.canvas);
+    picture.content = std::move(overlay);
+    return {};
+}
+
+/// An auxiliary picture that gives the opacity, ISO/IEC 23008-12, 7.5.3.
+Result<void> PictureReader::readAlpha(std::uint32_t identifier, int depth, Picture &picture)
+{
+    for (const auto &[auxiliary, item] : m_table.items) {
+        const auto masters = referencesOf(item, fourCharacters("auxl"));
+        if (std::ranges::find(masters, identifier) == masters.end() || !isAlpha(m_table, item)) {
+            continue;
+        }
+        auto alpha = read(auxiliary, depth + 1);
+        if (!alpha || alpha->picture.alpha != nullptr ||
+            !std::holds_alternative<TileGrid>(alpha->picture.content)) {
+            return unreadable();
+        }
+        picture.alpha = std::make_shared<Picture>(std::move(alpha->picture));
+        const Item *master = m_table.find(identifier);
+        const auto premultipliedBy = referencesOf(*master, fourCharacters("prem"));
+        picture.premultiplied = std::ranges::find(premultipliedBy, auxiliary) != premultipliedBy.end();
+        return {};
+    }
+    return {};
+}
+
+} // namespace
+
+Result<ReadPicture> readPicture(const Source &source, const ItemTable &table, std::uint32_t identifier)
+{
+    return PictureReader(source, table).read(identifier, 0);
+}
+
+PixelSize Photo::uprightSize() const
+{
+    return std::visit([](const auto &content) { return content.upright.size(); }, picture);
+}
+
+} // namespace imageworker

@@ -1,0 +1,241 @@
+#include "PngEncoder.h"
+
+#include "PngFilter.h"
+
+#include <algorithm>
+#include <array>
+#include <isa-l.h>
+#include <map>
+#include <mutex>
+#include <string_view>
+
+namespace imageworker {
+
+namespace {
+
+constexpr std::size_t ChunkMemory = 1024 * 1024; // of unfiltered pixels
+constexpr int TallestChunk = 64;
+constexpr std::uint32_t AdlerModulus = 65'521;
+
+void appendNumber(Bytes &bytes, std::uint32_t value)
+{
+    for (int shift = 24; shift >= 0; shift -= 8) {
+        bytes.push_back(static_cast<std::uint8_t>(value >> shift));
+    }
+}
+
+/// The checksum of two pieces of data joined, the second being @p length bytes (RFC 1950, 8.2).
+std::uint32_t joinedAdler(std::uint32_t first, std::uint32_t second, std::uint64_t length)
+{
+    const std::uint64_t a1 = first & 0xFFFF;
+    const std::uint64_t b1 = first >> 16;
+    const std::uint64_t a2 = second & 0xFFFF;
+    const std::uint64_t b2 = second >> 16;
+    const std::uint64_t a = (a1 + a2 + AdlerModulus - 1) % AdlerModulus;
+    const std::uint64_t b =
+        (b1 + b2 + (length % AdlerModulus) * ((a1 + AdlerModulus - 1) % AdlerModulus)) % AdlerModulus;
+    return static_cast<std::uint32_t>(b << 16 | a);
+}
+
+/// Filters and compresses one chunk. What it holds is large enough to be worth keeping from one chunk to the
+/// next.
+class ChunkCompressor
+{
+public:
+    ChunkCompressor(PixelSize size, int chunkHeight)
+        : m_rowLength(static_cast<std::size_t>(size.width) * 4)
+        , m_rows(2 * m_rowLength)
+        , m_filtered((m_rowLength + 1) * static_cast<std::size_t>(chunkHeight))
+        , m_levelBuffer(ISAL_DEF_LVL2_DEFAULT)
+    {}
+
+    void filter(int top, int height, const RowReader &readRow)
+    {
+        std::uint8_t *row = m_rows.data();
+        std::uint8_t *above = row + m_rowLength;
+        std::uint8_t *filtered = m_filtered.data();
+        for (int y = top; y < top + height; ++y, filtered += m_rowLength + 1) {
+            readRow(y, row);
+            if (y == top) {
+                filterSub(row, m_rowLength, filtered); // the row above belongs to another chunk
+            } else {
+                filterPaeth(row, above, m_rowLength, filtered);
+            }
+            std::swap(row, above);
+        }
+        m_length = (m_rowLength + 1) * static_cast<std::size_t>(height);
+    }
+
+    /// Appends the compressed rows to @p output; a stream is closed only by its last chunk.
+    void compress(bool isLast, Bytes &output)
+    {
+        isal_zstream stream;
+        isal_deflate_init(&stream);
+        stream.level = 2;
+        stream.level_buf = m_levelBuffer.data();
+        stream.level_buf_size = static_cast<std::uint32_t>(m_levelBuffer.size());
+        stream.flush = isLast ? NO_FLUSH : FULL_FLUSH;
+        stream.end_of_stream = isLast ? 1 : 0;
+        stream.next_in = m_filtered.data();
+        stream.avail_in = static_cast<std::uint32_t>(m_length);
+        constexpr std::size_t Step = 256 * 1024;
+        do {
+            const std::size_t length = output.size();
+            output.resize(length + Step);
+            stream.next_out = output.data() + length;
+            stream.avail_out = Step;
+            isal_deflate(&stream);
+            output.resize(output.size() - stream.avail_out);
+        } while (stream.avail_out == 0);
+    }
+
+    std::uint32_t adler() const { return isal_adler32(1, m_filtered.data(), m_length); }
+    std::uint64_t length() const { return m_length; }
+
+private:
+    std::size_t m_rowLength;
+    Bytes m_rows;
+    Bytes m_filtered;
+    Bytes m_levelBuffer;
+    std::size_t m_length = 0;
+};
+
+class PngEncoder : public RowEncoder
+{
+public:
+    PngEncoder(OutputFile &output, PixelSize size, const CopyMetadata &metadata)
+        : m_output(output)
+        , m_size(size)
+        , m_metadata(metadata)
+        , m_chunkHeight(static_cast<int>(std::clamp<std::size_t>(
+              ChunkMemory / (static_cast<std::size_t>(size.width) * 4), 8, TallestChunk)))
+    {}
+
+    Order order() const override { return Order::AtOnce; }
+    int chunkHeight() const override { return m_chunkHeight; }
+
+    Result<void> begin() override
+    {
+        constexpr std::array<std::uint8_t, 8> Signature = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
+        m_output.write(Signature);
+        Bytes header;
+        appendNumber(header, static_cast<std::uint32_t>(m_size.width));
+        appendNumber(header, static_cast<std::uint32_t>(m_size.height));
+        header.insert(header.end(),
+                      {8, 6, 0, 0, 0}); // bits, colour with opacity, the only methods, not interlaced
+        writePart("IHDR", header);
+        writePart("sRGB", {0});                      // perceptual
+        writePart("gAMA", {0x00, 0x00, 0xB1, 0x8F}); // 1 / 2.2, for readers that know nothing better
+        if (!m_metadata.exif.empty()) {
+            writePart("eXIf", m_metadata.exif);
+        }
+        if (!m_metadata.xmp.empty()) {
+            constexpr std::string_view Prefix("XML:com.adobe.xmp\0\0\0\0\0",
+                                              22); // plain, no language, no translation
+            Bytes text(Prefix.begin(), Prefix.end());
+            text.insert(text.end(), m_metadata.xmp.begin(), m_metadata.xmp.end());
+            writePart("iTXt", text);
+        }
+        return outcome();
+    }
+
+    Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
+    {
+        std::unique_ptr<ChunkCompressor> compressor = takeCompressor();
+        compressor->filter(top, height, readRow);
+        Piece piece;
+        if (chunk == 0) {
+            piece.data = {0x78, 0x5E}; // a stream of 32 KiB windows, compressed fast (RFC 1950, 2.2)
+        }
+        compressor->compress(top + height == m_size.height, piece.data);
+        piece.adler = compressor->adler();
+        piece.length = compressor->length();
+        const std::lock_guard lock(m_mutex);
+        m_compressors.push_back(std::move(compressor));
+        m_pieces.emplace(chunk, std::move(piece));
+        writeReadyPieces();
+        return outcome();
+    }
+
+    Result<void> finish() override
+    {
+        writePart("IEND", {});
+        return outcome();
+    }
+
+private:
+    struct Piece
+    {
+        Bytes data;
+        std::uint32_t adler = 1;
+        std::uint64_t length = 0; ///< before compression
+    };
+
+    Result<void> outcome() const
+    {
+        return m_output.hasFailed() ? Result<void>(tl::unexpected(Fault::CannotWrite)) : Result<void>();
+    }
+
+    std::unique_ptr<ChunkCompressor> takeCompressor()
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_compressors.empty()) {
+            return std::make_unique<ChunkCompressor>(m_size, m_chunkHeight);
+        }
+        auto compressor = std::move(m_compressors.back());
+        m_compressors.pop_back();
+        return compressor;
+    }
+
+    void writeReadyPieces()
+    {
+        for (auto piece = m_pieces.find(m_nextPiece); piece != m_pieces.end();
+             piece = m_pieces.find(m_nextPiece)) {
+            Bytes &data = piece->second.data;
+            m_adler = joinedAdler(m_adler, piece->second.adler, piece->second.length);
+            m_bytesBefore += piece->second.length;
+            if (m_bytesBefore == (static_cast<std::uint64_t>(m_size.width) * 4 + 1) *
+                                     static_cast<std::uint64_t>(m_size.height)) {
+                appendNumber(data, m_adler);
+            }
+            writePart("IDAT", data);
+            m_pieces.erase(piece);
+            ++m_nextPiece;
+        }
+    }
+
+    /// One chunk of the file (W3C PNG, 5.3).
+    void writePart(std::string_view type, const Bytes &content)
+    {
+        Bytes start;
+        appendNumber(start, static_cast<std::uint32_t>(content.size()));
+        start.insert(start.end(), type.begin(), type.end());
+        std::uint32_t check = crc32_gzip_refl(0, start.data() + 4, type.size());
+        check = crc32_gzip_refl(check, content.data(), content.size());
+        Bytes end;
+        appendNumber(end, check);
+        m_output.write(start);
+        m_output.write(content);
+        m_output.write(end);
+    }
+
+    OutputFile &m_output;
+    const PixelSize m_size;
+    const CopyMetadata &m_metadata;
+    const int m_chunkHeight;
+    std::mutex m_mutex;
+    std::vector<std::unique_ptr<ChunkCompressor>> m_compressors; ///< not in use just now
+    std::map<int, Piece> m_pieces;                               ///< compressed, waiting for one before them
+    int m_nextPiece = 0;
+    std::uint32_t m_adler = 1;
+    std::uint64_t m_bytesBefore = 0;
+};
+
+} // namespace
+
+std::unique_ptr<RowEncoder> makePngEncoder(OutputFile &output, PixelSize size, const CopyMetadata &metadata)
+{
+    return std::make_unique<PngEncoder>(output, size, metadata);
+}
+
+} // namespace imageworker

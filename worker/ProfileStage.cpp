@@ -1,0 +1,43 @@
+#include "ProfileStage.h"
+
+namespace imageworker {
+
+std::unique_ptr<ProfileStage> ProfileStage::create(cmsHPROFILE profile, int maximumCode, bool isGrey)
+{
+    const cmsColorSpaceSignature space = cmsGetColorSpace(profile);
+    const bool isGreyProfile = space == cmsSigGrayData;
+    if ((isGreyProfile && !isGrey) || (!isGreyProfile && space != cmsSigRgbData)) {
+        return nullptr;
+    }
+    const Profile srgb(cmsCreate_sRGBProfile());
+    std::unique_ptr<ProfileStage> stage(new ProfileStage);
+    stage->m_maximumCode = static_cast<unsigned>(maximumCode);
+    stage->m_isGrey = isGreyProfile;
+    // Without the one-pixel cache, which several threads would share; eight bits of opacity are left as they
+    // are.
+    stage->m_transform.reset(cmsCreateTransform(profile, isGreyProfile ? TYPE_GRAY_16 : TYPE_RGB_16,
+                                                srgb.get(), TYPE_RGBA_8, INTENT_PERCEPTUAL,
+                                                cmsFLAGS_NOCACHE));
+    return stage->m_transform ? std::move(stage) : nullptr;
+}
+
+void ProfileStage::convert(const CodeRow &codes, std::uint8_t *rgba) const
+{
+    const auto width = static_cast<std::size_t>(codes.width());
+    const std::size_t channels = m_isGrey ? 1 : 3;
+    std::vector<std::uint16_t> row(width * channels);
+    const auto word = [this](std::uint16_t code) {
+        return static_cast<std::uint16_t>((code * 65535U + m_maximumCode / 2) / m_maximumCode);
+    };
+    for (std::size_t x = 0; x < width; ++x) {
+        row[channels * x] = word(codes.red[x]);
+        if (!m_isGrey) {
+            row[channels * x + 1] = word(codes.green[x]);
+            row[channels * x + 2] = word(codes.blue[x]);
+        }
+        rgba[4 * x + 3] = 255;
+    }
+    cmsDoTransform(m_transform.get(), row.data(), rgba, static_cast<cmsUInt32Number>(width));
+}
+
+} // namespace imageworker

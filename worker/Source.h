@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Result.h"
+
+#include <memory>
+#include <span>
+
+namespace imageworker {
+
+/// The photo's bytes, reached by position. Reading does not move anything, so that several threads may read
+/// at once.
+class Source
+{
+public:
+    virtual ~Source() = default;
+
+    /// In bytes; fixed for the life of the object.
+    virtual std::uint64_t size() const = 0;
+
+    /// Exactly @p length bytes from @p offset; a range that leaves the file, or a file that has shrunk, is
+    /// Unreadable.
+    Result<Bytes> read(std::uint64_t offset, std::uint64_t length) const;
+
+protected:
+    virtual bool fill(std::uint64_t offset, std::span<std::uint8_t> bytes) const = 0;
+};
+
+/// A file by its descriptor, which stays the caller's. Null when it is not a regular file.
+std::unique_ptr<Source> sourceOfFile(int descriptor);
+
+/// Bytes that lie in memory and stay the caller's.
+std::unique_ptr<Source> sourceOfBytes(std::span<const std::uint8_t> bytes);
+
+} // namespace imageworker

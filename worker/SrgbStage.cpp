@@ -1,0 +1,85 @@
+#include "SrgbStage.h"
+
+#include "ColourSpace.h"
+#include "MatrixStage.h"
+#include "ProfileStage.h"
+#include "TransferCurve.h"
+#include "Vectorised.h"
+
+namespace imageworker {
+
+namespace {
+
+LUMAPORT_VECTORISED void packBytes(const CodeRow &codes, std::uint8_t *rgba)
+{
+    const int width = codes.width();
+    for (int x = 0; x < width; ++x) {
+        rgba[4 * x] = static_cast<std::uint8_t>(codes.red[static_cast<std::size_t>(x)]);
+        rgba[4 * x + 1] = static_cast<std::uint8_t>(codes.green[static_cast<std::size_t>(x)]);
+        rgba[4 * x + 2] = static_cast<std::uint8_t>(codes.blue[static_cast<std::size_t>(x)]);
+        rgba[4 * x + 3] = 255;
+    }
+}
+
+/// For pictures that are in sRGB already.
+class SameSpaceStage : public SrgbStage
+{
+public:
+    explicit SameSpaceStage(int maximumCode)
+        : m_maximumCode(static_cast<unsigned>(maximumCode))
+    {}
+
+    void convert(const CodeRow &codes, std::uint8_t *rgba) const override
+    {
+        if (m_maximumCode == 255) {
+            packBytes(codes, rgba);
+            return;
+        }
+        CodeRow rounded = codes;
+        for (auto *channel : {&rounded.red, &rounded.green, &rounded.blue}) {
+            for (std::uint16_t &code : *channel) {
+                code = static_cast<std::uint16_t>((code * 255U + m_maximumCode / 2) / m_maximumCode);
+            }
+        }
+        packBytes(rounded, rgba);
+    }
+
+private:
+    unsigned m_maximumCode;
+};
+
+bool isHighDynamicRange(unsigned transfer)
+{
+    return transfer == TransferPq || transfer == TransferHlg;
+}
+
+bool hasPrimariesOfSrgb(unsigned primaries)
+{
+    return primaries <= 3;
+}
+
+} // namespace
+
+std::unique_ptr<SrgbStage> makeSrgbStage(const Bytes &iccProfile, const CodePoints &codePoints,
+                                         int maximumCode, bool isGrey)
+{
+    if (const Profile profile = openProfile(iccProfile); profile != nullptr) {
+        if (const auto space = matrixSpaceOf(profile.get(), maximumCode); space) {
+            return std::make_unique<MatrixStage>(*space);
+        }
+        if (auto stage = ProfileStage::create(profile.get(), maximumCode, isGrey)) {
+            return stage;
+        }
+    }
+    if (isHighDynamicRange(codePoints.transfer)) {
+        return std::make_unique<ToneMappingStage>(
+            matrixSpaceOf(codePoints.primaries, codePoints.transfer, maximumCode), codePoints.transfer);
+    }
+    if (hasPrimariesOfSrgb(codePoints.primaries) && isShownLikeSrgb(codePoints.transfer)) {
+        return std::make_unique<SameSpaceStage>(maximumCode);
+    }
+    return std::make_unique<MatrixStage>(
+        matrixSpaceOf(codePoints.primaries, codePoints.transfer, maximumCode));
+}
+
+} // namespace imageworker

@@ -1,0 +1,151 @@
+#include "TiffWriter.h"
+
+#include <algorithm>
+#include <array>
+
+namespace imageworker {
+
+namespace {
+
+constexpr std::size_t HeaderLength = 8;
+constexpr std::size_t FieldLength = 12;
+constexpr std::uint16_t Long = 4;
+
+/// A directory to be written, with the links to those below it among its fields.
+struct Directory
+{
+    TiffTag link{};
+    int parent = -1; ///< index of the directory that links here
+    std::vector<TiffField> fields;
+};
+
+bool isLink(TiffTag tag)
+{
+    return tag == TiffTag::ExifDirectory || tag == TiffTag::PositionDirectory ||
+           tag == TiffTag::InteroperabilityDirectory;
+}
+
+std::size_t outlyingLength(const TiffField &field)
+{
+    return field.valueLength <= 4 || isLink(field.tag) ? 0 : field.valueLength + field.valueLength % 2;
+}
+
+std::size_t lengthOf(const Directory &directory)
+{
+    std::size_t length = 2 + directory.fields.size() * FieldLength + 4;
+    for (const TiffField &field : directory.fields) {
+        length += outlyingLength(field);
+    }
+    return length;
+}
+
+std::size_t lengthOf(const std::vector<Directory> &directories)
+{
+    std::size_t length = HeaderLength;
+    for (const Directory &directory : directories) {
+        length += lengthOf(directory);
+    }
+    return length;
+}
+
+std::vector<Directory> readDirectories(const TiffFields &tiff)
+{
+    struct Link
+    {
+        TiffTag tag;
+        int parent;
+    };
+    constexpr std::array Links = {Link{TiffTag::ExifDirectory, 0}, Link{TiffTag::PositionDirectory, 0},
+                                  Link{TiffTag::InteroperabilityDirectory, 1}};
+    std::vector<Directory> directories;
+    directories.push_back({TiffTag{}, -1, tiff.fields(tiff.firstDirectory())});
+    for (const Link &link : Links) {
+        Directory directory{link.tag, link.parent, {}};
+        const TiffField *field = fieldOf(directories[static_cast<std::size_t>(link.parent)].fields, link.tag);
+        if (field != nullptr) {
+            directory.fields = tiff.fields(tiff.value(*field));
+        }
+        directories.push_back(std::move(directory));
+    }
+    for (Directory &directory : directories) {
+        std::erase_if(directory.fields,
+                      [](const TiffField &field) { return field.tag == TiffTag::MakerNote; });
+    }
+    return directories;
+}
+
+/// Takes out the largest value that lies apart; false when none is left.
+bool removeLargest(std::vector<Directory> &directories)
+{
+    Directory *owner = nullptr;
+    std::vector<TiffField>::iterator largest;
+    for (Directory &directory : directories) {
+        for (auto field = directory.fields.begin(); field != directory.fields.end(); ++field) {
+            if (outlyingLength(*field) > (owner == nullptr ? 0 : outlyingLength(*largest))) {
+                owner = &directory;
+                largest = field;
+            }
+        }
+    }
+    if (owner == nullptr) {
+        return false;
+    }
+    owner->fields.erase(largest);
+    return true;
+}
+
+Bytes write(const TiffFields &source, const std::vector<Directory> &directories)
+{
+    Bytes output(lengthOf(directories));
+    std::ranges::copy(source.bytes().first(4), output.begin()); // byte order and the number 42
+    auto tiff = *TiffFields::of(output);
+    tiff.setNumber(4, 4, HeaderLength);
+    std::vector<std::size_t> positions;
+    std::size_t position = HeaderLength;
+    for (const Directory &directory : directories) {
+        positions.push_back(position);
+        position += lengthOf(directory);
+    }
+    for (std::size_t index = 0; index < directories.size(); ++index) {
+        const auto &fields = directories[index].fields;
+        tiff.setNumber(positions[index], 2, static_cast<std::uint32_t>(fields.size()));
+        std::size_t entry = positions[index] + 2;
+        std::size_t outlying = entry + fields.size() * FieldLength + 4;
+        for (const TiffField &field : fields) {
+            tiff.setNumber(entry, 2, static_cast<std::uint32_t>(field.tag));
+            tiff.setNumber(entry + 2, 2, isLink(field.tag) ? Long : field.type);
+            tiff.setNumber(entry + 4, 4, field.count);
+            const auto value = source.bytes().subspan(field.valuePosition, field.valueLength);
+            const bool isApart = outlyingLength(field) > 0;
+            if (isApart) {
+                tiff.setNumber(entry + 8, 4, static_cast<std::uint32_t>(outlying));
+            }
+            std::ranges::copy(value,
+                              output.begin() + static_cast<std::ptrdiff_t>(isApart ? outlying : entry + 8));
+            for (std::size_t below = 1; below < directories.size(); ++below) {
+                if (directories[below].link == field.tag &&
+                    directories[below].parent == static_cast<int>(index)) {
+                    tiff.setNumber(entry + 8, 4, static_cast<std::uint32_t>(positions[below]));
+                }
+            }
+            outlying += outlyingLength(field);
+            entry += FieldLength;
+        }
+    }
+    return output;
+}
+
+} // namespace
+
+Bytes rewrittenWithin(const TiffFields &tiff, std::size_t limit)
+{
+    std::vector<Directory> directories = readDirectories(tiff);
+    while (lengthOf(directories) > limit) {
+        if (!removeLargest(directories)) {
+            return {};
+        }
+    }
+    return write(tiff, directories);
+}
+
+} // namespace imageworker

@@ -1,0 +1,184 @@
+#include "TileDecoder.h"
+
+extern "C" {
+#include <libavcodec/avcodec.h>
+#include <libavutil/log.h>
+#include <libavutil/mem.h>
+#include <libavutil/pixdesc.h>
+}
+
+#include <algorithm>
+#include <cstring>
+
+namespace imageworker {
+
+namespace {
+
+AVCodecID identifierOf(Codec codec)
+{
+    switch (codec) {
+    case Codec::Hevc:
+        return AV_CODEC_ID_HEVC;
+    case Codec::Av1:
+        return AV_CODEC_ID_AV1;
+    case Codec::Avc:
+        return AV_CODEC_ID_H264;
+    case Codec::Jpeg:
+        return AV_CODEC_ID_MJPEG;
+    }
+    return AV_CODEC_ID_NONE;
+}
+
+const AVCodec *decoderOf(Codec codec)
+{
+    if (codec == Codec::Av1) {
+        return avcodec_find_decoder_by_name(
+            "libdav1d"); // the one of the same name as the codec needs a graphics card
+    }
+    return avcodec_find_decoder(identifierOf(codec));
+}
+
+/// Planes as this program handles them; false for arrangements that no photo has.
+bool describeSamples(const AVFrame &frame, SampleFormat &format)
+{
+    const AVPixFmtDescriptor *descriptor = av_pix_fmt_desc_get(static_cast<AVPixelFormat>(frame.format));
+    constexpr std::uint64_t NotPlanes = AV_PIX_FMT_FLAG_PAL | AV_PIX_FMT_FLAG_BITSTREAM |
+                                        AV_PIX_FMT_FLAG_HWACCEL | AV_PIX_FMT_FLAG_BE | AV_PIX_FMT_FLAG_ALPHA |
+                                        AV_PIX_FMT_FLAG_FLOAT;
+    if (descriptor == nullptr || (descriptor->flags & NotPlanes) != 0 ||
+        (descriptor->nb_components != 1 && descriptor->nb_components != 3)) {
+        return false;
+    }
+    const int depth = descriptor->comp[0].depth;
+    const bool isRgb = (descriptor->flags & AV_PIX_FMT_FLAG_RGB) != 0;
+    for (int index = 0; index < descriptor->nb_components; ++index) {
+        const AVComponentDescriptor &component = descriptor->comp[index];
+        // Planes of RGB lie in the order green, blue, red; components are numbered red, green, blue.
+        const int plane = isRgb ? (index + 2) % 3 : index;
+        if (component.plane != plane || component.step != (depth > 8 ? 2 : 1) || component.offset != 0 ||
+            component.shift != 0 || component.depth != depth) {
+            return false;
+        }
+    }
+    format.depth = depth;
+    format.planeCount = descriptor->nb_components;
+    format.chromaShiftX = descriptor->nb_components == 3 ? descriptor->log2_chroma_w : 0;
+    format.chromaShiftY = descriptor->nb_components == 3 ? descriptor->log2_chroma_h : 0;
+    format.isRgb = isRgb;
+    format.codePoints.primaries = static_cast<unsigned>(frame.color_primaries);
+    format.codePoints.transfer = static_cast<unsigned>(frame.color_trc);
+    format.codePoints.matrix = static_cast<unsigned>(frame.colorspace);
+    format.codePoints.fullRange = frame.color_range == AVCOL_RANGE_JPEG;
+    return depth >= 8 && depth <= 16;
+}
+
+} // namespace
+
+void TileDecoder::ContextDeleter::operator()(AVCodecContext *context) const
+{
+    avcodec_free_context(&context);
+}
+
+void TileDecoder::FrameDeleter::operator()(AVFrame *frame) const
+{
+    av_frame_free(&frame);
+}
+
+void TileDecoder::PacketDeleter::operator()(AVPacket *packet) const
+{
+    av_packet_free(&packet);
+}
+
+TileDecoder::~TileDecoder() = default;
+
+bool loadDecoders()
+{
+    av_log_set_level(AV_LOG_QUIET);
+    decoderOf(Codec::Av1);
+    const AVCodec *decoder = decoderOf(Codec::Hevc);
+    AVCodecContext *context = decoder == nullptr ? nullptr : avcodec_alloc_context3(decoder);
+    const bool works = context != nullptr && avcodec_open2(context, decoder, nullptr) == 0;
+    avcodec_free_context(&context);
+    return works;
+}
+
+std::unique_ptr<TileDecoder> TileDecoder::create(const CodedPicture &picture)
+{
+    const AVCodec *codec = decoderOf(picture.codec);
+    std::unique_ptr<TileDecoder> decoder(new TileDecoder);
+    decoder->m_context.reset(codec == nullptr ? nullptr : avcodec_alloc_context3(codec));
+    decoder->m_frame.reset(av_frame_alloc());
+    decoder->m_packet.reset(av_packet_alloc());
+    decoder->m_codec = picture.codec;
+    decoder->m_configuration = picture.configuration;
+    AVCodecContext *context = decoder->m_context.get();
+    if (context == nullptr || !decoder->m_frame || !decoder->m_packet) {
+        return nullptr;
+    }
+    context->thread_count = 1;
+    context->flags |= AV_CODEC_FLAG_UNALIGNED; // else the conformance window is rounded to what suits vectors
+    context->err_recognition = AV_EF_EXPLODE;
+    context->max_pixels = MaximumPixels;
+    const bool isRecord = picture.codec != Codec::Jpeg; // a JPEG's tables are put before its data
+    if (isRecord && !picture.configuration.empty()) {
+        const std::size_t length = picture.configuration.size();
+        context->extradata = static_cast<std::uint8_t *>(av_mallocz(length + AV_INPUT_BUFFER_PADDING_SIZE));
+        if (context->extradata == nullptr) {
+            return nullptr;
+        }
+        std::memcpy(context->extradata, picture.configuration.data(), length);
+        context->extradata_size = static_cast<int>(length);
+    }
+    return avcodec_open2(context, codec, nullptr) == 0 ? std::move(decoder) : nullptr;
+}
+
+bool TileDecoder::suits(const CodedPicture &picture) const
+{
+    return picture.codec == m_codec && picture.configuration == m_configuration;
+}
+
+Result<void> TileDecoder::receiveFrame(const Bytes &bytes)
+{
+    const bool hasTables = m_codec == Codec::Jpeg;
+    const std::size_t tables = hasTables ? m_configuration.size() : 0;
+    if (bytes.size() > INT32_MAX / 2 ||
+        av_new_packet(m_packet.get(), static_cast<int>(tables + bytes.size())) != 0) {
+        return unreadable();
+    }
+    std::memcpy(m_packet->data, m_configuration.data(), tables);
+    std::memcpy(m_packet->data + tables, bytes.data(), bytes.size());
+    AVCodecContext *context = m_context.get();
+    avcodec_flush_buffers(context);
+    av_frame_unref(m_frame.get());
+    const int sent = avcodec_send_packet(context, m_packet.get());
+    av_packet_unref(m_packet.get());
+    if (sent != 0 || avcodec_send_packet(context, nullptr) != 0 ||
+        avcodec_receive_frame(context, m_frame.get()) != 0) {
+        return unreadable();
+    }
+    if (m_frame->decode_error_flags != 0 || (m_frame->flags & AV_FRAME_FLAG_CORRUPT) != 0) {
+        return unreadable();
+    }
+    return {};
+}
+
+Result<DecodedPicture> TileDecoder::decode(const Bytes &bytes, PixelSize size)
+{
+    DecodedPicture picture;
+    if (!receiveFrame(bytes) || m_frame->width < size.width || m_frame->height < size.height ||
+        !describeSamples(*m_frame, picture.format)) {
+        return unreadable();
+    }
+    for (int index = 0; index < picture.format.planeCount; ++index) {
+        const int shiftX = index == 0 ? 0 : picture.format.chromaShiftX;
+        const int shiftY = index == 0 ? 0 : picture.format.chromaShiftY;
+        PlaneView &plane = picture.planes[static_cast<std::size_t>(index)];
+        plane.data = m_frame->data[index];
+        plane.stride = m_frame->linesize[index];
+        plane.width = (size.width + (1 << shiftX) - 1) >> shiftX;
+        plane.height = (size.height + (1 << shiftY) - 1) >> shiftY;
+    }
+    return picture;
+}
+
+} // namespace imageworker

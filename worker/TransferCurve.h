@@ -1,0 +1,21 @@
+#pragma once
+
+namespace imageworker {
+
+// ITU-T H.273, table 3: the two curves of high dynamic range.
+inline constexpr unsigned TransferPq = 16;
+inline constexpr unsigned TransferHlg = 18;
+
+/// Whether pictures with this transfer are shown as sRGB is: not said, sRGB itself, or a broadcast camera's
+/// curve, which is meant for a display like that.
+bool isShownLikeSrgb(unsigned transfer);
+
+/// Linear light, 0 to 1, of a code from 0 to 1 (ITU-T H.273, table 3, inverted). For PQ 1 is 10,000 cd/m2;
+/// for HLG it is the brightest light in the scene.
+double linearOf(unsigned transfer, double code);
+
+/// sRGB's own curve (IEC 61966-2-1), both ways.
+double linearOfSrgb(double code);
+double srgbOfLinear(double linear);
+
+} // namespace imageworker

@@ -1,0 +1,108 @@
+#include "Upright.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace imageworker {
+
+PixelSize Upright::size() const
+{
+    return m_turn.transposed ? PixelSize{m_crop.height, m_crop.width}
+                             : PixelSize{m_crop.width, m_crop.height};
+}
+
+void Upright::rotateAnticlockwise(unsigned quarters)
+{
+    for (unsigned quarter = 0; quarter < quarters % 4; ++quarter) {
+        // The new pixel (x, y) is the old one at (width - 1 - y, x): the axis that x used to read turns
+        // round.
+        bool &readByX = m_turn.transposed ? m_turn.mirroredY : m_turn.mirroredX;
+        readByX = !readByX;
+        m_turn.transposed = !m_turn.transposed;
+    }
+}
+
+void Upright::exchangeTopAndBottom()
+{
+    bool &readByY = m_turn.transposed ? m_turn.mirroredX : m_turn.mirroredY;
+    readByY = !readByY;
+}
+
+void Upright::exchangeLeftAndRight()
+{
+    bool &readByX = m_turn.transposed ? m_turn.mirroredY : m_turn.mirroredX;
+    readByX = !readByX;
+}
+
+bool Upright::cropTo(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height)
+{
+    const PixelSize shownSize = size();
+    const std::int64_t right = std::min<std::int64_t>(left + width, shownSize.width);
+    const std::int64_t bottom = std::min<std::int64_t>(top + height, shownSize.height);
+    left = std::max<std::int64_t>(left, 0);
+    top = std::max<std::int64_t>(top, 0);
+    if (left >= right || top >= bottom) {
+        return false;
+    }
+    PixelRectangle part{static_cast<int>(left), static_cast<int>(top), static_cast<int>(right - left),
+                        static_cast<int>(bottom - top)};
+    if (m_turn.transposed) {
+        std::swap(part.x, part.y);
+        std::swap(part.width, part.height);
+    }
+    m_crop.x += m_turn.mirroredX ? m_crop.width - part.x - part.width : part.x;
+    m_crop.y += m_turn.mirroredY ? m_crop.height - part.y - part.height : part.y;
+    m_crop.width = part.width;
+    m_crop.height = part.height;
+    return true;
+}
+
+void Upright::applyExifOrientation(unsigned orientation)
+{
+    // Exif 2.32, 4.6.4: where the stored first row and first column belong.
+    switch (orientation) {
+    case 2:
+        exchangeLeftAndRight();
+        break;
+    case 3:
+        rotateAnticlockwise(2);
+        break;
+    case 4:
+        exchangeTopAndBottom();
+        break;
+    case 5:
+        rotateAnticlockwise(1);
+        exchangeTopAndBottom();
+        break;
+    case 6:
+        rotateAnticlockwise(3);
+        break;
+    case 7:
+        rotateAnticlockwise(3);
+        exchangeTopAndBottom();
+        break;
+    case 8:
+        rotateAnticlockwise(1);
+        break;
+    default:
+        break;
+    }
+}
+
+PixelRectangle Upright::shown(PixelRectangle stored) const
+{
+    PixelRectangle part{stored.x - m_crop.x, stored.y - m_crop.y, stored.width, stored.height};
+    if (m_turn.mirroredX) {
+        part.x = m_crop.width - part.x - part.width;
+    }
+    if (m_turn.mirroredY) {
+        part.y = m_crop.height - part.y - part.height;
+    }
+    if (m_turn.transposed) {
+        std::swap(part.x, part.y);
+        std::swap(part.width, part.height);
+    }
+    return part;
+}
+
+} // namespace imageworker

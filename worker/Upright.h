@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Result.h"
+
+#include <cstdint>
+
+namespace imageworker {
+
+/// A part of a picture, in its pixels.
+struct PixelRectangle
+{
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const PixelRectangle &) const = default;
+};
+
+/// One of the eight ways to lay a picture: first perhaps columns become rows, then each axis of the original
+/// may be read backwards. For a pixel (x, y) of the result, (u, v) is (y, x) when transposed, else (x, y);
+/// the pixel of the original is u or width - 1 - u, v or height - 1 - v.
+struct Turn
+{
+    bool transposed = false;
+    bool mirroredX = false;
+    bool mirroredY = false;
+
+    bool operator==(const Turn &) const = default;
+};
+
+/// How a stored picture becomes the one to show: a part of it, turned. Cropping and turning can be added in
+/// any order.
+class Upright
+{
+public:
+    Upright() = default;
+    explicit Upright(PixelSize stored)
+        : m_crop{0, 0, stored.width, stored.height}
+    {}
+
+    /// Of the stored picture.
+    PixelRectangle crop() const { return m_crop; }
+    Turn turn() const { return m_turn; }
+    PixelSize size() const;
+
+    /// Adds @p quarters turns of 90 degrees anticlockwise (ISO/IEC 23008-12, 6.5.10).
+    void rotateAnticlockwise(unsigned quarters);
+    void exchangeTopAndBottom();
+    void exchangeLeftAndRight();
+    /// Adds a crop given in what is shown so far; false when nothing of it lies inside.
+    bool cropTo(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height);
+    /// Adds what an Exif orientation of 1 to 8 asks for; other values ask for nothing.
+    void applyExifOrientation(unsigned orientation);
+
+    /// Where the stored rectangle @p stored, which lies inside crop(), is shown.
+    PixelRectangle shown(PixelRectangle stored) const;
+
+private:
+    PixelRectangle m_crop;
+    Turn m_turn;
+};
+
+} // namespace imageworker
