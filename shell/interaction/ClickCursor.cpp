@@ -1,5 +1,7 @@
 #include "ClickCursor.h"
 
+#include <QCursor>
+
 void ClickCursor::componentComplete()
 {
     QQuickItem::componentComplete();
