@@ -7,21 +7,19 @@ class QDBusMessage;
 class QVariant;
 class SystemAppearance;
 
-/**
- * Follows the desktop's settings portal (org.freedesktop.portal.Settings) and hands what it says about light,
- * dark and motion to a SystemAppearance, live. Reads again when the portal is started later; without one
- * nothing is handed over.
- *
- * Keys: the portal's "color-scheme" (0 no preference, 1 dark, 2 light), GNOME's "enable-animations" and KDE's
- * "AnimationDurationFactor", whose 0 stands for no animation. Motion is reduced when either desktop's key
- * says so.
- */
+/// Follows the desktop's settings portal (org.freedesktop.portal.Settings) and hands what it says about
+/// light, dark and motion to a SystemAppearance, live. Reads again when the portal is started later; without
+/// one nothing is handed over.
+///
+/// Keys: the portal's "color-scheme" (0 no preference, 1 dark, 2 light), GNOME's "enable-animations" and
+/// KDE's "AnimationDurationFactor", whose 0 stands for no animation. Motion is reduced when either desktop's
+/// key says so.
 class SettingsPortal : public QObject
 {
     Q_OBJECT
 
 public:
-    /** @p appearance must outlive this object. */
+    /// `appearance` must outlive this object.
     SettingsPortal(const QDBusConnection &bus, SystemAppearance &appearance, QObject *parent = nullptr);
 
 private Q_SLOTS:

@@ -14,7 +14,7 @@ bool isDarkPalette(const QPalette &palette)
 // contrast; else two colours from which Qt derives the rest.
 void applyWidgetPalette(SystemAppearance::ColorScheme scheme)
 {
-    const bool wantsDark = scheme == SystemAppearance::ColorScheme::Dark;
+    const bool wantsDark = scheme == SystemAppearance::ColorScheme::dark;
     QGuiApplication::setPalette(QPalette());
     if (isDarkPalette(QGuiApplication::palette()) == wantsDark) {
         return;
@@ -44,15 +44,18 @@ void SystemAppearance::setMotion(Motion motion)
     Q_EMIT reduceMotionChanged();
 }
 
-void SystemAppearance::force(std::optional<ColorScheme> scheme)
+void SystemAppearance::apply(Choice choice)
 {
-    m_forced = scheme;
+    m_choice = choice;
     update();
 }
 
 void SystemAppearance::update()
 {
-    const ColorScheme effective = m_forced.value_or(m_system);
+    ColorScheme effective = m_system;
+    if (m_choice != Choice::followSystem) {
+        effective = m_choice == Choice::dark ? ColorScheme::dark : ColorScheme::light;
+    }
     if (m_effective == effective) {
         return;
     }

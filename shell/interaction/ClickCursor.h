@@ -4,10 +4,11 @@
 #include <QtQml/qqmlregistration.h>
 
 /**
- * Shows the pointing hand over its bounds while it is enabled and visible, and takes it back the moment it is not: a hand
- * is never left behind. It takes no mouse events.
+ * Shows the pointing hand over its bounds while it is enabled and visible, and takes it back the moment it is
+ * not: a hand is never left behind. It takes no mouse events.
  *
- * A pointer handler's cursor would stay until the pointer moves when its control is disabled or hidden under it.
+ * A pointer handler's cursor would stay until the pointer moves when its control is disabled or hidden under
+ * it.
  */
 class ClickCursor : public QQuickItem
 {

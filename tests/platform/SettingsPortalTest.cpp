@@ -134,9 +134,9 @@ private Q_SLOTS:
         const auto isDark = [] {
             return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
         };
-        m_appearance->force(SystemAppearance::ColorScheme::Dark);
+        m_appearance->apply(Appearance::Choice::dark);
         QVERIFY(isDark());
-        m_appearance->force(std::nullopt);
+        m_appearance->apply(Appearance::Choice::followSystem);
         QVERIFY(!isDark());
     }
 };

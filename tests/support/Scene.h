@@ -12,16 +12,14 @@
 
 #include <memory>
 
-/**
- * A window with one QML item in it and an appearance of its own, for tests of what only a view can do. Any
- * warning of the QML engine fails the test.
- */
+/// A window with one QML item in it and an appearance of its own, for tests of what only a view can do. Any
+/// warning of the QML engine fails the test.
 class Scene
 {
 public:
     Scene() { SystemAppearanceSingleton::provide(appearance); }
 
-    /** Shows the item that @p qml describes, at its own size; its imports are given by the test. */
+    /// Shows the item that `qml` describes, at its own size; its imports are given by the test.
     QQuickItem *show(const char *qml)
     {
         QObject::connect(&engine, &QQmlEngine::warnings, &engine, [](const QList<QQmlError> &warnings) {
@@ -41,7 +39,7 @@ public:
         return m_item.get();
     }
 
-    /** The visible item with this object name anywhere below the shown one; nothing when there is none. */
+    /// The visible item with this object name anywhere below the shown one; nothing when there is none.
     QQuickItem *find(const QString &name) const { return find(m_item.get(), name); }
 
     QPoint centre(const QQuickItem *item) const

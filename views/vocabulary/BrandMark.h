@@ -3,7 +3,7 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
-/** The application's mark: its icon in a square of `size` points, hidden from accessibility. */
+/// The application's mark: its icon in a square of `size` points, hidden from accessibility.
 class BrandMark : public QQuickPaintedItem
 {
     Q_OBJECT

@@ -1,13 +1,11 @@
 #pragma once
 
-/**
- * A damped spring that pulls a value to its goal, in closed form: exact at any time, however far apart the
- * frames are.
- *
- * With w = 2 pi / response and z = dampingFraction the displacement x from the goal obeys x'' + 2 z w x' +
- * w^2 x = 0. `response` is the period in seconds that the spring would have without damping; z = 1 comes to
- * rest without overshoot, and z above 1 is taken as 1.
- */
+/// A damped spring that pulls a value to its goal, in closed form: exact at any time, however far apart the
+/// frames are.
+///
+/// With w = 2 pi / response and z = dampingFraction the displacement x from the goal obeys x'' + 2 z w x' +
+/// w^2 x = 0. `response` is the period in seconds that the spring would have without damping; z = 1 comes to
+/// rest without overshoot, and z above 1 is taken as 1.
 class DampedSpring
 {
 public:
@@ -19,10 +17,10 @@ public:
 
     DampedSpring(double response, double dampingFraction);
 
-    /** Where @p start has come to after @p seconds (0 or more). */
+    /// Where `start` has come to after `seconds` (0 or more).
     State after(State start, double seconds) const;
 
-    /** How far a spring in this state can still swing out, had it no damping. */
+    /// How far a spring in this state can still swing out, had it no damping.
     double amplitude(State state) const;
 
 private:

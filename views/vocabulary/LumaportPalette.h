@@ -8,10 +8,8 @@ class QJSEngine;
 class QQmlEngine;
 class SystemAppearance;
 
-/**
- * The eleven colours of the program, by role. Nine follow the effective appearance: they change, with one
- * signal, when it does, and whatever is bound to them is drawn again. All are opaque sRGB.
- */
+/// The eleven colours of the program, by role. Nine follow the effective appearance: they change, with one
+/// signal, when it does, and whatever is bound to them is drawn again. All are opaque sRGB.
 class LumaportPalette : public QObject
 {
     Q_OBJECT
@@ -30,7 +28,7 @@ class LumaportPalette : public QObject
     Q_PROPERTY(QColor coral READ coral CONSTANT)
 
 public:
-    /** @p appearance must outlive the palette. */
+    /// `appearance` must outlive the palette.
     explicit LumaportPalette(const SystemAppearance &appearance, QObject *parent = nullptr);
     static LumaportPalette *create(QQmlEngine *engine, QJSEngine *scriptEngine);
 
@@ -50,7 +48,7 @@ Q_SIGNALS:
     void appearanceChanged();
 
 private:
-    /** Each triple is 0xRRGGBB. */
+    /// Each triple is 0xRRGGBB.
     QColor adaptive(QRgb light, QRgb dark) const;
 
     const SystemAppearance &m_appearance;

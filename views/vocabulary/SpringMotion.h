@@ -6,13 +6,11 @@
 #include <QQmlParserStatus>
 #include <QtQml/qqmlregistration.h>
 
-/**
- * A number that follows its goal `to` on a damped spring. Time is handed in by advance(); QML uses
- * `SpringValue`, which does so with every frame while the spring is moving.
- *
- * A new goal keeps the velocity of the moment. While `animated` is false the value is always its goal. The
- * first goal, set as the object is made, is taken without motion.
- */
+/// A number that follows its goal `to` on a damped spring. Time is handed in by advance(); QML uses
+/// `SpringValue`, which does so with every frame while the spring is moving.
+///
+/// A new goal keeps the velocity of the moment. While `animated` is false the value is always its goal. The
+/// first goal, set as the object is made, is taken without motion.
 class SpringMotion : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -41,7 +39,7 @@ public:
     void setDampingFraction(double fraction);
     void setAnimated(bool animated);
 
-    /** Lets @p seconds pass. At rest it does nothing. */
+    /// Lets `seconds` pass. At rest it does nothing.
     Q_INVOKABLE void advance(double seconds);
 
     void classBegin() override { m_complete = false; }

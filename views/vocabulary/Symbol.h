@@ -4,14 +4,12 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
-/**
- * One of the program's symbols, in one colour. It is drawn from its vector file at the screen's own
- * resolution.
- *
- * By itself it is as large as the symbol looks right beside text of `pointSize`; in another size it fills the
- * largest centred square. A name without a file draws nothing. It has no part in accessibility: its owner
- * speaks.
- */
+/// One of the program's symbols, in one colour. It is drawn from its vector file at the screen's own
+/// resolution.
+///
+/// By itself it is as large as the symbol looks right beside text of `pointSize`; in another size it fills
+/// the largest centred square. A name without a file draws nothing. It has no part in accessibility: its
+/// owner speaks.
 class Symbol : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -33,8 +31,8 @@ public:
 
     void paint(QPainter *painter) override;
 
-    /** The symbol as a picture of @p pixels square, for what is not drawn by a scene; null when there is
-     * none. */
+    /// The symbol as a picture of `pixels` square, for what is not drawn by a scene; null when there is
+    /// none.
     static QImage image(const QString &name, const QColor &color, int pixels);
 
 Q_SIGNALS:

@@ -5,10 +5,8 @@
 #include <QJSEngine>
 #include <QtQml/qqml.h>
 
-/**
- * Shows the program's one SystemAppearance to QML, as the singleton `SystemAppearance`. Whoever owns it
- * provides it before the first QML file is loaded, and keeps it for as long as an engine lives.
- */
+/// Shows the program's one SystemAppearance to QML, as the singleton `SystemAppearance`. Whoever owns it
+/// provides it before the first QML file is loaded, and keeps it for as long as an engine lives.
 struct SystemAppearanceSingleton
 {
     Q_GADGET

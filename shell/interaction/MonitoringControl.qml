@@ -1,0 +1,90 @@
+import QtQuick
+import Lumaport.Interaction
+import Lumaport.Vocabulary
+
+// The card of the watching state: what is watched, and one button to pause, resume or retry.
+Item {
+    id: card
+
+    readonly property color accent: controller.converting ? LumaportPalette.mint : LumaportPalette.photon
+    readonly property real padding: 13
+    readonly property real spacing: 12
+
+    Accessible.name: AppModel.monitorTitle
+    Accessible.role: Accessible.Grouping
+    implicitHeight: Math.max(badge.height, texts.implicitHeight, button.implicitHeight) + 2 * padding
+    implicitWidth: 360
+
+    MonitoringControlController {
+        id: controller
+
+        model: AppModel
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        border.color: Qt.alpha(card.accent, 0.25)
+        border.width: 1
+        color: Qt.alpha(card.accent, 0.06)
+        radius: 15
+    }
+
+    Rectangle {
+        id: badge
+
+        anchors.left: parent.left
+        anchors.leftMargin: card.padding
+        anchors.verticalCenter: parent.verticalCenter
+        color: Qt.alpha(card.accent, 0.14)
+        height: 38
+        radius: 11
+        width: 38
+
+        Symbol {
+            anchors.centerIn: parent
+            color: card.accent
+            name: AppModel.monitorSymbol
+            pointSize: 19
+        }
+    }
+
+    Column {
+        id: texts
+
+        anchors.left: badge.right
+        anchors.leftMargin: card.spacing
+        anchors.right: button.left
+        anchors.rightMargin: 8 + card.spacing
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 4
+
+        BodyText {
+            color: card.accent
+            font.weight: Font.DemiBold
+            size: 14
+            text: AppModel.monitorTitle
+            width: parent.width
+            wrapMode: Text.Wrap
+        }
+
+        BodyText {
+            color: LumaportPalette.muted
+            size: 11
+            text: AppModel.monitorDetail
+            width: parent.width
+            wrapMode: Text.Wrap
+        }
+    }
+
+    QuietButton {
+        id: button
+
+        anchors.right: parent.right
+        anchors.rightMargin: card.padding
+        anchors.verticalCenter: parent.verticalCenter
+        color: card.accent
+        objectName: "monitoringButton"
+        text: controller.buttonTitle
+        onClicked: controller.act()
+    }
+}
