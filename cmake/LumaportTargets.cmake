@@ -9,7 +9,7 @@ function(lumaport_target name)
   endif()
   target_compile_options(${name} PRIVATE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
-    -Wnull-dereference -Wformat=2 -Wimplicit-fallthrough -Wno-missing-field-initializers -Werror)
+    -Wformat=2 -Wimplicit-fallthrough -Wno-missing-field-initializers -Werror)
   target_compile_definitions(${name} PRIVATE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)

@@ -55,16 +55,15 @@ QUrl folderUrl(const QString &path)
     return QUrl::fromLocalFile(path).adjusted(QUrl::StripTrailingSlash);
 }
 
-/// None: what the desktop asks for.
-std::optional<SystemAppearance::ColorScheme> forcedScheme(AppearanceMode mode)
+SystemAppearance::Choice choiceFor(AppearanceMode mode)
 {
     switch (mode) {
     case AppearanceMode::system:
-        return std::nullopt;
+        return SystemAppearance::Choice::followSystem;
     case AppearanceMode::light:
-        return SystemAppearance::ColorScheme::Light;
+        return SystemAppearance::Choice::light;
     case AppearanceMode::dark:
-        return SystemAppearance::ColorScheme::Dark;
+        return SystemAppearance::Choice::dark;
     }
     Q_UNREACHABLE();
 }
@@ -155,7 +154,7 @@ void AppModel::setAppearanceMode(AppearanceMode mode)
 
 void AppModel::applyAppearance()
 {
-    m_services.appearance->force(forcedScheme(m_appearanceMode));
+    m_services.appearance->apply(choiceFor(m_appearanceMode));
 }
 
 void AppModel::setSettings(const ConversionSettings &settings)

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Appearance.h"
-
 #include <QObject>
 
 /// How the program is to look and move at this moment: what the desktop asks for, unless the application has
@@ -11,13 +9,15 @@
 /// knows the desktop's wishes hands them in (see SettingsPortal); the application's choice goes before them.
 /// Every change of the effective scheme also sets the application's widget palette, so that
 /// file dialogs and menus follow.
-class SystemAppearance : public QObject, public Appearance
+class SystemAppearance : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(bool dark READ isDark NOTIFY darkChanged)
     Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY reduceMotionChanged)
 
 public:
+    /// The application's own choice, over the desktop's.
+    enum class Choice { followSystem, light, dark };
     enum class ColorScheme { light, dark };
     enum class Motion { full, reduced };
 
@@ -29,7 +29,7 @@ public:
     void setSystemScheme(ColorScheme scheme);
     void setMotion(Motion motion);
 
-    void apply(Choice choice) override;
+    void apply(Choice choice);
 
 Q_SIGNALS:
     void darkChanged();

@@ -125,7 +125,7 @@ private Q_SLOTS:
         scene.show(buttons);
         const auto fill = [&] { return scene.window.grabWindow().pixelColor(104, 22).name(); };
         QCOMPARE(fill(), QStringLiteral("#ffffff"));
-        scene.appearance.apply(Appearance::Choice::dark);
+        scene.appearance.apply(SystemAppearance::Choice::dark);
         QTRY_COMPARE(fill(), QStringLiteral("#252f49"));
     }
 };

@@ -45,13 +45,13 @@ private Q_SLOTS:
         SystemAppearance appearance;
         const LumaportPalette palette(appearance);
         QSignalSpy changes(&palette, &LumaportPalette::appearanceChanged);
-        appearance.apply(Appearance::Choice::dark);
+        appearance.apply(SystemAppearance::Choice::dark);
         QCOMPARE(changes.size(), 1);
         appearance.setSystemScheme(SystemAppearance::ColorScheme::dark); // forced dark already
         appearance.setSystemScheme(SystemAppearance::ColorScheme::light);
         QCOMPARE(changes.size(), 1);
         QVERIFY(appearance.isDark());
-        appearance.apply(Appearance::Choice::followSystem);
+        appearance.apply(SystemAppearance::Choice::followSystem);
         QCOMPARE(changes.size(), 2);
         QVERIFY(!appearance.isDark());
     }
