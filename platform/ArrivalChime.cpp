@@ -4,10 +4,20 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QStandardPaths>
 
 #include <canberra.h>
 
 namespace {
+
+/// A sound server or a sound card. Without either the sound library would complain on standard error.
+bool hasAudio()
+{
+    const QString runtimeFolder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return qEnvironmentVariableIsSet("PULSE_SERVER") ||
+           QFile::exists(runtimeFolder + QStringLiteral("/pulse/native")) ||
+           QFile::exists(QStringLiteral("/dev/snd/controlC0"));
+}
 
 class CanberraChime : public ArrivalChime
 {
@@ -15,7 +25,7 @@ public:
     void play(const QString &soundName) override
     {
         const QString path = shippedFile(soundName);
-        if (path.isEmpty() || !isOpen()) {
+        if (path.isEmpty() || !hasAudio() || !isOpen()) {
             return;
         }
         ca_proplist *properties = nullptr;
