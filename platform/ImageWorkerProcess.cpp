@@ -9,6 +9,7 @@
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
+#include <optional>
 #include <poll.h>
 #include <spawn.h>
 #include <string>
@@ -90,21 +91,11 @@ tl::unexpected<ImageWorkerFault> failed(ImageWorkerFault fault)
 
 } // namespace
 
-ImageWorkerChild &ImageWorkerChild::operator=(ImageWorkerChild &&other) noexcept
-{
-    if (this != &other) {
-        end();
-        m_process = std::move(other.m_process);
-        m_socket = std::move(other.m_socket);
-    }
-    return *this;
-}
-
-ImageWorkerChild ImageWorkerChild::start(const QString &program)
+std::shared_ptr<ImageWorkerChild> ImageWorkerChild::start(const QString &program)
 {
     std::array<int, 2> ends = {-1, -1};
     if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) {
-        return {};
+        return nullptr;
     }
     FileDescriptor ours(ends[0]);
     const FileDescriptor theirs(ends[1]);
@@ -117,45 +108,45 @@ ImageWorkerChild ImageWorkerChild::start(const QString &program)
     pid_t identifier = 0;
     if (::posix_spawn(&identifier, path.c_str(), actions.get(), nullptr, arguments.data(),
                       environment.data()) != 0) {
-        return {};
+        return nullptr;
     }
     FileDescriptor process(static_cast<int>(::syscall(SYS_pidfd_open, identifier, 0)));
     if (!process.isOpen()) {
         ::kill(identifier, SIGKILL);
         ::waitpid(identifier, nullptr, 0);
-        return {};
+        return nullptr;
     }
-    return {std::move(process), std::move(ours)};
+    return std::make_shared<ImageWorkerChild>(std::move(process), std::move(ours));
 }
 
 bool ImageWorkerChild::isRunning() const
 {
     pollfd ended = {m_process.number(), POLLIN, 0};
-    return m_process.isOpen() && ::poll(&ended, 1, 0) == 0;
+    return ::poll(&ended, 1, 0) == 0;
 }
 
-void ImageWorkerChild::end()
+void ImageWorkerChild::kill() const
 {
-    if (!m_process.isOpen()) {
-        return;
-    }
     ::syscall(SYS_pidfd_send_signal, m_process.number(), SIGKILL, nullptr, 0);
+}
+
+void ImageWorkerChild::end() const
+{
+    kill();
     siginfo_t status = {};
     while (::waitid(P_PIDFD, static_cast<id_t>(m_process.number()), &status, WEXITED) != 0 &&
            errno == EINTR) {
     }
-    m_process.reset();
-    m_socket.reset();
 }
 
 tl::expected<Reply, ImageWorkerFault>
 ImageWorkerProcess::ask(const Request &request, const FileDescriptor &file, std::chrono::milliseconds limit)
 {
-    const bool asked =
-        m_child.isRunning() && file.isOpen() && sendRequest(m_child.socket(), request, file.number());
-    const std::optional<Reply> reply = asked ? receiveReply(m_child.socket(), limit) : std::nullopt;
+    const bool asked = m_child && m_child->isRunning() && file.isOpen() &&
+                       sendRequest(m_child->socket(), request, file.number());
+    const std::optional<Reply> reply = asked ? receiveReply(m_child->socket(), limit) : std::nullopt;
     if (!reply) {
-        m_child.end();
+        m_child.reset();
         return failed(ImageWorkerFault::Unreadable);
     }
     switch (reply->outcome) {
@@ -181,7 +172,7 @@ tl::expected<ImageSize, ImageWorkerFault> ImageWorkerProcess::open(const FileDes
     }
     if (reply->width <= 0 || reply->height <= 0 ||
         std::int64_t{reply->width} * reply->height > MaximumPixels) {
-        m_child.end();
+        m_child.reset();
         return failed(ImageWorkerFault::Unreadable);
     }
     m_size = {reply->width, reply->height};
