@@ -55,15 +55,16 @@ QUrl folderUrl(const QString &path)
     return QUrl::fromLocalFile(path).adjusted(QUrl::StripTrailingSlash);
 }
 
-SystemAppearance::Choice choiceFor(AppearanceMode mode)
+/// None: what the desktop asks for.
+std::optional<SystemAppearance::ColorScheme> forcedScheme(AppearanceMode mode)
 {
     switch (mode) {
     case AppearanceMode::system:
-        return SystemAppearance::Choice::followSystem;
+        return std::nullopt;
     case AppearanceMode::light:
-        return SystemAppearance::Choice::light;
+        return SystemAppearance::ColorScheme::Light;
     case AppearanceMode::dark:
-        return SystemAppearance::Choice::dark;
+        return SystemAppearance::ColorScheme::Dark;
     }
     Q_UNREACHABLE();
 }
@@ -154,7 +155,7 @@ void AppModel::setAppearanceMode(AppearanceMode mode)
 
 void AppModel::applyAppearance()
 {
-    m_services.appearance->apply(choiceFor(m_appearanceMode));
+    m_services.appearance->force(forcedScheme(m_appearanceMode));
 }
 
 void AppModel::setSettings(const ConversionSettings &settings)

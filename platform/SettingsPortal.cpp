@@ -81,8 +81,8 @@ void SettingsPortal::take(const QString &group, const QString &key, const QVaria
 {
     const QVariant value = unwrapped(wrapped);
     if (group == appearanceGroup && key == colorSchemeKey) {
-        m_appearance.setSystemScheme(value.toUInt() == prefersDark ? SystemAppearance::ColorScheme::dark
-                                                                   : SystemAppearance::ColorScheme::light);
+        m_appearance.setSystemScheme(value.toUInt() == prefersDark ? SystemAppearance::ColorScheme::Dark
+                                                                   : SystemAppearance::ColorScheme::Light);
         return;
     }
     if (group == gnomeGroup && key == gnomeAnimationsKey) {
@@ -92,6 +92,6 @@ void SettingsPortal::take(const QString &group, const QString &key, const QVaria
         const double factor = value.toDouble(&isNumber);
         m_kdeReducesMotion = isNumber && factor <= 0.0;
     }
-    m_appearance.setMotion(m_gnomeReducesMotion || m_kdeReducesMotion ? SystemAppearance::Motion::reduced
-                                                                      : SystemAppearance::Motion::full);
+    m_appearance.setMotion(m_gnomeReducesMotion || m_kdeReducesMotion ? SystemAppearance::Motion::Reduced
+                                                                      : SystemAppearance::Motion::Full);
 }

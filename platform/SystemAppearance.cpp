@@ -14,7 +14,7 @@ bool isDarkPalette(const QPalette &palette)
 // contrast; else two colours from which Qt derives the rest.
 void applyWidgetPalette(SystemAppearance::ColorScheme scheme)
 {
-    const bool wantsDark = scheme == SystemAppearance::ColorScheme::dark;
+    const bool wantsDark = scheme == SystemAppearance::ColorScheme::Dark;
     QGuiApplication::setPalette(QPalette());
     if (isDarkPalette(QGuiApplication::palette()) == wantsDark) {
         return;
@@ -44,18 +44,15 @@ void SystemAppearance::setMotion(Motion motion)
     Q_EMIT reduceMotionChanged();
 }
 
-void SystemAppearance::apply(Choice choice)
+void SystemAppearance::force(std::optional<ColorScheme> scheme)
 {
-    m_choice = choice;
+    m_forced = scheme;
     update();
 }
 
 void SystemAppearance::update()
 {
-    ColorScheme effective = m_system;
-    if (m_choice != Choice::followSystem) {
-        effective = m_choice == Choice::dark ? ColorScheme::dark : ColorScheme::light;
-    }
+    const ColorScheme effective = m_forced.value_or(m_system);
     if (m_effective == effective) {
         return;
     }

@@ -2,11 +2,12 @@
 
 #include <QObject>
 
-/// How the program is to look and move at this moment: what the desktop asks for, unless the application has
-/// chosen.
+#include <optional>
+
+/// How the program is to look and move at this moment: what the desktop asks for, unless a scheme is forced.
 ///
 /// It starts light and with full motion, which is also what holds where no desktop says anything. Whoever
-/// knows the desktop's wishes hands them in (see SettingsPortal); the application's choice goes before them.
+/// knows the desktop's wishes hands them in (see SettingsPortal); a forced scheme goes before them.
 /// Every change of the effective scheme also sets the application's widget palette, so that
 /// file dialogs and menus follow.
 class SystemAppearance : public QObject
@@ -16,20 +17,19 @@ class SystemAppearance : public QObject
     Q_PROPERTY(bool reduceMotion READ reduceMotion NOTIFY reduceMotionChanged)
 
 public:
-    /// The application's own choice, over the desktop's.
-    enum class Choice { followSystem, light, dark };
-    enum class ColorScheme { light, dark };
-    enum class Motion { full, reduced };
+    enum class ColorScheme { Light, Dark };
+    enum class Motion { Full, Reduced };
 
     using QObject::QObject;
 
-    bool isDark() const { return m_effective == ColorScheme::dark; }
-    bool reduceMotion() const { return m_motion == Motion::reduced; }
+    bool isDark() const { return m_effective == ColorScheme::Dark; }
+    bool reduceMotion() const { return m_motion == Motion::Reduced; }
 
     void setSystemScheme(ColorScheme scheme);
     void setMotion(Motion motion);
 
-    void apply(Choice choice);
+    /// Shows `scheme` whatever the desktop says; none follows the desktop again.
+    void force(std::optional<ColorScheme> scheme);
 
 Q_SIGNALS:
     void darkChanged();
@@ -38,8 +38,8 @@ Q_SIGNALS:
 private:
     void update();
 
-    ColorScheme m_system = ColorScheme::light;
-    Choice m_choice = Choice::followSystem;
-    ColorScheme m_effective = ColorScheme::light;
-    Motion m_motion = Motion::full;
+    ColorScheme m_system = ColorScheme::Light;
+    std::optional<ColorScheme> m_forced;
+    ColorScheme m_effective = ColorScheme::Light;
+    Motion m_motion = Motion::Full;
 };

@@ -108,7 +108,7 @@ private Q_SLOTS:
     void shouldComeAndGoAtOnceWithReducedMotion()
     {
         Stage stage;
-        stage.appearance.setMotion(SystemAppearance::Motion::reduced);
+        stage.appearance.setMotion(SystemAppearance::Motion::Reduced);
         stage.leave();
         stage.hover(stage.button);
         QVERIFY(isClose(stage.colour(), highlighted));

@@ -134,9 +134,9 @@ private Q_SLOTS:
         const auto isDark = [] {
             return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
         };
-        m_appearance->apply(SystemAppearance::Choice::dark);
+        m_appearance->force(SystemAppearance::ColorScheme::Dark);
         QVERIFY(isDark());
-        m_appearance->apply(SystemAppearance::Choice::followSystem);
+        m_appearance->force(std::nullopt);
         QVERIFY(!isDark());
     }
 };

@@ -107,8 +107,8 @@ private Q_SLOTS:
         QFETCH(bool, reduceMotion);
         QFETCH(double, scale);
         Scene scene;
-        scene.appearance.setMotion(reduceMotion ? SystemAppearance::Motion::reduced
-                                                : SystemAppearance::Motion::full);
+        scene.appearance.setMotion(reduceMotion ? SystemAppearance::Motion::Reduced
+                                                : SystemAppearance::Motion::Full);
         scene.show(buttons);
         QQuickItem *button = scene.find(QStringLiteral("button"));
         auto *background = button->property("background").value<QQuickItem *>();
@@ -125,7 +125,7 @@ private Q_SLOTS:
         scene.show(buttons);
         const auto fill = [&] { return scene.window.grabWindow().pixelColor(104, 22).name(); };
         QCOMPARE(fill(), QStringLiteral("#ffffff"));
-        scene.appearance.apply(SystemAppearance::Choice::dark);
+        scene.appearance.force(SystemAppearance::ColorScheme::Dark);
         QTRY_COMPARE(fill(), QStringLiteral("#252f49"));
     }
 };

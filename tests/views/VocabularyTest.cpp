@@ -31,7 +31,7 @@ private Q_SLOTS:
             names(),
             QStringLiteral(
                 "#fff5f8ff #ffe7eefc #ffffffff #ff17233f #ff556582 #ff245bdb #ffad3e20 #ff176a52 #ffdde6f6"));
-        appearance.setSystemScheme(SystemAppearance::ColorScheme::dark);
+        appearance.setSystemScheme(SystemAppearance::ColorScheme::Dark);
         QCOMPARE(
             names(),
             QStringLiteral(
@@ -45,13 +45,13 @@ private Q_SLOTS:
         SystemAppearance appearance;
         const LumaportPalette palette(appearance);
         QSignalSpy changes(&palette, &LumaportPalette::appearanceChanged);
-        appearance.apply(SystemAppearance::Choice::dark);
+        appearance.force(SystemAppearance::ColorScheme::Dark);
         QCOMPARE(changes.size(), 1);
-        appearance.setSystemScheme(SystemAppearance::ColorScheme::dark); // forced dark already
-        appearance.setSystemScheme(SystemAppearance::ColorScheme::light);
+        appearance.setSystemScheme(SystemAppearance::ColorScheme::Dark); // forced dark already
+        appearance.setSystemScheme(SystemAppearance::ColorScheme::Light);
         QCOMPARE(changes.size(), 1);
         QVERIFY(appearance.isDark());
-        appearance.apply(SystemAppearance::Choice::followSystem);
+        appearance.force(std::nullopt);
         QCOMPARE(changes.size(), 2);
         QVERIFY(!appearance.isDark());
     }
