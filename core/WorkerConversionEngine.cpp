@@ -3,6 +3,7 @@
 #include "FileOperations.h"
 #include "ImageWorker.h"
 #include "ImageWorkerLauncher.h"
+#include "PhotoFile.h"
 #include "PhotoFileName.h"
 #include "ScratchFile.h"
 
@@ -10,9 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QPointer>
-
-#include <fcntl.h>
-#include <sys/stat.h>
 
 namespace {
 
@@ -60,16 +58,6 @@ tl::expected<QString, std::error_code> useFirstFreeName(const QString &folder, c
             return tl::unexpected(error);
         }
     }
-}
-
-/// None for what is no regular file: a pipe named like a photo must not be waited for.
-FileDescriptor openPhoto(const QUrl &file)
-{
-    const QByteArray path = QFile::encodeName(file.toLocalFile());
-    FileDescriptor photo(::open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    struct stat status = {};
-    const bool isRegular = photo.isOpen() && ::fstat(photo.number(), &status) == 0 && S_ISREG(status.st_mode);
-    return isRegular ? std::move(photo) : FileDescriptor();
 }
 
 ConversionFailure failureOf(ImageWorkerFault fault)

@@ -1,0 +1,98 @@
+#include "ThumbnailStore.h"
+
+#include "ImageWorker.h"
+#include "ImageWorkerLauncher.h"
+#include "PhotoFile.h"
+
+namespace {
+
+// A full thumbnail takes 230,400 bytes in memory; this many stay below 8 MiB by far.
+constexpr int maximumCount = 24;
+
+// Each worker takes a core and some tens of megabytes; the conversion under way is not to wait for
+// thumbnails.
+constexpr int maximumReaders = 2;
+
+ThumbnailStore *s_replacement = nullptr;
+
+QByteArray readThumbnail(ImageWorkerLauncher &launcher, const QUrl &url)
+{
+    const FileDescriptor photo = openPhoto(url);
+    if (!photo.isOpen()) {
+        return {};
+    }
+    const std::unique_ptr<ImageWorker> worker = launcher.launch();
+    if (!worker->open(photo)) {
+        return {};
+    }
+    return worker->thumbnail(ThumbnailStore::maximumSide).value_or(QByteArray());
+}
+
+} // namespace
+
+ThumbnailRequest::ThumbnailRequest(Answer answer)
+    : m_answer(std::make_shared<Answer>(std::move(answer)))
+{}
+
+ThumbnailRequest::~ThumbnailRequest() = default;
+
+ThumbnailStore::ThumbnailStore(std::shared_ptr<ImageWorkerLauncher> launcher)
+    : m_cache(maximumCount)
+    , m_launcher(std::move(launcher))
+{
+    m_readers.setMaxThreadCount(maximumReaders);
+    m_readers.setThreadPriority(QThread::LowPriority);
+}
+
+ThumbnailStore::~ThumbnailStore()
+{
+    m_readers.clear();
+    m_launcher->endAll();
+    m_readers.waitForDone();
+    if (s_replacement == this) {
+        s_replacement = nullptr;
+    }
+}
+
+ThumbnailStore &ThumbnailStore::shared()
+{
+    if (s_replacement) {
+        return *s_replacement;
+    }
+    static ThumbnailStore store(ImageWorkerLauncher::create());
+    return store;
+}
+
+void ThumbnailStore::setShared(ThumbnailStore *store)
+{
+    s_replacement = store;
+}
+
+std::unique_ptr<ThumbnailRequest> ThumbnailStore::image(const QUrl &url, ThumbnailRequest::Answer answer)
+{
+    if (const QImage *known = m_cache.object(url)) {
+        answer(*known);
+        return nullptr;
+    }
+    auto request = std::make_unique<ThumbnailRequest>(std::move(answer));
+    m_readers.start([this, url, waiting = std::weak_ptr(request->m_answer)] {
+        const QByteArray png = readThumbnail(*m_launcher, url);
+        QMetaObject::invokeMethod(
+            this, [this, url, waiting, png] { finish(url, waiting, png); }, Qt::QueuedConnection);
+    });
+    return request;
+}
+
+void ThumbnailStore::finish(const QUrl &url, const std::weak_ptr<ThumbnailRequest::Answer> &waiting,
+                            const QByteArray &png)
+{
+    const std::shared_ptr<ThumbnailRequest::Answer> answer = waiting.lock();
+    if (!answer) {
+        return;
+    }
+    const QImage image = QImage::fromData(png, "PNG");
+    if (!image.isNull()) {
+        m_cache.insert(url, new QImage(image));
+    }
+    (*answer)(image);
+}

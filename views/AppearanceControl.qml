@@ -1,0 +1,34 @@
+import QtQuick
+import Lumaport.Interaction
+import Lumaport.Views
+
+// The switch between light and dark.
+SegmentedControl {
+    Accessible.name: qsTr("Appearance")
+    dampingFraction: 0.72
+    segments: [
+        Segment {
+            help: qsTr("%1 appearance").arg(name)
+            name: qsTr("System")
+            symbol: "desktopcomputer"
+        },
+        Segment {
+            help: qsTr("%1 appearance").arg(name)
+            name: qsTr("Light")
+            symbol: "sun.max"
+        },
+        Segment {
+            help: qsTr("%1 appearance").arg(name)
+            name: qsTr("Dark")
+            symbol: "moon"
+        }
+    ]
+    selection: controller.appearanceMode
+    onChosen: choice => controller.appearanceMode = choice
+
+    OptionsController {
+        id: controller
+
+        model: AppModel
+    }
+}

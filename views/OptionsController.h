@@ -1,0 +1,73 @@
+#pragma once
+
+#include "ConversionSettings.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+class AppModel;
+
+/// The settings as the options panel and the segmented controls show them: each choice is its number in the
+/// order of the cases. Every change goes to the model at once; nothing is checked or clamped here.
+class OptionsController : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(AppModel *model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
+    Q_PROPERTY(QString watchFolderPath READ watchFolderPath NOTIFY watchFolderChanged)
+    Q_PROPERTY(bool canConvertExisting READ canConvertExisting NOTIFY busyChanged)
+    Q_PROPERTY(int format READ format WRITE setFormat NOTIFY settingsChanged)
+    Q_PROPERTY(bool hasQuality READ hasQuality NOTIFY settingsChanged)
+    Q_PROPERTY(double jpegQuality READ jpegQuality WRITE setJpegQuality NOTIFY settingsChanged)
+    Q_PROPERTY(QString qualityText READ qualityText NOTIFY settingsChanged)
+    Q_PROPERTY(QStringList outputLocations READ outputLocations CONSTANT)
+    Q_PROPERTY(int outputLocation READ outputLocation WRITE setOutputLocation NOTIFY settingsChanged)
+    Q_PROPERTY(QStringList originalPolicies READ originalPolicies CONSTANT)
+    Q_PROPERTY(int originalPolicy READ originalPolicy WRITE setOriginalPolicy NOTIFY settingsChanged)
+    Q_PROPERTY(bool notificationsEnabled READ notificationsEnabled WRITE setNotificationsEnabled NOTIFY
+                   settingsChanged)
+    Q_PROPERTY(int appearanceMode READ appearanceMode WRITE setAppearanceMode NOTIFY appearanceModeChanged)
+
+public:
+    using QObject::QObject;
+
+    AppModel *model() const { return m_model; }
+    void setModel(AppModel *model);
+
+    QString watchFolderPath() const;
+    bool canConvertExisting() const;
+    int format() const;
+    /// Only JPEG has a quality.
+    bool hasQuality() const;
+    double jpegQuality() const;
+    /// In whole percent, cut off rather than rounded.
+    QString qualityText() const;
+    static QStringList outputLocations();
+    int outputLocation() const;
+    static QStringList originalPolicies();
+    int originalPolicy() const;
+    bool notificationsEnabled() const;
+    int appearanceMode() const;
+
+    void setFormat(int choice);
+    void setJpegQuality(double quality);
+    void setOutputLocation(int choice);
+    void setOriginalPolicy(int choice);
+    void setNotificationsEnabled(bool enabled);
+    void setAppearanceMode(int choice);
+
+Q_SIGNALS:
+    void modelChanged();
+    void watchFolderChanged();
+    void busyChanged();
+    void settingsChanged();
+    void appearanceModeChanged();
+
+private:
+    ConversionSettings settings() const;
+    template<typename Change>
+    void changeSettings(Change change);
+
+    AppModel *m_model = nullptr;
+};

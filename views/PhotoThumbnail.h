@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QImage>
+#include <QQuickPaintedItem>
+#include <QUrl>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+class ThumbnailRequest;
+
+/// A small picture of a photo file, filling its frame; while there is none, mountains on a gradient.
+///
+/// The picture is asked of the one thumbnail store whenever `url` changes; an empty url shows the mountains.
+/// Hidden from accessibility.
+class PhotoThumbnail : public QQuickPaintedItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QUrl url READ url WRITE setUrl NOTIFY urlChanged)
+    Q_PROPERTY(int variant READ variant WRITE setVariant NOTIFY variantChanged)
+    Q_PROPERTY(double cornerRadius READ cornerRadius WRITE setCornerRadius NOTIFY cornerRadiusChanged)
+    Q_PROPERTY(bool loaded READ isLoaded NOTIFY loadedChanged)
+
+public:
+    explicit PhotoThumbnail(QQuickItem *parent = nullptr);
+    ~PhotoThumbnail() override;
+
+    QUrl url() const { return m_url; }
+    /// The gradient behind: odd ones are warm, even ones blue.
+    int variant() const { return m_variant; }
+    /// The frame's corners, in points.
+    double cornerRadius() const { return m_cornerRadius; }
+    bool isLoaded() const { return !m_image.isNull(); }
+
+    void setUrl(const QUrl &url);
+    void setVariant(int variant);
+    void setCornerRadius(double radius);
+
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void urlChanged();
+    void variantChanged();
+    void cornerRadiusChanged();
+    void loadedChanged();
+
+private:
+    void setImage(const QImage &image);
+
+    QUrl m_url;
+    int m_variant = 0;
+    double m_cornerRadius = 0.0;
+    QImage m_image;
+    std::unique_ptr<ThumbnailRequest> m_request;
+};

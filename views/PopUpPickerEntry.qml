@@ -1,0 +1,39 @@
+import QtQuick
+import QtQuick.Templates as T
+import Lumaport.Vocabulary
+
+// One entry of a pop-up picker's menu; the chosen one has a check mark.
+T.ItemDelegate {
+    id: entry
+
+    required property bool chosen
+
+    Accessible.name: text
+    Accessible.onPressAction: entry.clicked()
+    font.pixelSize: 12
+    hoverEnabled: true
+    implicitHeight: 28
+    leftPadding: 28
+
+    background: Rectangle {
+        color: Qt.alpha(LumaportPalette.iris, entry.highlighted ? 0.12 : 0)
+        radius: 8
+
+        Symbol {
+            anchors.left: parent.left
+            anchors.leftMargin: 9
+            anchors.verticalCenter: parent.verticalCenter
+            color: LumaportPalette.iris
+            name: "checkmark"
+            pointSize: 9
+            visible: entry.chosen
+        }
+    }
+    contentItem: BodyText {
+        Accessible.ignored: true
+        elide: Text.ElideRight
+        font: entry.font
+        text: entry.text
+        verticalAlignment: Text.AlignVCenter
+    }
+}

@@ -1,0 +1,76 @@
+import QtQuick
+import QtQuick.Controls.Basic as Basic
+import QtQuick.Templates as T
+import Lumaport.Interaction
+import Lumaport.Vocabulary
+
+// One segment of a segmented control. Chosen, its label is white and a little higher.
+T.Control {
+    id: button
+
+    required property Segment segment
+    required property bool selected
+    required property real lift
+    required property real dampingFraction
+
+    signal clicked
+
+    Accessible.checkable: true
+    Accessible.checked: selected
+    Accessible.focusable: true
+    Accessible.name: segment.name
+    Accessible.onPressAction: button.clicked()
+    Accessible.role: Accessible.RadioButton
+    Accessible.selectable: true
+    Accessible.selected: selected
+    Basic.ToolTip.delay: 700
+    Basic.ToolTip.text: segment.help
+    Basic.ToolTip.visible: segment.help !== "" && hovered
+    Keys.onEnterPressed: button.clicked()
+    Keys.onReturnPressed: button.clicked()
+    Keys.onSpacePressed: button.clicked()
+    activeFocusOnTab: selected
+    font.pixelSize: segment.symbol === "" ? 11 : 12
+    font.weight: segment.symbol === "" ? Font.DemiBold : Font.Medium
+    hoverEnabled: true
+
+    SymbolLabel {
+        centred: true
+        color: button.selected ? "white" : LumaportPalette.muted
+        font: button.font
+        height: parent.height
+        spoken: false
+        symbol: button.segment.symbol
+        text: button.segment.text
+        width: parent.width
+        y: -button.lift * raised.value
+
+        Behavior on color {
+            enabled: !SystemAppearance.reduceMotion
+
+            ColorAnimation {
+                duration: 150
+            }
+        }
+    }
+
+    SpringValue {
+        id: raised
+
+        dampingFraction: button.dampingFraction
+        response: 0.32
+        to: button.selected ? 1 : 0
+    }
+
+    InteractionFeedback {}
+
+    TapHandler {
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: button.clicked()
+    }
+
+    FocusRing {
+        visible: button.visualFocus
+        y: -button.lift
+    }
+}

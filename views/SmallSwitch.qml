@@ -1,0 +1,61 @@
+import QtQuick
+import QtQuick.Templates as T
+import Lumaport.Interaction
+import Lumaport.Vocabulary
+
+// A small switch with its text before it. The one who uses it takes the wish and sets `checked`.
+T.Switch {
+    id: control
+
+    signal chosen(bool on)
+
+    Accessible.name: text
+    Accessible.onPressAction: control.chosen(!control.checked)
+    Accessible.onToggleAction: control.chosen(!control.checked)
+    Keys.onEnterPressed: control.chosen(!control.checked)
+    Keys.onReturnPressed: control.chosen(!control.checked)
+    font.pixelSize: 12
+    implicitHeight: Math.max(20, implicitContentHeight)
+    implicitWidth: implicitContentWidth + rightPadding
+    rightPadding: 38
+
+    onToggled: control.chosen(control.checked)
+
+    contentItem: BodyText {
+        Accessible.ignored: true
+        font: control.font
+        text: control.text
+        verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.Wrap
+    }
+    indicator: Rectangle {
+        readonly property SpringValue travel: SpringValue {
+            dampingFraction: 0.8
+            response: 0.25
+            to: control.checked ? 1 : 0
+        }
+
+        border.color: control.checked ? LumaportPalette.cobalt : LumaportPalette.muted
+        border.width: 1
+        color: control.checked ? LumaportPalette.cobalt : LumaportPalette.deck
+        height: 16
+        radius: 8
+        width: 28
+        x: control.width - width
+        y: (control.height - height) / 2
+
+        Rectangle {
+            color: "white"
+            height: 12
+            radius: 6
+            width: 12
+            x: 2 + 12 * parent.travel.value
+            y: 2
+        }
+
+        FocusRing {
+            cornerRadius: 8
+            visible: control.visualFocus
+        }
+    }
+}
