@@ -62,7 +62,9 @@ private:
     bool accept(const SampleFormat &format);
     void prepare(const SampleFormat &format);
     PlaneView slotPlane(int strip, std::size_t plane, PixelRectangle shown);
-    void applyAlpha(int y, std::uint8_t *rgba) const;
+    template<typename Sample>
+    void averagePlanes(int strip, int y, int factor, std::array<std::vector<Sample>, 3> &means) const;
+    void applyAlpha(const std::uint8_t *opacities, std::size_t width, std::uint8_t *rgba) const;
 
     const Source &m_source;
     const TileGrid &m_grid;
