@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <optional>
+
 class ThumbnailStoreTest : public QObject
 {
     Q_OBJECT

@@ -16,6 +16,9 @@ public:
         AppModelSingleton::provide(model);
         ThumbnailStore::setShared(&thumbnails);
     }
+    ~ModelScene() { close(); }
+    ModelScene(const ModelScene &) = delete;
+    ModelScene &operator=(const ModelScene &) = delete;
 
     /// A history entry whose file is in the watched folder and gives a thumbnail of `colour`.
     ConversionItem item(const QString &name, ConversionStatus status,

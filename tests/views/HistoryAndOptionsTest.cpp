@@ -134,7 +134,11 @@ private Q_SLOTS:
         for (const int percent : {70, 75, 80, 85, 90, 95, 100, 100}) {
             scene.press(Qt::Key_Right);
             QCOMPARE(text->property("text").toString(), QStringLiteral("%1% quality").arg(percent));
-            QVERIFY(qAbs(scene.model.settings().jpegQuality - percent / 100.0) < 1e-9);
+            QCOMPARE(scene.model.settings().jpegQuality, percent / 100.0);
+        }
+        for (const int percent : {95, 90, 85, 80, 75, 70, 65, 65}) {
+            scene.press(Qt::Key_Left);
+            QCOMPARE(text->property("text").toString(), QStringLiteral("%1% quality").arg(percent));
         }
         settings.format = OutputFormat::png;
         scene.model.setSettings(settings);
