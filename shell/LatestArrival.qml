@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // The newest entry of the history: its picture, its name, how far it is, and its file once there is one.
@@ -15,13 +16,17 @@ Rectangle {
     implicitHeight: Math.max(thumbnail.height, texts.implicitHeight, revealButton.implicitHeight) + 2 * padding
     radius: 12
 
-    Item {
+    PhotoThumbnail {
         id: thumbnail
 
         anchors.left: parent.left
         anchors.leftMargin: row.padding
         anchors.verticalCenter: parent.verticalCenter
+        cornerRadius: 9
         height: 42
+        objectName: "thumbnail"
+        url: row.controller.arrivalFile
+        variant: 0
         width: 42
     }
 

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import Lumaport.Interaction
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // The status item's panel: is conversion on, what arrived last, and the few things one does without the main window.
@@ -96,11 +97,12 @@ Rectangle {
                 text: qsTr("Convert to")
             }
 
-            Item {
+            FormatControl {
                 id: formatControl
 
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
+                objectName: "formatControl"
             }
         }
 

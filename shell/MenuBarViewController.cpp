@@ -1,6 +1,7 @@
 #include "MenuBarViewController.h"
 
 #include "AppModel.h"
+#include "ConversionItemTexts.h"
 
 MenuBarViewController::MenuBarViewController(AppModel &model, Actions actions, QObject *parent)
     : QObject(parent)
@@ -8,7 +9,6 @@ MenuBarViewController::MenuBarViewController(AppModel &model, Actions actions, Q
     , m_actions(std::move(actions))
 {
     connect(&model, &AppModel::itemsChanged, this, &MenuBarViewController::arrivalChanged);
-    connect(&model, &AppModel::settingsChanged, this, &MenuBarViewController::formatChanged);
 }
 
 bool MenuBarViewController::hasArrival() const
@@ -18,56 +18,23 @@ bool MenuBarViewController::hasArrival() const
 
 QString MenuBarViewController::arrivalName() const
 {
-    if (!hasArrival()) {
-        return {};
-    }
-    const ConversionItem newest = m_model.items().constFirst();
-    return newest.outputName.value_or(newest.sourceName);
+    return hasArrival() ? ConversionItemTexts::displayName(m_model.items().constFirst()) : QString();
 }
 
 QString MenuBarViewController::arrivalStatus() const
 {
-    if (!hasArrival()) {
-        return {};
-    }
-    const ConversionItem newest = m_model.items().constFirst();
-    switch (newest.status) {
-    case ConversionStatus::queued:
-        return tr("Waiting to convert");
-    case ConversionStatus::converting:
-        return tr("Converting on your Mac");
-    case ConversionStatus::ready:
-        return tr("Ready to use");
-    case ConversionStatus::failed:
-        return newest.errorMessage.value_or(tr("Needs attention"));
-    }
-    Q_UNREACHABLE();
+    return hasArrival() ? ConversionItemTexts::statusText(m_model.items().constFirst(), tr("Needs attention"))
+                        : QString();
 }
 
 QUrl MenuBarViewController::arrivalFile() const
 {
-    if (!hasArrival()) {
-        return {};
-    }
-    const ConversionItem newest = m_model.items().constFirst();
-    return newest.outputURL.value_or(newest.sourceURL);
+    return hasArrival() ? ConversionItemTexts::displayFile(m_model.items().constFirst()) : QUrl();
 }
 
 bool MenuBarViewController::canReveal() const
 {
     return hasArrival() && m_model.items().constFirst().status == ConversionStatus::ready;
-}
-
-int MenuBarViewController::format() const
-{
-    return static_cast<int>(m_model.settings().format);
-}
-
-void MenuBarViewController::setFormat(int choice)
-{
-    ConversionSettings settings = m_model.settings();
-    settings.format = static_cast<OutputFormat>(choice);
-    m_model.setSettings(settings);
 }
 
 void MenuBarViewController::reveal()

@@ -19,7 +19,6 @@ class MenuBarViewController : public QObject
     Q_PROPERTY(QString arrivalStatus READ arrivalStatus NOTIFY arrivalChanged)
     Q_PROPERTY(QUrl arrivalFile READ arrivalFile NOTIFY arrivalChanged)
     Q_PROPERTY(bool canReveal READ canReveal NOTIFY arrivalChanged)
-    Q_PROPERTY(int format READ format WRITE setFormat NOTIFY formatChanged)
 
 public:
     /// What the panel asks of the shell.
@@ -39,9 +38,6 @@ public:
     /// The file whose picture is shown: the output, or the source while there is no output.
     QUrl arrivalFile() const;
     bool canReveal() const;
-    /// The output format's number in the order of its cases.
-    int format() const;
-    void setFormat(int choice);
 
     Q_INVOKABLE void reveal();
     Q_INVOKABLE void openMain() const { m_actions.openMain(); }
@@ -49,7 +45,6 @@ public:
 
 Q_SIGNALS:
     void arrivalChanged();
-    void formatChanged();
 
 private:
     AppModel &m_model;
