@@ -3,6 +3,8 @@
 #include "AppModel.h"
 #include "OptionTexts.h"
 
+#include <cmath>
+
 namespace {
 
 template<typename Option>
@@ -123,6 +125,11 @@ void OptionsController::setFormat(int choice)
 void OptionsController::setJpegQuality(double quality)
 {
     changeSettings([=](ConversionSettings &settings) { settings.jpegQuality = quality; });
+}
+
+void OptionsController::moveQuality(double position)
+{
+    setJpegQuality(std::round(position * 100) / 100);
 }
 
 void OptionsController::setOutputLocation(int choice)

@@ -50,6 +50,10 @@ public:
     bool notificationsEnabled() const;
     int appearanceMode() const;
 
+    /// Takes a slider's position, whose steps are whole percents, without what adding up steps leaves behind
+    /// (three steps down from 1 are 0.8499999999999999).
+    Q_INVOKABLE void moveQuality(double position);
+
     void setFormat(int choice);
     void setJpegQuality(double quality);
     void setOutputLocation(int choice);

@@ -96,7 +96,7 @@ Rectangle {
                 }
 
                 TextButton {
-                    Layout.fillWidth: true
+                    Layout.maximumWidth: column.width
                     enabled: controller.canConvertExisting
                     leftPadding: 0
                     objectName: "convertExisting"
@@ -121,7 +121,7 @@ Rectangle {
                     stepSize: 0.05
                     to: 1
                     value: controller.jpegQuality
-                    onMoved: controller.jpegQuality = value
+                    onMoved: controller.moveQuality(value)
                 }
 
                 BodyText {

@@ -36,7 +36,7 @@ void paintPlaceholder(QPainter &painter, const QRectF &frame)
     if (side < 1.0) {
         return;
     }
-    const int pixels = qCeil(side * painter.device()->devicePixelRatioF());
+    const int pixels = qCeil(side * painter.deviceTransform().m11());
     QRectF square(0.0, 0.0, side, side);
     square.moveCenter(frame.center());
     painter.setOpacity(0.75);
@@ -107,7 +107,7 @@ void PhotoThumbnail::paint(QPainter *painter)
         return;
     }
     // A brush has no smooth scaling below half size, so the part is first brought to the screen's own pixels.
-    const QSize pixels = (frame.size() * painter->device()->devicePixelRatioF()).toSize();
+    const QSize pixels = (frame.size() * painter->deviceTransform().m11()).toSize();
     QImage scaled = m_image.copy(fillingPart(m_image, frame).toAlignedRect())
                         .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     QBrush brush(scaled);

@@ -12,6 +12,8 @@ T.ComboBox {
     Accessible.description: displayText
     Accessible.name: name
     Accessible.onPressAction: picker.popup.open()
+    // With its menu open the keys choose.
+    Keys.enabled: !popup.visible
     Keys.onEnterPressed: picker.popup.open()
     Keys.onReturnPressed: picker.popup.open()
     font.pixelSize: 12

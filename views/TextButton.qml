@@ -10,6 +10,7 @@ PlainButton {
     font.weight: Font.Medium
     horizontalPadding: 7
     verticalPadding: 4
+    wrapMode: Text.Wrap
 
     InteractionFeedback {}
 }

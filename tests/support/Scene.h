@@ -39,6 +39,9 @@ public:
         return m_item.get();
     }
 
+    /// Ends the shown item, before what it shows ends.
+    void close() { m_item.reset(); }
+
     /// The visible item with this object name anywhere below the shown one; nothing when there is none.
     QQuickItem *find(const QString &name) const { return find(m_item.get(), name); }
 

@@ -13,6 +13,7 @@ T.AbstractButton {
     property string help
     property color color: LumaportPalette.ink
     property real cornerRadius: 9
+    property int wrapMode: Text.NoWrap
 
     Accessible.description: help === text ? "" : help
     Accessible.name: text
@@ -32,11 +33,12 @@ T.AbstractButton {
     contentItem: SymbolLabel {
         centred: true
         color: control.color
-        elide: Text.ElideMiddle
+        elide: control.wrapMode === Text.NoWrap ? Text.ElideMiddle : Text.ElideNone
         font: control.font
         spoken: false
         symbol: control.display === T.AbstractButton.TextOnly ? "" : control.symbol
         text: control.display === T.AbstractButton.IconOnly ? "" : control.text
+        wrapMode: control.wrapMode
     }
 
     FocusRing {

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "AppModelSingleton.h"
+#include "ModelFixture.h"
+#include "PaintedPhotos.h"
+#include "Scene.h"
+#include "ThumbnailStore.h"
+
+/// A scene with a model of its own, whose thumbnails are plain colours.
+class ModelScene : public Scene
+{
+public:
+    ModelScene()
+        : model(fixture.launch())
+    {
+        AppModelSingleton::provide(model);
+        ThumbnailStore::setShared(&thumbnails);
+    }
+    ~ModelScene() { close(); }
+    ModelScene(const ModelScene &) = delete;
+    ModelScene &operator=(const ModelScene &) = delete;
+
+    /// A history entry whose file is in the watched folder and gives a thumbnail of `colour`.
+    ConversionItem item(const QString &name, ConversionStatus status,
+                        const QByteArray &colour = "orange") const
+    {
+        const QUrl source = fixture.url(name);
+        QFile file(source.toLocalFile());
+        if (!file.open(QIODevice::WriteOnly) || file.write(colour) != colour.size()) {
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+        }
+        ConversionItem item = ConversionItem::queuedFor(source, {});
+        item.status = status;
+        if (status == ConversionStatus::ready) {
+            item.outputURL = source;
+            item.outputName = name.section(QLatin1Char('.'), 0, -2) + QStringLiteral(".png");
+        }
+        return item;
+    }
+
+    std::shared_ptr<PaintedPhotos> photos = std::make_shared<PaintedPhotos>();
+    ThumbnailStore thumbnails{photos};
+    ModelFixture fixture;
+    AppModel &model;
+};
