@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumaport.Shell
 import Lumaport.Vocabulary
 
 // The one main window. The menu bar adds its height to the window and takes nothing from the content.
