@@ -36,9 +36,9 @@ public:
     Result<void> decodeTile(int worker, int strip, int index) override;
     void readRow(int strip, int y, std::uint8_t *rgba) const override;
 
-    /// Whether the opacity could vary, or colours be finer than one for each four pixels; known once a tile
-    /// is decoded.
-    const SampleFormat &format() const { return m_format; }
+    /// Writes row @p y of the picture made smaller by @p factor: the mean of each square of that side. The
+    /// square's rows must all belong to @p strip, except beyond the picture's lower edge.
+    void readReducedRow(int strip, int y, int factor, std::uint8_t *rgba) const;
 
 private:
     static constexpr int Capacity = 2;

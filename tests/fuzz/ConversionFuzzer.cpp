@@ -2,6 +2,7 @@
 
 #include "PhotoConverter.h"
 #include "PhotoReader.h"
+#include "Thumbnail.h"
 #include "TileDecoder.h"
 
 #include <fcntl.h>
@@ -27,6 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         return 0;
     }
     static const int output = ::memfd_create("copy", MFD_CLOEXEC);
+    static_cast<void>(writeThumbnail(*source, *photo, output, 240));
     for (const CopyFormat format : {CopyFormat::Png, CopyFormat::Jpeg}) {
         static_cast<void>(writeCopy(*source, *photo, output, format, 0.9));
         static_cast<void>(::ftruncate(output, 0));

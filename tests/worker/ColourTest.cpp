@@ -54,11 +54,12 @@ double errorAgainstLcms(cmsHPROFILE profile, int maximum)
     Bytes rgba(codes.red.size() * 4);
     stage->convert(codes, rgba.data());
     const Profile srgb(cmsCreate_sRGBProfile());
-    void *exact = cmsCreateTransform(profile, TYPE_RGB_DBL, srgb.get(), TYPE_RGB_DBL, INTENT_RELATIVE_COLORIMETRIC,
-                                     cmsFLAGS_NOOPTIMIZE);
+    void *exact = cmsCreateTransform(profile, TYPE_RGB_DBL, srgb.get(), TYPE_RGB_DBL,
+                                     INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOOPTIMIZE);
     double worst = 0;
     for (std::size_t x = 0; x < codes.red.size(); ++x) {
-        const Pixel from = {static_cast<double>(codes.red[x]) / maximum, static_cast<double>(codes.green[x]) / maximum,
+        const Pixel from = {static_cast<double>(codes.red[x]) / maximum,
+                            static_cast<double>(codes.green[x]) / maximum,
                             static_cast<double>(codes.blue[x]) / maximum};
         Pixel to = {};
         cmsDoTransform(exact, from.data(), to.data(), 1);

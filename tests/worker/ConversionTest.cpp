@@ -24,7 +24,8 @@ public:
     Bytes bytes() const
     {
         Bytes content(static_cast<std::size_t>(::lseek(m_descriptor, 0, SEEK_END)));
-        EXPECT_EQ(::pread(m_descriptor, content.data(), content.size(), 0), static_cast<ssize_t>(content.size()));
+        EXPECT_EQ(::pread(m_descriptor, content.data(), content.size(), 0),
+                  static_cast<ssize_t>(content.size()));
         return content;
     }
 
@@ -86,7 +87,8 @@ TEST_F(Conversion, ShouldShowPixelsAsTheIndependentDecoderDoes)
     for (const PixelSize size : {PixelSize{96, 64}, PixelSize{65, 97}, PixelSize{200, 170}}) {
         for (const auto chroma :
              {PhotoRecipe::Chroma::Quarter, PhotoRecipe::Chroma::Full, PhotoRecipe::Chroma::None}) {
-            SCOPED_TRACE(testing::Message() << size.width << " x " << size.height << " chroma " << int(chroma));
+            SCOPED_TRACE(testing::Message()
+                         << size.width << " x " << size.height << " chroma " << int(chroma));
             expectLikeIndependentDecoder({.size = size, .chroma = chroma});
         }
     }
@@ -179,7 +181,8 @@ TEST_F(Conversion, ShouldMakeThumbnailsThatFit)
         ASSERT_EQ(thumbnail->size, expected.thumbnail);
         const auto reference = decodeIndependently(photo);
         ASSERT_TRUE(reference);
-        // The colours change evenly, so a pixel of the thumbnail is like the one in the middle of what it covers.
+        // The colours change evenly, so a pixel of the thumbnail is like the one in the middle of what it
+        // covers.
         const int scale = reference->size.width / thumbnail->size.width;
         for (int y = 1; y < thumbnail->size.height - 1; y += 10) {
             for (int x = 1; x < thumbnail->size.width - 1; x += 10) {

@@ -1,5 +1,5 @@
-// A worker that, once locked down as the real one is, does what its source file orders: the first word in it. Should an
-// order succeed, it answers that all is well, which no test expects.
+// A worker that, once locked down as the real one is, does what its source file orders: the first word in it.
+// Should an order succeed, it answers that all is well, which no test expects.
 
 #include "ImageWorkerWire.h"
 #include "LockDown.h"
@@ -127,8 +127,8 @@ void obey(std::string_view order, int source)
 
 int main(int, char **arguments)
 {
-    if (!imageworker::tieToParent(std::atoi(arguments[1])) || !imageworker::loadDecoders()
-        || !imageworker::lockDown()) {
+    if (!imageworker::tieToParent(std::atoi(arguments[1])) || !imageworker::loadDecoders() ||
+        !imageworker::lockDown()) {
         return EXIT_FAILURE;
     }
     Request request;

@@ -1,4 +1,5 @@
 #include "Exif.h"
+
 #include "TiffFields.h"
 #include "Xmp.h"
 
@@ -10,7 +11,8 @@ namespace imageworker {
 
 namespace {
 
-/// Writes a TIFF structure as a camera does: two directories, Exif details, a maker note and a preview at the end.
+/// Writes a TIFF structure as a camera does: two directories, Exif details, a maker note and a preview at the
+/// end.
 class CameraExif
 {
 public:
@@ -25,13 +27,13 @@ public:
         m_bytes = littleEndian ? Bytes{'I', 'I', 42, 0} : Bytes{'M', 'M', 0, 42};
         number(First, 4);
         number(3, 2);
-        field(0x0110, 2, 20, Values);         // camera
-        field(0x0112, 3, 1, shortValue(6));   // orientation
+        field(0x0110, 2, 20, Values);       // camera
+        field(0x0112, 3, 1, shortValue(6)); // orientation
         field(0x8769, 4, 1, Details);
         number(Preview, 4);
         number(4, 2);
-        field(0x9003, 2, 20, Values + 20);    // date
-        field(0x927C, 7, note, Values + 40);  // maker note
+        field(0x9003, 2, 20, Values + 20);   // date
+        field(0x927C, 7, note, Values + 40); // maker note
         field(0xA002, 4, 1, 4032);
         field(0xA003, 4, 1, 3024);
         number(0, 4);
@@ -52,7 +54,8 @@ private:
     void number(std::uint32_t value, unsigned width)
     {
         for (unsigned index = 0; index < width; ++index) {
-            m_bytes.push_back(static_cast<std::uint8_t>(value >> (8 * (m_littleEndian ? index : width - 1 - index))));
+            m_bytes.push_back(
+                static_cast<std::uint8_t>(value >> (8 * (m_littleEndian ? index : width - 1 - index))));
         }
     }
     /// A short value stands at the start of its four bytes.
@@ -143,8 +146,9 @@ TEST(Exif, ShouldSkipTheDistanceToTheStructureInAnItem)
 
 TEST(Xmp, ShouldDescribeTheUprightCopyInBothForms)
 {
-    const std::string packet = "<x tiff:Orientation=\"6\" exif:PixelXDimension='4032' dc:title=\"tiff:Orientation\">"
-                               "<tiff:Orientation>8</tiff:Orientation><dc:date>2024</dc:date></x>";
+    const std::string packet =
+        "<x tiff:Orientation=\"6\" exif:PixelXDimension='4032' dc:title=\"tiff:Orientation\">"
+        "<tiff:Orientation>8</tiff:Orientation><dc:date>2024</dc:date></x>";
     Bytes xmp(packet.begin(), packet.end());
     describeCopyInXmp(xmp, {3024, 4032});
     EXPECT_EQ(std::string(xmp.begin(), xmp.end()),

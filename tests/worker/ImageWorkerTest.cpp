@@ -1,4 +1,5 @@
 #include "ImageWorker.h"
+
 #include "ImageWorkerLauncher.h"
 
 #include <QDir>
@@ -47,8 +48,9 @@ private Q_SLOTS:
     void shouldContainEveryDisobedience_data()
     {
         QTest::addColumn<QByteArray>("order");
-        for (const char *order : {"open", "create", "socket", "exec", "fork", "vfork", "ptrace", "write-source",
-                                  "truncate-source", "allocate", "crash", "spin", "sleep", "huge", "negative", "nonsense"}) {
+        for (const char *order :
+             {"open", "create", "socket", "exec", "fork", "vfork", "ptrace", "write-source",
+              "truncate-source", "allocate", "crash", "spin", "sleep", "huge", "negative", "nonsense"}) {
             QTest::newRow(order) << QByteArray(order);
         }
     }
@@ -144,9 +146,13 @@ private Q_SLOTS:
         constexpr int Photos = 500;
         for (int photo = 0; photo < Photos; ++photo) {
             const bool isGood = photo % 2 == 0;
-            const FileDescriptor source = isGood
-                ? FileDescriptor(::open(QFile::encodeName(good).constData(), O_RDONLY | O_CLOEXEC))
-                : fileHolding(QByteArray("\0\0\0\x18""ftypheic", 12) + QByteArray::number(photo), folder);
+            const FileDescriptor source =
+                isGood ? FileDescriptor(::open(QFile::encodeName(good).constData(), O_RDONLY | O_CLOEXEC))
+                       : fileHolding(QByteArray("\0\0\0\x18"
+                                                "ftypheic",
+                                                12) +
+                                         QByteArray::number(photo),
+                                     folder);
             launcher->prepare();
             const auto worker = launcher->launch();
             const FileDescriptor output(::memfd_create("output", MFD_CLOEXEC));

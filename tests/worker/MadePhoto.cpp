@@ -71,7 +71,8 @@ Bytes makePhoto(const PhotoRecipe &recipe)
     const Context context(heif_context_alloc(), &heif_context_free);
     heif_encoder *found = nullptr;
     check(heif_context_get_encoder_for_format(context.get(), heif_compression_HEVC, &found));
-    const std::unique_ptr<heif_encoder, decltype(&heif_encoder_release)> encoder(found, &heif_encoder_release);
+    const std::unique_ptr<heif_encoder, decltype(&heif_encoder_release)> encoder(found,
+                                                                                 &heif_encoder_release);
     check(heif_encoder_set_lossy_quality(encoder.get(), 90));
     if (recipe.chroma != PhotoRecipe::Chroma::None) {
         check(heif_encoder_set_parameter_string(encoder.get(), "chroma",
@@ -102,9 +103,9 @@ std::optional<Raster> decodeIndependently(const Bytes &photo)
 {
     const Context context(heif_context_alloc(), &heif_context_free);
     heif_image_handle *handle = nullptr;
-    if (heif_context_read_from_memory_without_copy(context.get(), photo.data(), photo.size(), nullptr).code
-            != heif_error_Ok
-        || heif_context_get_primary_image_handle(context.get(), &handle).code != heif_error_Ok) {
+    if (heif_context_read_from_memory_without_copy(context.get(), photo.data(), photo.size(), nullptr).code !=
+            heif_error_Ok ||
+        heif_context_get_primary_image_handle(context.get(), &handle).code != heif_error_Ok) {
         return std::nullopt;
     }
     heif_image *decoded = nullptr;

@@ -1,5 +1,6 @@
-#include "PlaneTurn.h"
 #include "Upright.h"
+
+#include "PlaneTurn.h"
 
 #include <gtest/gtest.h>
 #include <numeric>
@@ -31,7 +32,8 @@ struct Numbers
     }
     Numbers rotatedAnticlockwise() const
     {
-        return changed({size.height, size.width}, [this](int x, int y) { return std::pair(size.width - 1 - y, x); });
+        return changed({size.height, size.width},
+                       [this](int x, int y) { return std::pair(size.width - 1 - y, x); });
     }
     Numbers leftAndRightExchanged() const
     {
@@ -64,8 +66,8 @@ std::vector<int> throughPlanes(const Upright &upright, const Numbers &picture)
         return PlaneView{reinterpret_cast<std::uint8_t *>(samples.data()),
                          static_cast<std::ptrdiff_t>(sizeof(Sample)) * of.width, of.width, of.height};
     };
-    copyTurned(partOf(view(stored, picture.size), upright.crop(), sizeof(Sample)), upright.turn(), view(shown, size),
-               sizeof(Sample));
+    copyTurned(partOf(view(stored, picture.size), upright.crop(), sizeof(Sample)), upright.turn(),
+               view(shown, size), sizeof(Sample));
     return {shown.begin(), shown.end()};
 }
 
@@ -111,9 +113,9 @@ TEST(Upright, ShouldAddStepsInAnyOrder)
 TEST(Upright, ShouldFollowExifOrientation)
 {
     const Numbers stored = numbers({3, 2}); // 0 1 2 over 3 4 5
-    const std::vector<std::vector<int>> expected = {{0, 1, 2, 3, 4, 5}, {2, 1, 0, 5, 4, 3}, {5, 4, 3, 2, 1, 0},
-                                                    {3, 4, 5, 0, 1, 2}, {0, 3, 1, 4, 2, 5}, {3, 0, 4, 1, 5, 2},
-                                                    {5, 2, 4, 1, 3, 0}, {2, 5, 1, 4, 0, 3}};
+    const std::vector<std::vector<int>> expected = {
+        {0, 1, 2, 3, 4, 5}, {2, 1, 0, 5, 4, 3}, {5, 4, 3, 2, 1, 0}, {3, 4, 5, 0, 1, 2},
+        {0, 3, 1, 4, 2, 5}, {3, 0, 4, 1, 5, 2}, {5, 2, 4, 1, 3, 0}, {2, 5, 1, 4, 0, 3}};
     for (unsigned orientation = 1; orientation <= 8; ++orientation) {
         SCOPED_TRACE(orientation);
         Upright upright(stored.size);
