@@ -8,7 +8,9 @@ enum class AppearanceMode { system, light, dark };
 template<>
 struct OptionCases<AppearanceMode>
 {
-    static constexpr std::array cases{OptionCase{AppearanceMode::system, "System"},
-                                      OptionCase{AppearanceMode::light, "Light"},
-                                      OptionCase{AppearanceMode::dark, "Dark"}};
+    static constexpr std::array<OptionCase<AppearanceMode>, 3> cases{{
+        {AppearanceMode::system, "System"},
+        {AppearanceMode::light, "Light"},
+        {AppearanceMode::dark, "Dark"},
+    }};
 };

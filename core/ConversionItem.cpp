@@ -126,7 +126,7 @@ std::optional<QList<ConversionItem>> ConversionItem::listFromJson(const QByteArr
     }
     QList<ConversionItem> items;
     const QJsonArray array = document.array();
-    for (const QJsonValue &value : array) {
+    for (const auto &value : array) {
         const auto item = value.isObject() ? fromObject(value.toObject()) : std::nullopt;
         if (!item) {
             return std::nullopt;

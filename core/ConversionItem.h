@@ -19,10 +19,12 @@ enum class ConversionStatus {
 template<>
 struct OptionCases<ConversionStatus>
 {
-    static constexpr std::array cases{OptionCase{ConversionStatus::queued, "queued"},
-                                      OptionCase{ConversionStatus::converting, "converting"},
-                                      OptionCase{ConversionStatus::ready, "ready"},
-                                      OptionCase{ConversionStatus::failed, "failed"}};
+    static constexpr std::array<OptionCase<ConversionStatus>, 4> cases{{
+        {ConversionStatus::queued, "queued"},
+        {ConversionStatus::converting, "converting"},
+        {ConversionStatus::ready, "ready"},
+        {ConversionStatus::failed, "failed"},
+    }};
 };
 
 /// One entry of the history and of the queue.

@@ -22,22 +22,28 @@ enum class OriginalPolicy {
 template<>
 struct OptionCases<OutputFormat>
 {
-    static constexpr std::array cases{OptionCase{OutputFormat::png, "PNG"},
-                                      OptionCase{OutputFormat::jpeg, "JPEG"}};
+    static constexpr std::array<OptionCase<OutputFormat>, 2> cases{{
+        {OutputFormat::png, "PNG"},
+        {OutputFormat::jpeg, "JPEG"},
+    }};
 };
 
 template<>
 struct OptionCases<OutputLocation>
 {
-    static constexpr std::array cases{OptionCase{OutputLocation::alongside, "Beside originals"},
-                                      OptionCase{OutputLocation::convertedFolder, "Lumaport folder"}};
+    static constexpr std::array<OptionCase<OutputLocation>, 2> cases{{
+        {OutputLocation::alongside, "Beside originals"},
+        {OutputLocation::convertedFolder, "Lumaport folder"},
+    }};
 };
 
 template<>
 struct OptionCases<OriginalPolicy>
 {
-    static constexpr std::array cases{OptionCase{OriginalPolicy::keep, "Keep originals"},
-                                      OptionCase{OriginalPolicy::archive, "Move to Originals"}};
+    static constexpr std::array<OptionCase<OriginalPolicy>, 2> cases{{
+        {OriginalPolicy::keep, "Keep originals"},
+        {OriginalPolicy::archive, "Move to Originals"},
+    }};
 };
 
 /// What the user has set about conversions.
