@@ -1,5 +1,7 @@
 #include "SingleInstance.h"
 
+#include "ActivationToken.h"
+
 #include <QDBusMessage>
 
 namespace {
@@ -12,6 +14,11 @@ QString serviceName()
 QString objectPath()
 {
     return QStringLiteral("/io/lumaport/Lumaport");
+}
+
+void useTokenOf(const QVariantMap &platformData)
+{
+    useActivationToken(platformData.value(QStringLiteral("activation-token")).toString());
 }
 
 } // namespace
@@ -55,17 +62,25 @@ void SingleInstance::forward(const QList<QUrl> &files) const
         }
         message << uris;
     }
-    message << QVariantMap();
+    // What the desktop gave this start so that its window may come to the front goes to the first process.
+    QVariantMap platformData;
+    const QString token = qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
+    if (!token.isEmpty()) {
+        platformData.insert(QStringLiteral("activation-token"), token);
+    }
+    message << platformData;
     m_bus.call(message);
 }
 
-void SingleInstance::Activate(const QVariantMap & /*platformData*/)
+void SingleInstance::Activate(const QVariantMap &platformData)
 {
+    useTokenOf(platformData);
     Q_EMIT activated();
 }
 
-void SingleInstance::Open(const QStringList &uris, const QVariantMap & /*platformData*/)
+void SingleInstance::Open(const QStringList &uris, const QVariantMap &platformData)
 {
+    useTokenOf(platformData);
     QList<QUrl> files;
     for (const QString &uri : uris) {
         files.append(QUrl(uri, QUrl::StrictMode));
@@ -75,7 +90,8 @@ void SingleInstance::Open(const QStringList &uris, const QVariantMap & /*platfor
 }
 
 void SingleInstance::ActivateAction(const QString & /*action*/, const QVariantList & /*parameter*/,
-                                    const QVariantMap & /*platformData*/)
+                                    const QVariantMap &platformData)
 {
+    useTokenOf(platformData);
     Q_EMIT activated();
 }

@@ -1,26 +1,44 @@
 #include "LumaportApp.h"
 
+#include "AppDelegate.h"
 #include "AppModel.h"
-#include "PlaceholderWindow.h"
+#include "AppModelSingleton.h"
+#include "JobScheduler.h"
+#include "MainCommands.h"
+#include "MainWindow.h"
+#include "NotificationManager.h"
 #include "SettingsPortal.h"
 #include "SingleInstance.h"
+#include "StatusItem.h"
+#include "SystemAppearance.h"
+#include "SystemAppearanceSingleton.h"
+
+#include <QQmlEngine>
 
 LumaportApp::LumaportApp(SingleInstance &instance)
+    : m_engine(std::make_unique<QQmlEngine>())
 {
     AppModelServices services = AppModelServices::standard();
-    m_portal = std::make_unique<SettingsPortal>(QDBusConnection::sessionBus(), *services.appearance);
+    const std::shared_ptr<JobScheduler> jobs = services.jobs;
+    const MainWindowLayout layout(services.defaults);
+    m_appearance = services.appearance;
+    m_portal = std::make_unique<SettingsPortal>(QDBusConnection::sessionBus(), *m_appearance);
+    SystemAppearanceSingleton::provide(*m_appearance);
+
+    m_delegate = std::make_unique<AppDelegate>(*m_engine, jobs, &StatusItem::create);
+    AppDelegate::applicationDidFinishLaunching(*services.notifications);
     m_model = std::make_unique<AppModel>(std::move(services));
-    m_window = std::make_unique<PlaceholderWindow>(*m_model);
-    QObject::connect(&instance, &SingleInstance::activated, m_window.get(), [this] { showMainWindow(); });
+    AppModelSingleton::provide(*m_model);
+    m_commands = std::make_unique<MainCommands>(*m_model, *m_delegate, layout);
+    m_window = std::make_unique<MainWindow>(
+        *m_engine, QVariantMap{{QStringLiteral("commands"), QVariant::fromValue(m_commands.get())}}, layout,
+        jobs);
+
+    const auto openMain = [this] { m_window->open(); };
+    QObject::connect(&instance, &SingleInstance::activated, m_commands.get(), openMain);
     QObject::connect(&instance, &SingleInstance::opened, m_model.get(), &AppModel::convertManually);
-    showMainWindow();
+    openMain();
+    m_delegate->configureMenuBar(*m_model, openMain);
 }
 
 LumaportApp::~LumaportApp() = default;
-
-void LumaportApp::showMainWindow()
-{
-    m_window->show();
-    m_window->raise();
-    m_window->activateWindow();
-}

@@ -2,13 +2,16 @@
 
 #include <memory>
 
+class AppDelegate;
 class AppModel;
-class PlaceholderWindow;
-class QApplication;
+class MainCommands;
+class MainWindow;
+class QQmlEngine;
 class SettingsPortal;
 class SingleInstance;
+class SystemAppearance;
 
-/// The application: its one model, its one window, and what other starts of it ask for.
+/// The application: its one model, its one window, its status item, and what other starts of it ask for.
 class LumaportApp
 {
 public:
@@ -17,9 +20,12 @@ public:
     ~LumaportApp();
 
 private:
-    void showMainWindow();
-
+    // In the order of making; what is below uses what is above.
+    std::shared_ptr<SystemAppearance> m_appearance;
     std::unique_ptr<SettingsPortal> m_portal;
     std::unique_ptr<AppModel> m_model;
-    std::unique_ptr<PlaceholderWindow> m_window;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<AppDelegate> m_delegate;
+    std::unique_ptr<MainCommands> m_commands;
+    std::unique_ptr<MainWindow> m_window;
 };

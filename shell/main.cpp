@@ -1,8 +1,11 @@
 #include "LumaportApp.h"
 #include "SingleInstance.h"
+#include "TerminationSignals.h"
 
 #include <QApplication>
 #include <QDBusConnection>
+#include <QDir>
+#include <QQuickStyle>
 
 int main(int argc, char **argv)
 {
@@ -11,18 +14,20 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName(QStringLiteral("io.lumaport.Lumaport"));
     QApplication::setApplicationVersion(QStringLiteral(LUMAPORT_VERSION));
     const QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
+    QQuickStyle::setStyle(QStringLiteral("Basic"));
 
     QList<QUrl> files;
     const QStringList arguments = QApplication::arguments().mid(1);
     for (const QString &argument : arguments) {
-        files.append(QUrl::fromUserInput(argument, QString(), QUrl::AssumeLocalFile));
+        files.append(QUrl::fromUserInput(argument, QDir::currentPath(), QUrl::AssumeLocalFile));
     }
     SingleInstance instance(QDBusConnection::sessionBus());
     if (!instance.claim()) {
         instance.forward(files);
         return 0;
     }
+    const TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::received, &application, &QApplication::quit);
     const LumaportApp lumaport(instance);
     if (!files.isEmpty()) {
         Q_EMIT instance.opened(files);

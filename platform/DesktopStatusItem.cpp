@@ -1,0 +1,58 @@
+#include "DesktopStatusItem.h"
+
+#include "StatusNotifierItem.h"
+#include "TrayIconItem.h"
+
+std::unique_ptr<StatusItem> StatusItem::create()
+{
+    return std::make_unique<DesktopStatusItem>(
+        std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus()),
+        [] { return std::make_unique<TrayIconItem>(); });
+}
+
+DesktopStatusItem::DesktopStatusItem(std::unique_ptr<StatusNotifierItem> notifierItem,
+                                     std::function<std::unique_ptr<StatusItem>()> makeFallback)
+    : m_notifierItem(std::move(notifierItem))
+    , m_makeFallback(std::move(makeFallback))
+{
+    connect(m_notifierItem.get(), &StatusItem::activated, this, &StatusItem::activated);
+    connect(m_notifierItem.get(), &StatusNotifierItem::hostPresenceChanged, this,
+            &DesktopStatusItem::setHostPresent);
+}
+
+DesktopStatusItem::~DesktopStatusItem() = default;
+
+void DesktopStatusItem::setHostPresent(bool isPresent)
+{
+    if (isPresent) {
+        m_fallback.reset();
+    } else if (!m_fallback) {
+        m_fallback = m_makeFallback();
+        connect(m_fallback.get(), &StatusItem::activated, this, &StatusItem::activated);
+        m_fallback->setMenu(m_entries);
+        m_fallback->setLook(m_look);
+    }
+}
+
+void DesktopStatusItem::setLook(const StatusItemLook &look)
+{
+    m_look = look;
+    m_notifierItem->setLook(look);
+    if (m_fallback) {
+        m_fallback->setLook(look);
+    }
+}
+
+void DesktopStatusItem::setMenu(const QList<StatusMenuEntry> &entries)
+{
+    m_entries = entries;
+    m_notifierItem->setMenu(entries);
+    if (m_fallback) {
+        m_fallback->setMenu(entries);
+    }
+}
+
+std::optional<QRect> DesktopStatusItem::place() const
+{
+    return m_fallback ? m_fallback->place() : m_notifierItem->place();
+}

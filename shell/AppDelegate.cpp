@@ -1,0 +1,92 @@
+#include "AppDelegate.h"
+
+#include "AppModel.h"
+#include "JobScheduler.h"
+#include "MenuBarViewController.h"
+#include "NotificationManager.h"
+#include "PanelWindow.h"
+#include "StatusItem.h"
+#include "StatusMenu.h"
+#include "TemplateImages.h"
+
+#include <QGuiApplication>
+
+AppDelegate::AppDelegate(QQmlEngine &engine, std::shared_ptr<JobScheduler> jobs,
+                         StatusItemMaker makeStatusItem)
+    : m_engine(engine)
+    , m_jobs(std::move(jobs))
+    , m_makeStatusItem(std::move(makeStatusItem))
+{}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching(NotificationManager &notifications)
+{
+    QGuiApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
+    notifications.configure(NotificationManager::Authorization::leave);
+}
+
+void AppDelegate::configureMenuBar(AppModel &model, std::function<void()> openMain)
+{
+    if (m_statusItem) {
+        return;
+    }
+    m_openMainWindow = std::move(openMain);
+    m_statusItem = m_makeStatusItem();
+    m_panelController = std::make_unique<MenuBarViewController>(
+        model, MenuBarViewController::Actions{.openMain = [this] { openMainFromPanel(); },
+                                              .quit = [] { QCoreApplication::quit(); }});
+    m_popover = std::make_unique<PanelWindow>(m_engine, *m_panelController, m_jobs);
+    connect(m_statusItem.get(), &StatusItem::activated, this, &AppDelegate::togglePopover);
+
+    updateMenuIcon(model);
+    updateMenu(model);
+    for (const auto signal : {&AppModel::itemsChanged, &AppModel::monitorTextsChanged}) {
+        connect(&model, signal, this, [this, &model] { updateMenuIcon(model); });
+    }
+    for (const auto signal :
+         {&AppModel::itemsChanged, &AppModel::monitorTextsChanged, &AppModel::settingsChanged}) {
+        connect(&model, signal, this, [this, &model] { updateMenu(model); });
+    }
+}
+
+void AppDelegate::updateMenuIcon(const AppModel &model)
+{
+    const MenuIcon icon = MenuIcon::forModel(model);
+    if (icon != m_icon) {
+        m_icon = icon;
+        m_statusItem->setLook({.images = TemplateImages::forSymbol(icon.symbol),
+                               .toolTip = icon.toolTip,
+                               .accessibilityLabel = icon.accessibilityLabel});
+    }
+}
+
+void AppDelegate::updateMenu(AppModel &model)
+{
+    m_statusItem->setMenu(StatusMenu::entries(model, {.showQuickPanel = [this] { togglePopover(); },
+                                                      .openMain = [this] { openMainFromPanel(); },
+                                                      .quit = [] { QCoreApplication::quit(); }}));
+}
+
+void AppDelegate::openMainFromPanel()
+{
+    m_popover->dismiss();
+    m_openMainWindow();
+}
+
+void AppDelegate::togglePopover()
+{
+    if (m_statusItem) {
+        m_popover->toggle(m_statusItem->place());
+    }
+}
+
+void AppDelegate::replayWelcome(AppModel &model) const
+{
+    if (m_openMainWindow) {
+        m_openMainWindow();
+    }
+    QMetaObject::invokeMethod(
+        &model, [&model] { model.setWelcomeReplayToken(model.welcomeReplayToken() + 1); },
+        Qt::QueuedConnection);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "MenuIcon.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class AppModel;
+class JobScheduler;
+class MenuBarViewController;
+class NotificationManager;
+class PanelWindow;
+class QQmlEngine;
+class StatusItem;
+
+/// Owns the status item and its panel, and keeps the item in step with the model.
+class AppDelegate : public QObject
+{
+    Q_OBJECT
+
+public:
+    using StatusItemMaker = std::function<std::unique_ptr<StatusItem>()>;
+
+    /// `engine` must outlive the delegate.
+    AppDelegate(QQmlEngine &engine, std::shared_ptr<JobScheduler> jobs, StatusItemMaker makeStatusItem);
+    ~AppDelegate() override;
+
+    /// Launch-time set-up.
+    static void applicationDidFinishLaunching(NotificationManager &notifications);
+    /// Closing the main window leaves the application running with its status item.
+    static bool applicationShouldTerminateAfterLastWindowClosed() { return false; }
+
+    /// Creates the status item and its panel. Happens once: later calls change nothing. `model` must outlive
+    /// the delegate; `openMain` shows the main window and brings it to the front.
+    void configureMenuBar(AppModel &model, std::function<void()> openMain);
+
+    /// Opens the panel at the status item, or closes it. Nothing happens before there is an item.
+    void togglePopover();
+
+    /// Brings the main window to the front, opening it if need be, and asks it to play the welcome again.
+    void replayWelcome(AppModel &model) const;
+
+private:
+    void updateMenuIcon(const AppModel &model);
+    void updateMenu(AppModel &model);
+    void openMainFromPanel();
+
+    QQmlEngine &m_engine;
+    std::shared_ptr<JobScheduler> m_jobs;
+    StatusItemMaker m_makeStatusItem;
+    std::function<void()> m_openMainWindow;
+    std::unique_ptr<StatusItem> m_statusItem;
+    std::unique_ptr<MenuBarViewController> m_panelController;
+    std::unique_ptr<PanelWindow> m_popover;
+    MenuIcon m_icon;
+};

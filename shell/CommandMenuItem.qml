@@ -1,0 +1,48 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Lumaport.Vocabulary
+
+// A command with its keys, which the style's own item would not show. The keys work in every window of the program and
+// while the menu is closed, unless `reach` says otherwise.
+MenuItem {
+    id: item
+
+    property string keys
+    property alias reach: shortcut.context
+
+    Accessible.onPressAction: item.triggered()
+    font.pixelSize: 12
+    height: 30
+    horizontalPadding: 10
+
+    background: Rectangle {
+        color: item.highlighted ? LumaportPalette.deck : "transparent"
+        radius: 6
+    }
+    contentItem: Item {
+        BodyText {
+            Accessible.ignored: true
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            font: item.font
+            text: item.text
+        }
+
+        BodyText {
+            Accessible.ignored: true
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            color: LumaportPalette.muted
+            font: item.font
+            text: shortcut.nativeText
+        }
+    }
+
+    Shortcut {
+        id: shortcut
+
+        context: Qt.ApplicationShortcut
+        sequence: item.keys
+        onActivated: item.triggered()
+    }
+}

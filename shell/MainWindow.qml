@@ -1,0 +1,28 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Lumaport.Vocabulary
+
+// The one main window. The menu bar adds its height to the window and takes nothing from the content.
+ApplicationWindow {
+    id: window
+
+    required property MainCommands commands
+
+    color: LumaportPalette.night
+    height: 780 + menuBar.height
+    minimumHeight: 620 + menuBar.height
+    minimumWidth: 800
+    objectName: "main"
+    title: "Lumaport"
+    width: 900
+
+    menuBar: CommandMenuBar {
+        commands: window.commands
+        onCloseRequested: window.close()
+    }
+
+    Item {
+        anchors.fill: parent
+        objectName: "content"
+    }
+}

@@ -1,0 +1,115 @@
+#include "MainWindowLayout.h"
+
+#include "DefaultsStore.h"
+
+#include <QGuiApplication>
+#include <QQuickItem>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace {
+
+/// The menu bar takes its height from the window, not from the content.
+QMargins menuBarOf(const QWindow &window)
+{
+    const auto *menuBar = window.property("menuBar").value<QQuickItem *>();
+    return {0, menuBar != nullptr ? static_cast<int>(menuBar->height()) : 0, 0, 0};
+}
+
+/// On Wayland the desktop places windows and tells no program where they are.
+bool windowsHavePlaces()
+{
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+const QScreen *screenFor(const QWindow &window, const std::optional<QRect> &savedFrame)
+{
+    if (savedFrame) {
+        const QList<QScreen *> screens = QGuiApplication::screens();
+        QList<QRect> geometries;
+        for (const QScreen *screen : screens) {
+            geometries.append(screen->geometry());
+        }
+        if (const auto number = MainWindowLayout::screenOf(*savedFrame, geometries)) {
+            return screens.at(*number);
+        }
+    }
+    return window.screen() != nullptr ? window.screen() : QGuiApplication::primaryScreen();
+}
+
+} // namespace
+
+MainWindowLayout::MainWindowLayout(std::shared_ptr<DefaultsStore> defaults)
+    : m_defaults(std::move(defaults))
+{}
+
+void MainWindowLayout::apply(QWindow &window, SavedFrame savedFrame) const
+{
+    if (window.windowStates().testFlag(Qt::WindowFullScreen)) {
+        return;
+    }
+    const auto saved = savedFrame == SavedFrame::restore ? this->savedFrame() : std::nullopt;
+    const QMargins decoration = window.frameMargins();
+    const QSize contentSize = saved ? saved->contentSize : recommendedContentSize;
+    const QSize frameSize = contentSize.grownBy(decoration + menuBarOf(window));
+    const auto origin = saved ? saved->origin : std::nullopt;
+
+    const QScreen *screen =
+        screenFor(window, origin ? std::optional(QRect(*origin, frameSize)) : std::nullopt);
+    if (screen == nullptr) {
+        return;
+    }
+    const QRect frame = place(screen->availableGeometry(), frameSize, origin);
+    window.setWindowStates(window.windowStates() & ~Qt::WindowMaximized);
+    window.resize(frame.size().shrunkBy(decoration));
+    window.setFramePosition(frame.topLeft());
+}
+
+void MainWindowLayout::save(const QWindow &window) const
+{
+    if (!window.isVisible() || window.windowStates() != Qt::WindowNoState) {
+        return;
+    }
+    const WindowFrame frame{.origin =
+                                windowsHavePlaces() ? std::optional(window.framePosition()) : std::nullopt,
+                            .contentSize = window.size().shrunkBy(menuBarOf(window))};
+    if (frame != savedFrame()) {
+        m_defaults->store(frameAutosaveName, frame.toText());
+    }
+}
+
+std::optional<WindowFrame> MainWindowLayout::savedFrame() const
+{
+    return WindowFrame::fromText(m_defaults->text(frameAutosaveName).value_or(QString()));
+}
+
+QRect MainWindowLayout::place(const QRect &visibleFrame, const QSize &frameSize,
+                              const std::optional<QPoint> &origin)
+{
+    const QRect area = visibleFrame.marginsRemoved({margin, margin, margin, margin});
+    QRect frame(QPoint(), frameSize.boundedTo(area.size()));
+    frame.moveCenter(area.center());
+    if (origin) {
+        frame.moveTopLeft(*origin);
+    }
+    const int lastX = area.right() - frame.width() + 1;
+    const int lastY = area.bottom() - frame.height() + 1;
+    frame.moveTo(std::max(area.left(), std::min(lastX, frame.x())),
+                 std::max(area.top(), std::min(lastY, frame.y())));
+    return frame;
+}
+
+std::optional<qsizetype> MainWindowLayout::screenOf(const QRect &frame, const QList<QRect> &screens)
+{
+    const auto sharedArea = [&frame](const QRect &screen) {
+        const QRect shared = frame & screen;
+        return shared.isEmpty() ? 0 : qint64(shared.width()) * shared.height();
+    };
+    const auto best = std::max_element(screens.begin(), screens.end(), [&](const QRect &a, const QRect &b) {
+        return sharedArea(a) < sharedArea(b);
+    });
+    return best == screens.end() || sharedArea(*best) == 0 ? std::nullopt
+                                                           : std::optional(best - screens.begin());
+}

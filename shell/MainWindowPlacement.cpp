@@ -1,0 +1,92 @@
+#include "MainWindowPlacement.h"
+
+#include "JobScheduler.h"
+
+#include <QEvent>
+#include <QWindow>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// A drag of the window's edge is one change, not a hundred.
+constexpr auto savingDelay = 400ms;
+
+} // namespace
+
+MainWindowPlacement::MainWindowPlacement(QWindow &window, MainWindowLayout layout,
+                                         std::shared_ptr<JobScheduler> jobs)
+    : m_window(window)
+    , m_layout(std::move(layout))
+    , m_jobs(std::move(jobs))
+{
+    m_window.installEventFilter(this);
+}
+
+MainWindowPlacement::~MainWindowPlacement()
+{
+    if (m_pendingSave) {
+        save();
+    }
+}
+
+bool MainWindowPlacement::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Show:
+        m_state = State::appearing;
+        break;
+    case QEvent::Expose:
+        didExpose();
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowStateChange:
+        if (m_state == State::placed) {
+            scheduleSaving();
+        }
+        break;
+    case QEvent::Close:
+        save();
+        break;
+    case QEvent::Hide:
+        m_state = State::hidden;
+        m_pendingSave.reset();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void MainWindowPlacement::didExpose()
+{
+    if (m_state != State::appearing || !m_window.isExposed()) {
+        return;
+    }
+    m_state = State::placed;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (m_state == State::placed) {
+                m_layout.apply(m_window, MainWindowLayout::SavedFrame::restore);
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void MainWindowPlacement::scheduleSaving()
+{
+    m_pendingSave = m_jobs->after(savingDelay, [this] {
+        m_pendingSave.reset();
+        m_layout.save(m_window);
+    });
+}
+
+void MainWindowPlacement::save()
+{
+    m_pendingSave.reset();
+    if (m_state == State::placed) {
+        m_layout.save(m_window);
+    }
+}

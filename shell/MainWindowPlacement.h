@@ -1,0 +1,40 @@
+#pragma once
+
+#include "MainWindowLayout.h"
+
+#include <QObject>
+
+class JobScheduler;
+class QWindow;
+class ScheduledJob;
+
+/// Watches over one window's frame: takes the saved one each time the window is shown, and saves it after the
+/// user moved or resized the window, and before it closes.
+class MainWindowPlacement : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `window` must outlive this object.
+    MainWindowPlacement(QWindow &window, MainWindowLayout layout, std::shared_ptr<JobScheduler> jobs);
+    ~MainWindowPlacement() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    enum class State {
+        hidden,
+        appearing, ///< shown, not yet placed: the decoration's size is known only now
+        placed,
+    };
+
+    void didExpose();
+    void scheduleSaving();
+    void save();
+
+    QWindow &m_window;
+    MainWindowLayout m_layout;
+    std::shared_ptr<JobScheduler> m_jobs;
+    std::unique_ptr<ScheduledJob> m_pendingSave;
+    State m_state = State::hidden;
+};

@@ -1,0 +1,333 @@
+"""The shell around the views: main window, shortcuts, panel, status item, several starts, and the end of the session."""
+
+import os
+import re
+import subprocess
+import sys
+import unittest
+
+import dbus
+import pyatspi
+
+import support
+from support import DOWNLOADS, HOME, SETTINGS, Application, everything_in, history, wait_until
+
+PROGRAM = sys.argv.pop()
+ITEM = "org.kde.StatusNotifierItem"
+WATCHER = "org.kde.StatusNotifierWatcher"
+PROPERTIES = "org.freedesktop.DBus.Properties"
+NAME = "io.lumaport.Lumaport"
+MAIN = "^Lumaport$"
+PANEL = "^Lumaport Quick Panel$"
+
+
+def run(*command):
+    return subprocess.run(command, capture_output=True, text=True, check=False).stdout
+
+
+def windows(name):
+    return run("xdotool", "search", "--onlyvisible", "--name", name).split()
+
+
+def one_window(name):
+    return wait_until(lambda: (found := windows(name)) and len(found) == 1 and found[0], f"one window {name}")
+
+
+def wait_closed(name):
+    wait_until(lambda: not windows(name), f"the end of {name}")
+
+
+def has_focus(window):
+    return run("xdotool", "getwindowfocus").strip() == window
+
+
+def focused(window):
+    """Gives the window the keyboard's focus."""
+    run("xdotool", "windowfocus", "--sync", window)
+    wait_until(lambda: has_focus(window), "the focus")
+    return window
+
+
+def key(keys):
+    run("xdotool", "key", keys)
+
+
+def click(x, y):
+    run("xdotool", "mousemove", str(x), str(y), "click", "1")
+
+
+def screen_size():
+    return tuple(int(number) for number in run("xdotool", "getdisplaygeometry").split())
+
+
+def client_area(window):
+    """x, y, width and height of the window without its decoration."""
+    numbers = dict(line.split("=") for line in run("xdotool", "getwindowgeometry", "--shell", window).split())
+    return tuple(int(numbers[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+
+def frame(window):
+    """x, y, width and height of the window with its decoration."""
+    left, right, top, bottom = map(int, re.findall(r"\d+", run("xprop", "-id", window, "_NET_FRAME_EXTENTS")))
+    x, y, width, height = client_area(window)
+    return x - left, y - top, width + left + right, height + top + bottom
+
+
+def stored(name):
+    text = SETTINGS.read_text(encoding="utf-8") if SETTINGS.exists() else ""
+    found = re.search(rf"^{name}=(.*)$", text, re.MULTILINE)
+    return found and found.group(1).strip('"')
+
+
+def wait_stored(name, value):
+    wait_until(lambda: stored(name) == value, f"{name}={value}")
+
+
+def arrived(name):
+    return any(item["sourceName"] == name for item in history())
+
+
+def accessible(name):
+    """The program's button of this name that shows on the screen; None without one."""
+
+    def search(element):
+        for child in element:
+            if child is None:
+                continue
+            if child.name == name and child.getRoleName() == "push button" and \
+                    child.getState().contains(pyatspi.STATE_SHOWING):
+                return child
+            if found := search(child):
+                return found
+        return None
+
+    for application in pyatspi.Registry.getDesktop(0):
+        if application is not None and application.name.lower() == "lumaport":
+            return search(application)
+    return None
+
+
+def press(name):
+    """Presses a button as a screen reader does."""
+    actions = wait_until(lambda: accessible(name), f"the button {name}").queryAction()
+    names = [actions.getName(number) for number in range(actions.nActions)]
+    actions.doAction(names.index("Press"))
+
+
+def tray_icon():
+    """Place and size of the program's icon in an XEmbed tray at the top of the screen."""
+    for line in run("xwininfo", "-root", "-tree").splitlines():
+        found = re.search(r'\("lumaport" "[Ll]umaport"\)\s+(\d+)x(\d+)\S+\s+\+(\d+)\+(\d+)', line)
+        if found:
+            width, height, x, y = map(int, found.groups())
+            if 12 <= width <= 64 and 12 <= height <= 64 and y < 40:
+                return x, y, width, height
+    return None
+
+
+class Shell(Application):
+    """The program with its main window; it must end well and print nothing."""
+
+    def __enter__(self):
+        super().__enter__()
+        self.window = one_window(MAIN)
+        return self
+
+    def __exit__(self, kind, *rest):
+        super().__exit__(kind, *rest)
+        if kind is None and (self.process.returncode, self.output) != (0, ""):
+            raise AssertionError(f"ended with {self.process.returncode} and printed:\n{self.output}")
+
+    def start_again(self, *arguments):
+        """A further start, which hands over to this one."""
+        ended = subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, timeout=support.PATIENCE, cwd=HOME)
+        assert (ended.returncode, ended.stdout + ended.stderr) == (0, ""), ended
+
+    def close_window(self):
+        key("ctrl+w")
+        wait_closed(MAIN)
+
+    def open_panel(self):
+        focused(self.window)
+        key("ctrl+shift+m")
+        panel = one_window(PANEL)
+        wait_until(lambda: has_focus(panel), "the panel's focus")
+        return panel
+
+    def item(self):
+        bus = dbus.SessionBus()
+        return bus.get_object(f"{ITEM}-{self.process.pid}-1", "/StatusNotifierItem")
+
+    def item_property(self, name):
+        return self.item().Get(ITEM, name, dbus_interface=PROPERTIES)
+
+
+class Host:
+    """A program that shows status items; use it in a with statement."""
+
+    def __init__(self, *command, ready):
+        self.command = command
+        self.ready = ready
+
+    def __enter__(self):
+        self.process = subprocess.Popen(self.command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(self.ready, self.command[0])
+
+    def __exit__(self, *_):
+        self.process.terminate()
+        self.process.wait(timeout=support.PATIENCE)
+
+
+class ShellWalk(unittest.TestCase):
+    def setUp(self):
+        subprocess.run(["rm", "-rf", DOWNLOADS, SETTINGS], check=True)
+        DOWNLOADS.mkdir()
+        SETTINGS.parent.mkdir(parents=True, exist_ok=True)
+        SETTINGS.write_text("[General]\nhasSeenSignatureWelcome=true\n", encoding="utf-8")
+
+    def test_the_window_keeps_its_size_and_place(self):
+        with Shell(PROGRAM) as shell:
+            menu_bar = client_area(shell.window)[3] - 780
+            self.assertTrue(0 < menu_bar < 60, menu_bar)
+            wait_until(lambda: client_area(shell.window)[2:] == (900, 780 + menu_bar), "the recommended size")
+
+            def is_centred():
+                x, y, width, height = frame(shell.window)
+                across, down = screen_size()
+                return abs(2 * x + width - across) <= 2 and abs(2 * y + height - down) <= 2
+
+            wait_until(is_centred, "the middle of the screen")
+            run("xdotool", "windowsize", "--sync", shell.window, "850", str(660 + menu_bar))
+            run("xdotool", "windowmove", "--sync", shell.window, "100", "120")
+            wait_until(lambda: client_area(shell.window)[2:] == (850, 660 + menu_bar), "the new size")
+            moved = frame(shell.window)
+            focused(shell.window)
+            shell.close_window()
+            self.assertIsNone(shell.process.poll())
+            self.assertEqual(stored("LumaportMainWindow"), f"{moved[0]} {moved[1]} 850 660")
+            # A second start shows the window of the first, where it was.
+            shell.start_again()
+            shell.window = one_window(MAIN)
+            wait_until(lambda: frame(shell.window) == moved, "the frame it had")
+        for _ in range(2):  # nor does it creep from launch to launch
+            with Shell(PROGRAM) as shell:
+                wait_until(lambda: frame(shell.window) == moved, "the frame of the launch before")
+        with Shell(PROGRAM) as shell:  # the smallest size is the content's, not the window's
+            run("xdotool", "windowsize", shell.window, "300", "300")
+            wait_until(lambda: client_area(shell.window)[2:] == (800, 620 + menu_bar), "the smallest size")
+
+    def test_several_starts_make_one_process_and_one_window(self):
+        first, second = (subprocess.Popen([PROGRAM], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+                         for _ in range(2))
+        wait_until(lambda: first.poll() is not None or second.poll() is not None, "the end of one of the two")
+        left, ended = (first, second) if first.poll() is None else (second, first)
+        self.assertEqual((ended.returncode, ended.communicate()[0]), (0, ""))
+        one_window(MAIN)
+        (HOME / "IMG_1.HEIC").write_bytes(b"no photo")
+        (HOME / "IMG_2.heif").write_bytes(b"no photo")
+        subprocess.run([PROGRAM, "IMG_1.HEIC"], check=True, timeout=support.PATIENCE, cwd=HOME)
+        wait_until(lambda: arrived("IMG_1.HEIC"), "the file of a further start")
+        dbus.SessionBus().get_object(NAME, "/io/lumaport/Lumaport").Open(
+            [(HOME / "IMG_2.heif").as_uri()], dbus.Dictionary(signature="sv"),
+            dbus_interface="org.freedesktop.Application")
+        wait_until(lambda: arrived("IMG_2.heif"), "the file of a file manager")
+        one_window(MAIN)
+        left.terminate()
+        self.assertEqual((left.communicate(timeout=support.PATIENCE)[0], left.returncode), ("", 0))
+        self.assertFalse(dbus.SessionBus().name_has_owner(NAME))
+
+    def test_the_commands_keys_work_from_the_window_and_from_the_panel(self):
+        with Shell(PROGRAM) as shell:
+            focused(shell.window)
+            key("ctrl+shift+p")
+            wait_stored("isWatching", "false")
+            key("ctrl+shift+p")
+            wait_stored("isWatching", "true")
+            (DOWNLOADS / "IMG_7.heif").write_bytes(b"no photo")
+            key("ctrl+k")
+            wait_until(lambda: arrived("IMG_7.heif"), "the photo of the folder")
+            panel = shell.open_panel()
+            self.assertEqual(client_area(panel)[2], 360)
+            key("ctrl+shift+p")
+            wait_stored("isWatching", "false")
+            key("ctrl+shift+m")
+            wait_closed(PANEL)
+            focused(shell.window)
+            key("ctrl+q")
+            self.assertEqual(shell.process.wait(timeout=support.PATIENCE), 0)
+
+    def test_the_panel_works_through_the_assistive_interface_and_closes_when_left(self):
+        with Shell(PROGRAM) as shell:
+            shell.open_panel()
+            press("Pause")
+            wait_stored("isWatching", "false")
+            press("Resume")
+            wait_stored("isWatching", "true")
+            key("Escape")
+            wait_closed(PANEL)
+            shell.open_panel()
+            x, y, _, height = client_area(shell.window)
+            click(x + 12, y + height - 12)
+            wait_closed(PANEL)
+            focused(shell.window)
+            shell.close_window()
+
+            shell.item().Activate(700, 2, dbus_interface=ITEM)  # as a host says that it was clicked there
+            x, y, width, _ = client_area(one_window(PANEL))
+            self.assertTrue(abs(x + width // 2 - 700) <= 1 and 2 < y < 20, (x, y))
+            press("Open Lumaport")
+            shell.window = one_window(MAIN)
+            wait_closed(PANEL)
+            shell.open_panel()
+            press("Quit Lumaport")
+            self.assertEqual(shell.process.wait(timeout=support.PATIENCE), 0)
+
+    def test_a_desktop_panel_that_comes_later_gets_the_item(self):
+        bus = dbus.SessionBus()
+        with Shell(PROGRAM) as shell:
+            self.assertEqual(shell.item_property("ToolTip")[2], "Lumaport: Auto-convert: On")
+            with Host("xfce4-panel", "--disable-wm-check", ready=lambda: bus.name_has_owner(WATCHER)):
+                watcher = bus.get_object(WATCHER, "/StatusNotifierWatcher")
+                wait_until(lambda: any(f"-{shell.process.pid}-1" in item for item in watcher.Get(
+                    WATCHER, "RegisteredStatusNotifierItems", dbus_interface=PROPERTIES)), "the item's registration")
+                focused(shell.window)
+                key("ctrl+shift+p")
+                wait_until(lambda: shell.item_property("ToolTip")[2] == "Lumaport: Auto-convert: Paused", "the tooltip")
+                self.assertEqual(shell.item_property("IconAccessibleDesc"), "Lumaport, Auto-convert: Paused")
+            focused(shell.window)
+            shell.close_window()  # no tray is left, and still the window can be had again
+            shell.start_again()
+            one_window(MAIN)
+
+    def test_an_older_tray_that_comes_later_gets_the_icon(self):
+        with Shell(PROGRAM), Host("trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24",
+                                  ready=lambda: run("xdotool", "search", "--class", "trayer").split()):
+            x, y, width, height = wait_until(tray_icon, "the icon in the tray")
+            click(x + width // 2, y + height // 2)
+            panel = client_area(one_window(PANEL))
+            self.assertTrue(panel[1] >= y + height and panel[0] + panel[2] <= screen_size()[0], panel)
+            click(x + width // 2, y + height // 2)
+            wait_closed(PANEL)
+
+    def test_the_sessions_end_leaves_no_worker_no_file_and_every_setting(self):
+        names = [f"IMG_{number}.HEIC" for number in range(6)]
+        with Shell(PROGRAM) as shell:
+            focused(shell.window)
+            key("ctrl+shift+p")
+            wait_stored("isWatching", "false")
+            for name in names:
+                support.photo(DOWNLOADS, name, 1600, 1200)
+            key("ctrl+k")
+            wait_until(lambda: arrived(names[-1]), "the photos in the history")
+            os.kill(shell.process.pid, 15)
+            shell.process.wait(timeout=support.PATIENCE)
+        self.assertEqual(stored("isWatching"), "false")
+        self.assertEqual(run("pgrep", "-f", os.path.join(os.path.dirname(PROGRAM), "lumaport-imageworker")), "")
+        copies = {f"Lumaport/{name.replace('.HEIC', '.png')}" for name in names}
+        self.assertLessEqual(set(everything_in(DOWNLOADS)), {*names, "Lumaport", *copies})
+
+
+if __name__ == "__main__":
+    os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+    os.environ["XFCE_PANEL_MIGRATE_DEFAULT"] = "1"
+    unittest.main()
