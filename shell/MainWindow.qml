@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // The one main window. The menu bar adds its height to the window and takes nothing from the content.
@@ -7,6 +8,7 @@ ApplicationWindow {
     id: window
 
     required property MainCommands commands
+    required property MainViewController controller
 
     color: LumaportPalette.night
     height: 780 + menuBar.height
@@ -21,8 +23,9 @@ ApplicationWindow {
         onCloseRequested: window.close()
     }
 
-    Item {
+    MainView {
         anchors.fill: parent
+        controller: window.controller
         objectName: "content"
     }
 }

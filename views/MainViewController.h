@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PhotoLandingStageController.h"
+
 #include <QObject>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
@@ -8,7 +10,6 @@
 
 class AppModel;
 class DefaultsStore;
-class PhotoLandingStageController;
 
 /// What the main window shows and does, decided without a window: which workspace and panel are open, how
 /// large the landing stage may be, the texts that follow the model, drops, and whether the welcome covers the

@@ -69,6 +69,7 @@ Item {
             Accessible.role: Accessible.Graphic
             anchors.horizontalCenter: parent.horizontalCenter
             height: 200
+            objectName: "artwork"
             revealProgress: sequence.revealProgress
             scale: sequence.artworkScale
             shimmerProgress: sequence.shimmerProgress
@@ -89,6 +90,7 @@ Item {
                 anchors.horizontalCenter: parent.horizontalCenter
                 font.letterSpacing: -1.1
                 font.weight: Font.DemiBold
+                objectName: "title"
                 size: 34
                 text: "Lumaport"
             }
@@ -110,6 +112,7 @@ Item {
             font.pixelSize: 13
             font.weight: Font.DemiBold
             horizontalPadding: 20
+            objectName: "startButton"
             opacity: sequence.buttonProgress
             symbol: "arrow.right"
             text: qsTr("Get started")
