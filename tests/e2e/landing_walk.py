@@ -1,0 +1,153 @@
+"""The main window as a person meets it: the welcome, a photo dragged from another program, and rest when nothing happens."""
+
+import os
+import re
+import subprocess
+import sys
+import threading
+import time
+import unittest
+
+from support import COPIES, DOWNLOADS, HOME, PATIENCE, SETTINGS, entry, photo, wait_until
+
+DRAG_SOURCE = sys.argv.pop()
+PROGRAM = sys.argv.pop()
+WELCOME = "^Lumaport Welcome$"
+QUIET = 1.0  # seconds without a frame: far more than any pause between two frames of an animation
+
+
+def run(*command):
+    return subprocess.run(command, capture_output=True, text=True, check=False).stdout
+
+
+def windows(name):
+    return run("xdotool", "search", "--onlyvisible", "--name", name).split()
+
+
+def place(window):
+    numbers = dict(line.split("=") for line in run("xdotool", "getwindowgeometry", "--shell", window).split())
+    return tuple(int(numbers[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+
+
+def opacity(window):
+    found = re.search(r"= (\d+)", run("xprop", "-id", window, "_NET_WM_WINDOW_OPACITY"))
+    return int(found.group(1)) / 0xFFFFFFFF if found else 1.0
+
+
+def welcome_seen():
+    return SETTINGS.exists() and "hasSeenSignatureWelcome=true" in SETTINGS.read_text(encoding="utf-8")
+
+
+class Lumaport:
+    """The program, with the times at which it drew its frames; use it in a with statement."""
+
+    def __enter__(self):
+        environment = dict(os.environ, QT_LOGGING_RULES="qt.scenegraph.time.renderloop=true")
+        self.process = subprocess.Popen([PROGRAM], env=environment, stderr=subprocess.PIPE, text=True)
+        self.frames = []
+        self.printed = []
+        self.reader = threading.Thread(target=self.read)
+        self.reader.start()
+        self.window = wait_until(lambda: windows("^Lumaport$"), "the main window")[0]
+        return self
+
+    def __exit__(self, *_):
+        self.process.terminate()
+        self.process.wait(timeout=PATIENCE)
+        self.reader.join()
+
+    def read(self):
+        for line in self.process.stderr:
+            if "qt.scenegraph.time" in line or "Frame rendered" in line:
+                self.frames.append(time.monotonic())
+            else:
+                self.printed.append(line)
+
+    def rest(self):
+        """Waits until no frame has been drawn for a while."""
+        wait_until(lambda: self.frames and time.monotonic() - self.frames[-1] > QUIET, "rest")
+
+
+class LandingWalk(unittest.TestCase):
+    def setUp(self):
+        subprocess.run(["rm", "-rf", DOWNLOADS, SETTINGS], check=True)
+        DOWNLOADS.mkdir()
+
+    @staticmethod
+    def skip_the_welcome():
+        SETTINGS.parent.mkdir(parents=True, exist_ok=True)
+        SETTINGS.write_text("[General]\nhasSeenSignatureWelcome=true\n", encoding="utf-8")
+
+    def test_a_photo_dragged_from_another_program_is_converted(self):
+        self.skip_the_welcome()
+        elsewhere = HOME / "Pictures"
+        elsewhere.mkdir(exist_ok=True)
+        photo(elsewhere, "IMG 7.HEIC")
+        with Lumaport() as lumaport:
+            lumaport.rest()
+            source = subprocess.Popen([DRAG_SOURCE, elsewhere / "IMG 7.HEIC"])
+            try:
+                wait_until(lambda: windows("^Drag source$"), "the drag source")
+                x, y, width, height = place(lumaport.window)
+                target = (x + width // 2, y + height // 2)
+                run("xdotool", "mousemove", "40", "30", "mousedown", "1")
+                steps = 12
+                for step in range(1, steps + 1):
+                    run("xdotool", "mousemove", "--sync", str(40 + (target[0] - 40) * step // steps),
+                        str(30 + (target[1] - 30) * step // steps))
+                drawn = len(lumaport.frames)
+                wait_until(lambda: len(lumaport.frames) > drawn, "the cards fanning out")
+                run("xdotool", "mousemove_relative", "--", "3", "3")
+                lumaport.rest()
+                run("xdotool", "mouseup", "1")
+                done = wait_until(lambda: entry("IMG 7.HEIC"), "the end of the conversion")
+                self.assertEqual(done["status"], "ready")
+                self.assertTrue((elsewhere / "Lumaport" / "IMG 7.png").exists())
+            finally:
+                source.terminate()
+                source.wait(timeout=PATIENCE)
+        self.assertFalse(COPIES.exists())
+        self.assertEqual(lumaport.printed, [])
+
+    def test_nothing_is_drawn_when_nothing_moves_or_nobody_can_see(self):
+        self.skip_the_welcome()
+        with Lumaport() as lumaport:
+            lumaport.rest()
+            run("xdotool", "windowminimize", "--sync", lumaport.window)
+            drawn = len(lumaport.frames)
+            photo(DOWNLOADS, "IMG 8.HEIC")
+            wait_until(lambda: entry("IMG 8.HEIC"), "the end of the conversion")
+            self.assertEqual(len(lumaport.frames), drawn)
+        self.assertEqual(lumaport.printed, [])
+
+    def test_the_welcome_is_inside_the_window_without_a_compositor(self):
+        with Lumaport() as lumaport:
+            lumaport.rest()
+            self.assertEqual(windows(WELCOME), [])
+            self.assertFalse(welcome_seen())
+            run("xdotool", "windowfocus", "--sync", lumaport.window, "key", "Return")
+            wait_until(welcome_seen, "the end of the welcome")
+            lumaport.rest()
+        self.assertEqual(lumaport.printed, [])
+
+    def test_the_welcome_has_a_panel_over_the_window_with_a_compositor(self):
+        compositor = subprocess.Popen(["picom", "--backend", "xrender", "--config", "/dev/null"],
+                                      stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        try:
+            wait_until(lambda: "picom" in run("xwininfo", "-root", "-tree"), "the compositor")
+            with Lumaport() as lumaport:
+                panel = wait_until(lambda: windows(WELCOME), "the panel")[0]
+                self.assertEqual(opacity(lumaport.window), 0.0)
+                lumaport.rest()
+                run("xdotool", "windowfocus", "--sync", panel, "key", "Return")
+                wait_until(welcome_seen, "the end of the welcome")
+                wait_until(lambda: not windows(WELCOME), "the end of the panel")
+                wait_until(lambda: opacity(lumaport.window) == 1.0, "the main window")
+            self.assertEqual(lumaport.printed, [])
+        finally:
+            compositor.terminate()
+            compositor.wait(timeout=PATIENCE)
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
