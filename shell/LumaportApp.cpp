@@ -5,6 +5,7 @@
 #include "AppModelSingleton.h"
 #include "JobScheduler.h"
 #include "MainCommands.h"
+#include "MainViewController.h"
 #include "MainWindow.h"
 #include "NotificationManager.h"
 #include "SettingsPortal.h"
@@ -20,7 +21,8 @@ LumaportApp::LumaportApp(SingleInstance &instance)
 {
     AppModelServices services = AppModelServices::standard();
     const std::shared_ptr<JobScheduler> jobs = services.jobs;
-    const MainWindowLayout layout(services.defaults);
+    const std::shared_ptr<DefaultsStore> defaults = services.defaults;
+    const MainWindowLayout layout(defaults);
     m_appearance = services.appearance;
     m_portal = std::make_unique<SettingsPortal>(QDBusConnection::sessionBus(), *m_appearance);
     SystemAppearanceSingleton::provide(*m_appearance);
@@ -30,9 +32,12 @@ LumaportApp::LumaportApp(SingleInstance &instance)
     m_model = std::make_unique<AppModel>(std::move(services));
     AppModelSingleton::provide(*m_model);
     m_commands = std::make_unique<MainCommands>(*m_model, *m_delegate, layout);
+    m_mainView = std::make_unique<MainViewController>(*m_model, defaults);
     m_window = std::make_unique<MainWindow>(
-        *m_engine, QVariantMap{{QStringLiteral("commands"), QVariant::fromValue(m_commands.get())}}, layout,
-        jobs);
+        *m_engine,
+        QVariantMap{{QStringLiteral("commands"), QVariant::fromValue(m_commands.get())},
+                    {QStringLiteral("controller"), QVariant::fromValue(m_mainView.get())}},
+        layout, jobs);
 
     const auto openMain = [this] { m_window->open(); };
     QObject::connect(&instance, &SingleInstance::activated, m_commands.get(), openMain);

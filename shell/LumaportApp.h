@@ -5,6 +5,7 @@
 class AppDelegate;
 class AppModel;
 class MainCommands;
+class MainViewController;
 class MainWindow;
 class QQmlEngine;
 class SettingsPortal;
@@ -27,5 +28,6 @@ private:
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<AppDelegate> m_delegate;
     std::unique_ptr<MainCommands> m_commands;
+    std::unique_ptr<MainViewController> m_mainView;
     std::unique_ptr<MainWindow> m_window;
 };

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import Lumaport.Shell
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // The one main window. The menu bar adds its height to the window and takes nothing from the content.
@@ -8,6 +9,7 @@ ApplicationWindow {
     id: window
 
     required property MainCommands commands
+    required property MainViewController controller
 
     color: LumaportPalette.night
     height: 780 + menuBar.height
@@ -22,8 +24,9 @@ ApplicationWindow {
         onCloseRequested: window.close()
     }
 
-    Item {
+    MainView {
         anchors.fill: parent
+        controller: window.controller
         objectName: "content"
     }
 }

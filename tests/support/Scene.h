@@ -19,15 +19,16 @@ class Scene
 public:
     Scene() { SystemAppearanceSingleton::provide(appearance); }
 
-    /// Shows the item that `qml` describes, at its own size; its imports are given by the test.
-    QQuickItem *show(const char *qml)
+    /// Shows the item that `qml` describes, at its own size; its imports are given by the test, and
+    /// `properties` what it requires.
+    QQuickItem *show(const char *qml, const QVariantMap &properties = {})
     {
         QObject::connect(&engine, &QQmlEngine::warnings, &engine, [](const QList<QQmlError> &warnings) {
             QFAIL(qPrintable(warnings.constFirst().toString()));
         });
         QQmlComponent component(&engine);
         component.setData(qml, QUrl(QStringLiteral("qrc:/scene.qml")));
-        m_item.reset(qobject_cast<QQuickItem *>(component.create()));
+        m_item.reset(qobject_cast<QQuickItem *>(component.createWithInitialProperties(properties)));
         if (!m_item) {
             qFatal("%s", qPrintable(component.errorString()));
         }

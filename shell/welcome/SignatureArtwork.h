@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QImage>
+#include <QQuickPaintedItem>
+#include <QtQml/qqmlregistration.h>
+
+/// The signature artwork, scaled to fit: wiped in from the leading edge, with a light that sweeps over it and
+/// touches nothing but the signature.
+class SignatureArtwork : public QQuickPaintedItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QString source READ source WRITE setSource NOTIFY sourceChanged)
+    Q_PROPERTY(bool available READ isAvailable NOTIFY sourceChanged)
+    Q_PROPERTY(double revealProgress MEMBER m_revealProgress NOTIFY progressChanged)
+    Q_PROPERTY(double shimmerProgress MEMBER m_shimmerProgress NOTIFY progressChanged)
+
+public:
+    /// With the artwork that is shipped with the application.
+    explicit SignatureArtwork(QQuickItem *parent = nullptr);
+
+    /// Path of the image file.
+    QString source() const { return m_source; }
+    void setSource(const QString &path);
+    /// There is an image to show.
+    bool isAvailable() const { return !m_image.isNull(); }
+
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void sourceChanged();
+    void progressChanged();
+
+private:
+    QImage shimmer(const QImage &artwork) const;
+
+    QString m_source;
+    QImage m_image;
+    QImage m_scaled; ///< m_image at the screen's resolution, as last painted
+    double m_revealProgress = 0.0;
+    double m_shimmerProgress = 0.0;
+};

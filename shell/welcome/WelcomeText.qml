@@ -1,0 +1,20 @@
+import QtQuick
+import Lumaport.Vocabulary
+
+// A line of the welcome, legible over anything: white, with a soft dark shadow.
+BodyText {
+    id: line
+
+    color: "white"
+
+    TextShadow {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: 2
+        blurRadius: 6
+        color: Qt.alpha("black", 0.5)
+        font: line.font
+        text: line.text
+        textSize: Qt.size(line.implicitWidth, line.implicitHeight)
+        z: -1
+    }
+}

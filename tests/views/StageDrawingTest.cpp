@@ -1,0 +1,125 @@
+#include "ConversionFluid.h"
+#include "FolderFront.h"
+#include "GaussianBlur.h"
+#include "Scene.h"
+
+#include <cmath>
+
+// The pieces of the stage that are drawn by the program itself.
+class StageDrawingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldBlurLikeAGaussian()
+    {
+        // The edge of a half-plane, blurred, is the Gaussian's integral.
+        constexpr int side = 121;
+        constexpr double radius = 6.0;
+        QImage mask(side, side, QImage::Format_Alpha8);
+        mask.fill(0);
+        for (int y = 0; y < side; ++y) {
+            std::fill_n(mask.scanLine(y) + side / 2, side - side / 2, uchar{255});
+        }
+        const QImage blurred = GaussianBlur::blurred(mask, radius);
+        for (int x = 40; x < 80; ++x) {
+            const double distance = x + 0.5 - side / 2;
+            const double expected = 255.0 * 0.5 * (1.0 + std::erf(distance / (radius * std::sqrt(2.0))));
+            QVERIFY2(std::abs(blurred.constScanLine(side / 2)[x] - expected) < 5.0,
+                     qPrintable(QString::number(x)));
+        }
+        const int reach = static_cast<int>(GaussianBlur::extent(radius));
+        QVERIFY(blurred.constScanLine(side / 2)[side / 2 - reach] <= 1);
+    }
+
+    void shouldDrawAGlowAroundItsShape()
+    {
+        Scene scene;
+        scene.show("import QtQuick; import Lumaport.Vocabulary; Rectangle { width: 200; height: 100;"
+                   "SoftShape { anchors.centerIn: parent; shapeSize: Qt.size(100, 20); cornerRadius: 50;"
+                   "blurRadius: 5; color: Qt.rgba(0, 0, 0, 1) } }");
+        const QImage picture = scene.window.grabWindow();
+        const int middle = picture.pixelColor(100, 50).red();
+        QVERIFY2(middle < 40, qPrintable(QString::number(middle)));
+        const int end = picture.pixelColor(51, 41).red(); // a rectangle would be dark here, an ellipse is not
+        QVERIFY2(end > 220, qPrintable(QString::number(end)));
+        QCOMPARE(picture.pixelColor(100, 50 - 10 - 16).red(), 255);
+    }
+
+    void shouldLeanTheFolderAboutItsBottomEdge()
+    {
+        FolderFront front;
+        const auto place = [&front](double x, double y) {
+            return front.tiltMatrix().map(QPointF(x, y)); // in a point of air
+        };
+        front.setTilt(0.0);
+        QCOMPARE(place(1.0, 1.0), QPointF(1.0, 1.0));
+        front.setTilt(-18.0);
+        for (const double x : {1.0, 120.5, 240.0}) {
+            QVERIFY(QLineF(place(x, 109.0), QPointF(x, 109.0)).length() < 1e-3);
+        }
+        // From 239 points away the top edge, 108 sin 18 nearer, is larger by 239 / (239 - 33.37).
+        const double larger = 239.0 / (239.0 - 108.0 * std::sin(18.0 * M_PI / 180.0));
+        QVERIFY(std::abs(place(240.0, 1.0).x() - (120.5 + 119.5 * larger)) < 0.01);
+        QVERIFY(std::abs(place(120.5, 1.0).y() - (109.0 - 108.0 * std::cos(18.0 * M_PI / 180.0) * larger)) <
+                0.01);
+        // A scene has no depth: what left its plane would be cut off.
+        QCOMPARE(front.tiltMatrix().map(QVector3D(50.0F, 20.0F, 0.0F)).z(), 0.0F);
+    }
+
+    void shouldDrawTheFluidOfItsMoment()
+    {
+        Scene scene;
+        auto *fluid = qobject_cast<ConversionFluid *>(
+            scene.show("import QtQuick; import Lumaport.Views; ConversionFluid { width: 54; height: 54 }"));
+        QVERIFY(fluid);
+        const QImage still = scene.window.grabWindow();
+        QCOMPARE(still.pixelColor(1, 1), QColor(Qt::white)); // a disc, not a square
+        // The last colour has its middle there and covers what is below by 85 %.
+        const QColor coral(0xFF, 0x80, 0x5F);
+        const QPoint middle(static_cast<int>(54 * (0.5 + 0.28 * std::sin(4.2))),
+                            static_cast<int>(54 * (0.62 + 0.2 * std::cos(0.8 * 4.2))));
+        const QColor seen = still.pixelColor(middle);
+        QVERIFY2(std::abs(seen.red() - coral.red()) < 45 && std::abs(seen.green() - coral.green()) < 30 &&
+                     std::abs(seen.blue() - coral.blue()) < 40,
+                 qPrintable(seen.name()));
+        fluid->setTime(1.0);
+        QVERIFY(scene.window.grabWindow() != still);
+        fluid->setTime(0.0);
+        QCOMPARE(scene.window.grabWindow(), still);
+    }
+
+    void shouldMoveTheFluidOnlyWhenThatIsWantedAndSeen()
+    {
+        Scene scene;
+        auto *fluid = qobject_cast<ConversionFluid *>(
+            scene.show("import QtQuick; import Lumaport.Views; ConversionFluid { width: 54; height: 54 }"));
+        QVERIFY(!fluid->isMoving());
+        fluid->setActive(true);
+        QVERIFY(fluid->isMoving());
+        QTRY_VERIFY(fluid->time() > 0.0);
+
+        scene.window.hide();
+        QVERIFY(!fluid->isMoving());
+        scene.window.show();
+        QVERIFY(fluid->isMoving());
+        scene.window.showMinimized();
+        QVERIFY(!fluid->isMoving());
+        scene.window.showNormal();
+        fluid->setVisible(false);
+        QVERIFY(!fluid->isMoving());
+        fluid->setVisible(true);
+        QVERIFY(fluid->isMoving());
+
+        fluid->setReduceMotion(true);
+        QVERIFY(!fluid->isMoving());
+        QCOMPARE(fluid->time(), 0.0);
+        fluid->setReduceMotion(false);
+        fluid->setActive(false);
+        QVERIFY(!fluid->isMoving());
+        QCOMPARE(fluid->time(), 0.0);
+    }
+};
+
+QTEST_MAIN(StageDrawingTest)
+#include "StageDrawingTest.moc"

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QQuickPaintedItem>
+#include <QtQml/qqmlregistration.h>
+
+/// A disc of moving colour that stands for a conversion in progress. It moves, at 30 frames a second, only
+/// while it is active, motion is wanted and its window can be seen; else it is still and costs nothing.
+class ConversionFluid : public QQuickPaintedItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
+    Q_PROPERTY(bool reduceMotion READ reduceMotion WRITE setReduceMotion NOTIFY reduceMotionChanged)
+    Q_PROPERTY(double time READ time WRITE setTime NOTIFY timeChanged)
+    Q_PROPERTY(bool moving READ isMoving NOTIFY movingChanged)
+
+public:
+    explicit ConversionFluid(QQuickItem *parent = nullptr);
+
+    bool isActive() const { return m_active; }
+    void setActive(bool active);
+    bool reduceMotion() const { return m_reduceMotion; }
+    void setReduceMotion(bool reduce);
+    /// Seconds since the reference date: the moment that is drawn. While moving it follows the clock; without
+    /// motion or activity it is 0.
+    double time() const { return m_time; }
+    void setTime(double seconds);
+    bool isMoving() const { return m_timer.isActive(); }
+
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void activeChanged();
+    void reduceMotionChanged();
+    void timeChanged();
+    void movingChanged();
+
+protected:
+    void itemChange(ItemChange change, const ItemChangeData &data) override;
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    void follow(QQuickWindow *window);
+    void updateMotion();
+
+    bool m_active = false;
+    bool m_reduceMotion = false;
+    double m_time = 0.0;
+    QBasicTimer m_timer;
+    QMetaObject::Connection m_visibility; ///< of the window that the item is in
+};

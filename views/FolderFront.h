@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QMatrix4x4>
+#include <QQuickPaintedItem>
+#include <QtQml/qqmlregistration.h>
+
+/// The front of the stage's folder, 239 x 108 points and a point of air around for its outline. It is painted
+/// once; `tiltMatrix` leans it about its bottom edge.
+class FolderFront : public QQuickPaintedItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double tilt READ tilt WRITE setTilt NOTIFY tiltChanged)
+    Q_PROPERTY(QMatrix4x4 tiltMatrix READ tiltMatrix NOTIFY tiltChanged)
+
+public:
+    explicit FolderFront(QQuickItem *parent = nullptr);
+
+    /// Degrees; negative leans the top edge towards the viewer.
+    double tilt() const { return m_tilt; }
+    void setTilt(double degrees);
+    /// From the item's flat plane to the screen, seen from as far away as the front is wide. Depth is left
+    /// out: the scene has none, and would cut off what leaves its plane.
+    QMatrix4x4 tiltMatrix() const;
+
+    void paint(QPainter *painter) override;
+
+Q_SIGNALS:
+    void tiltChanged();
+
+private:
+    double m_tilt = 0.0;
+};

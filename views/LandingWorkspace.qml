@@ -1,0 +1,132 @@
+import QtQuick
+import Lumaport.Interaction
+import Lumaport.Vocabulary
+
+// The "AirDrop" workspace: where photos land. All of it takes dropped files; the stage is a button that asks for photos.
+Rectangle {
+    id: workspace
+
+    required property MainViewController controller
+    required property bool compact
+    required property real stageHeight
+
+    readonly property real padding: compact ? 14 : 18
+
+    border.color: controller.isDropTargeted ? LumaportPalette.iris : LumaportPalette.softLine
+    border.width: controller.isDropTargeted ? 2 : 1
+    color: LumaportPalette.panel
+    implicitHeight: column.height + 2 * padding
+    radius: 22
+
+    DropArea {
+        anchors.fill: parent
+        keys: ["text/uri-list"]
+        onDropped: drop => drop.accepted = workspace.controller.drop(drop.urls)
+        onEntered: drag => drag.accepted = workspace.controller.dragEntered(drag.urls)
+        onExited: workspace.controller.dragLeft()
+    }
+
+    Column {
+        id: column
+
+        width: parent.width - 2 * workspace.padding
+        x: workspace.padding
+        y: workspace.padding
+
+        FolderRow {
+            controller: workspace.controller
+            width: parent.width
+        }
+
+        Item {
+            height: stageButton.height + 2
+            width: parent.width
+
+            PlainButton {
+                id: stageButton
+
+                anchors.horizontalCenter: parent.horizontalCenter
+                height: workspace.stageHeight
+                help: qsTr("Choose photos, or drop them into the folder")
+                objectName: "stageButton"
+                text: qsTr("Choose HEIC photos")
+                width: workspace.stageHeight * 330 / 222
+                y: 2
+
+                contentItem: Item {
+                    PhotoLandingStage {
+                        anchors.centerIn: parent
+                        controller: workspace.controller.stage
+                        scale: workspace.stageHeight / 222
+                    }
+                }
+
+                onClicked: workspace.controller.choosePhotos()
+
+                InteractionFeedback {
+                }
+            }
+        }
+
+        BodyText {
+            font.letterSpacing: -0.6
+            font.weight: Font.DemiBold
+            horizontalAlignment: Text.AlignHCenter
+            objectName: "headline"
+            size: 26
+            text: workspace.controller.headline
+            width: parent.width
+            wrapMode: Text.Wrap
+        }
+
+        BodyText {
+            color: LumaportPalette.muted
+            horizontalAlignment: Text.AlignHCenter
+            objectName: "detail"
+            size: 12
+            text: workspace.controller.workspaceDetail
+            topPadding: 7
+            width: parent.width
+            wrapMode: Text.Wrap
+        }
+
+        Item {
+            height: choose.height + 14
+            width: parent.width
+
+            QuietButton {
+                id: choose
+
+                anchors.bottom: parent.bottom
+                anchors.horizontalCenter: parent.horizontalCenter
+                objectName: "chooseButton"
+                symbol: "plus"
+                text: qsTr("Choose photos manually")
+                onClicked: workspace.controller.choosePhotos()
+            }
+        }
+
+        BodyText {
+            bottomPadding: 18
+            color: LumaportPalette.muted
+            horizontalAlignment: Text.AlignHCenter
+            size: 11
+            text: qsTr("Or drop HEIC photos here. Originals stay yours.")
+            topPadding: 8
+            width: parent.width
+            wrapMode: Text.Wrap
+        }
+
+        Rectangle {
+            color: LumaportPalette.softLine
+            height: 1
+            width: parent.width
+        }
+
+        OutputRow {
+            controller: workspace.controller
+            topPadding: 16
+            width: parent.width
+        }
+    }
+}

@@ -1,0 +1,70 @@
+import QtQuick
+import Lumaport.Interaction
+import Lumaport.Vocabulary
+
+// What scrolls in the main window: the watching state, the tabs, the workspace of the selected tab, the footer.
+Column {
+    id: column
+
+    required property MainViewController controller
+    required property bool compact
+    required property real stageHeight
+
+    spacing: compact ? 10 : 14
+
+    MonitoringControl {
+        width: parent.width
+    }
+
+    WorkspaceNavigation {
+        controller: column.controller
+        width: parent.width
+    }
+
+    // One workspace fades into the other, and the room for them goes from the height of one to that of the other.
+    Item {
+        height: landing.height + (history.height - landing.height) * switching.value
+        width: parent.width
+
+        SpringValue {
+            id: switching
+
+            dampingFraction: 0.8
+            response: 0.35
+            to: column.controller.showingHistory ? 1 : 0
+        }
+
+        LandingWorkspace {
+            id: landing
+
+            compact: column.compact
+            controller: column.controller
+            enabled: !column.controller.showingHistory
+            opacity: 1 - switching.value
+            stageHeight: column.stageHeight
+            visible: opacity > 0
+            width: parent.width
+        }
+
+        Loader {
+            id: history
+
+            active: switching.value > 0
+            enabled: column.controller.showingHistory
+            opacity: switching.value
+            width: parent.width
+
+            sourceComponent: ArrivalsList {
+            }
+        }
+    }
+
+    SymbolLabel {
+        anchors.horizontalCenter: parent.horizontalCenter
+        color: LumaportPalette.muted
+        font.pixelSize: 11
+        spacing: 7
+        symbol: "lock.shield"
+        text: qsTr("Private by design. Converted on your Mac.")
+    }
+}

@@ -1,0 +1,202 @@
+#include "MainViewController.h"
+
+#include "AppModel.h"
+#include "DefaultsStore.h"
+#include "PhotoFileName.h"
+#include "PhotoLandingStageController.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double compactBelow = 650.0;
+constexpr double reservedHeight = 460.0; ///< what stands above and below the stage
+constexpr double reservedHeightCompact = 430.0;
+constexpr double reservedForOptions = 24.0; ///< the narrower column breaks one more line
+constexpr double tallestStage = 222.0;
+constexpr double lowestStage = 60.0;
+
+QString hasSeenWelcomeKey()
+{
+    return QStringLiteral("hasSeenSignatureWelcome");
+}
+
+QList<QUrl> filesAmong(const QList<QUrl> &urls)
+{
+    QList<QUrl> files;
+    std::copy_if(urls.begin(), urls.end(), std::back_inserter(files),
+                 [](const QUrl &url) { return url.isLocalFile(); });
+    return files;
+}
+
+} // namespace
+
+MainViewController::MainViewController(AppModel &model, std::shared_ptr<DefaultsStore> defaults,
+                                       QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_defaults(std::move(defaults))
+    , m_stage(std::make_unique<PhotoLandingStageController>(model))
+    , m_hasSeenWelcome(m_defaults->boolean(hasSeenWelcomeKey()).value_or(false))
+{
+    for (const auto signal :
+         {&AppModel::activeStatusChanged, &AppModel::lastEventTextChanged, &AppModel::monitorAvailableChanged,
+          &AppModel::isWatchingChanged, &AppModel::isDropTargetedChanged, &AppModel::settingsChanged}) {
+        connect(&model, signal, this, &MainViewController::textsChanged);
+    }
+    connect(&model, &AppModel::itemsChanged, this, &MainViewController::itemsChanged);
+    connect(&model, &AppModel::watchFolderChanged, this, &MainViewController::watchFolderChanged);
+    connect(&model, &AppModel::settingsChanged, this, &MainViewController::settingsChanged);
+    connect(&model, &AppModel::welcomeReplayTokenChanged, this, &MainViewController::replayWelcome);
+}
+
+MainViewController::~MainViewController() = default;
+
+void MainViewController::setOptionsVisible(bool visible)
+{
+    if (m_optionsVisible != visible) {
+        m_optionsVisible = visible;
+        Q_EMIT optionsVisibleChanged();
+    }
+}
+
+void MainViewController::setShowingHistory(bool showing)
+{
+    if (m_showingHistory != showing) {
+        m_showingHistory = showing;
+        Q_EMIT showingHistoryChanged();
+    }
+}
+
+void MainViewController::replayWelcome()
+{
+    m_replayingWelcome = true;
+    Q_EMIT showsWelcomeChanged();
+}
+
+void MainViewController::finishWelcome()
+{
+    m_hasSeenWelcome = true;
+    m_defaults->store(hasSeenWelcomeKey(), true);
+    m_replayingWelcome = false;
+    Q_EMIT showsWelcomeChanged();
+}
+
+bool MainViewController::isCompact(double workspaceHeight)
+{
+    return workspaceHeight < compactBelow;
+}
+
+double MainViewController::stageHeight(double workspaceHeight, double optionsShown)
+{
+    const double reserved = (isCompact(workspaceHeight) ? reservedHeightCompact : reservedHeight) +
+                            reservedForOptions * optionsShown;
+    return std::max(lowestStage, std::min(tallestStage, workspaceHeight - reserved));
+}
+
+QString MainViewController::headline() const
+{
+    if (m_model.isDropTargeted()) {
+        return tr("Drop it. We’ve got it.");
+    }
+    if (const auto status = m_model.activeStatus()) {
+        switch (*status) {
+        case ConversionStatus::queued:
+            return tr("Your photo just landed.");
+        case ConversionStatus::converting:
+            return tr("A little format magic.");
+        case ConversionStatus::ready:
+            return tr("New format. Same moment.");
+        case ConversionStatus::failed:
+            return tr("This photo needs attention.");
+        }
+    }
+    if (!m_model.monitorAvailable()) {
+        return tr("Let’s reconnect your folder.");
+    }
+    return m_model.isWatching() ? tr("AirDrop it. It’s ready.") : tr("Ready when you are.");
+}
+
+QString MainViewController::workspaceDetail() const
+{
+    if (m_model.activeStatus()) {
+        return m_model.lastEventText();
+    }
+    if (!m_model.monitorAvailable()) {
+        return tr("Open conversion options to choose an available folder.");
+    }
+    if (!m_model.isWatching()) {
+        return tr("Resume automatic conversion, or choose photos manually.");
+    }
+    return tr("New HEIC photos in your watched folder become %1, automatically.")
+        .arg(m_model.settings().format == OutputFormat::jpeg ? QStringLiteral("JPEG")
+                                                             : QStringLiteral("PNG"));
+}
+
+QString MainViewController::readyText() const
+{
+    return tr("%1 ready").arg(m_model.readyCount());
+}
+
+bool MainViewController::isBusy() const
+{
+    return m_model.isBusy();
+}
+
+bool MainViewController::isDropTargeted() const
+{
+    return m_model.isDropTargeted();
+}
+
+QString MainViewController::watchFolderName() const
+{
+    return m_model.watchFolder().fileName();
+}
+
+QString MainViewController::watchFolderPath() const
+{
+    return m_model.watchFolder().toLocalFile();
+}
+
+QString MainViewController::openFolderLabel() const
+{
+    return tr("Open watched folder: %1").arg(watchFolderName());
+}
+
+QString MainViewController::outputLocationText() const
+{
+    return rawValue(m_model.settings().outputLocation);
+}
+
+bool MainViewController::dragEntered(const QList<QUrl> &urls)
+{
+    if (filesAmong(urls).isEmpty()) {
+        return false;
+    }
+    m_model.setIsDropTargeted(true);
+    return true;
+}
+
+void MainViewController::dragLeft()
+{
+    m_model.setIsDropTargeted(false);
+}
+
+bool MainViewController::drop(const QList<QUrl> &urls)
+{
+    m_model.setIsDropTargeted(false);
+    const QList<QUrl> files = filesAmong(urls);
+    m_model.convertManually(files);
+    return std::any_of(files.begin(), files.end(),
+                       [](const QUrl &file) { return PhotoFileName::isHeic(file.fileName()); });
+}
+
+void MainViewController::choosePhotos()
+{
+    m_model.choosePhotos();
+}
+
+void MainViewController::openWatchFolder()
+{
+    m_model.openWatchFolder();
+}

@@ -1,0 +1,49 @@
+import QtQuick
+import Lumaport.Interaction
+import Lumaport.Vocabulary
+
+// What photos become, and where the copies go.
+Item {
+    id: row
+
+    required property MainViewController controller
+    property real topPadding: 0
+
+    implicitHeight: format.height + topPadding
+
+    OptionsController {
+        id: settings
+
+        model: AppModel
+    }
+
+    BodyText {
+        id: caption
+
+        anchors.verticalCenter: format.verticalCenter
+        color: LumaportPalette.muted
+        font.weight: Font.Medium
+        size: 11
+        text: qsTr("Convert to")
+    }
+
+    FormatControl {
+        id: format
+
+        anchors.left: caption.right
+        anchors.leftMargin: 8
+        selection: settings.format
+        y: row.topPadding
+        onChosen: choice => settings.format = choice
+    }
+
+    SymbolLabel {
+        anchors.right: parent.right
+        anchors.verticalCenter: format.verticalCenter
+        color: LumaportPalette.ink
+        font.pixelSize: 11
+        font.weight: Font.Medium
+        symbol: "folder"
+        text: row.controller.outputLocationText
+    }
+}

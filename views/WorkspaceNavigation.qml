@@ -1,0 +1,87 @@
+import QtQuick
+import Lumaport.Vocabulary
+
+// The two tabs, with a highlight that slides to the selected one, and how many photos are ready.
+Item {
+    id: navigation
+
+    required property MainViewController controller
+
+    readonly property Item selected: controller.showingHistory ? recentPhotos : airDrop
+
+    implicitHeight: tabs.implicitHeight
+
+    SpringValue {
+        id: highlightX
+
+        dampingFraction: 0.8
+        response: 0.35
+        to: navigation.selected.x
+    }
+
+    SpringValue {
+        id: highlightWidth
+
+        dampingFraction: 0.8
+        response: 0.35
+        to: navigation.selected.width
+    }
+
+    SoftShape {
+        anchors.centerIn: highlight
+        anchors.verticalCenterOffset: 3
+        blurRadius: 5
+        color: Qt.alpha("black", 0.06)
+        cornerRadius: 12
+        shapeSize: Qt.size(navigation.selected.width, highlight.height)
+    }
+
+    Rectangle {
+        id: highlight
+
+        color: LumaportPalette.panel
+        height: tabs.height
+        radius: 12
+        width: highlightWidth.value
+        x: highlightX.value
+    }
+
+    Row {
+        id: tabs
+
+        Accessible.name: qsTr("Workspaces")
+        Accessible.role: Accessible.PageTabList
+        spacing: 10
+
+        WorkspaceTab {
+            id: airDrop
+
+            objectName: "airDropTab"
+            selected: !navigation.controller.showingHistory
+            symbol: "tray.and.arrow.down"
+            text: qsTr("AirDrop")
+            onClicked: navigation.controller.showingHistory = false
+            onMoved: recentPhotos.take()
+        }
+
+        WorkspaceTab {
+            id: recentPhotos
+
+            objectName: "recentPhotosTab"
+            selected: navigation.controller.showingHistory
+            symbol: "photo.stack"
+            text: qsTr("Recent photos")
+            onClicked: navigation.controller.showingHistory = true
+            onMoved: airDrop.take()
+        }
+    }
+
+    BodyText {
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        color: LumaportPalette.mint
+        font.weight: Font.Medium
+        size: 11
+        text: navigation.controller.readyText
+    }
+}

@@ -1,0 +1,56 @@
+import QtQuick
+import Lumaport.Interaction
+import Lumaport.Vocabulary
+
+// One tab of the workspaces: chosen with the pointer, with Space or Return, through the assistive interface, or with the
+// arrows from the other one.
+Item {
+    id: tab
+
+    property alias symbol: label.symbol
+    property alias text: label.text
+    property bool selected: false
+
+    signal clicked
+    signal moved
+
+    function take() {
+        forceActiveFocus(Qt.TabFocusReason)
+        clicked()
+    }
+
+    Accessible.focusable: true
+    Accessible.name: text
+    Accessible.role: Accessible.PageTab
+    Accessible.selectable: true
+    Accessible.selected: selected
+    Accessible.onPressAction: tab.clicked()
+    Keys.onEnterPressed: tab.clicked()
+    Keys.onLeftPressed: tab.moved()
+    Keys.onReturnPressed: tab.clicked()
+    Keys.onRightPressed: tab.moved()
+    Keys.onSpacePressed: tab.clicked()
+    activeFocusOnTab: true
+    implicitHeight: label.implicitHeight + 20
+    implicitWidth: label.implicitWidth + 30
+
+    SymbolLabel {
+        id: label
+
+        anchors.centerIn: parent
+        color: tab.selected ? LumaportPalette.ink : LumaportPalette.muted
+        font.pixelSize: 12
+        font.weight: Font.DemiBold
+        spoken: false
+    }
+
+    TapHandler {
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+        onTapped: tab.clicked()
+    }
+
+    FocusRing {
+        cornerRadius: 12
+        visible: tab.activeFocus
+    }
+}
