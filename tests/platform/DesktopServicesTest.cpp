@@ -51,10 +51,10 @@ class FileManagerService : public QObject
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
 
 public Q_SLOTS:
-    void ShowItems(const QStringList &uris, const QString & /*startup*/) { shown << uris; } // NOLINT
+    void ShowItems(const QStringList &uris, const QString & /*startup*/) { shown += uris; } // NOLINT
 
 public:
-    QList<QStringList> shown;
+    QStringList shown;
 };
 
 /// What opens a URL when no file manager answers.
@@ -171,10 +171,12 @@ private Q_SLOTS:
     {
         startNotificationService();
         m_service.capabilities << QStringLiteral("body-markup");
-        m_center->add(request());
-        QTest::qWait(0);
-        QTRY_VERIFY((m_jobs->advance(250ms), !m_service.calls.isEmpty()));
-        QCOMPARE(m_service.calls.first()[4].toString(), QStringLiteral("&lt;b&gt;&amp;.png\nBody"));
+        for (int count = 1; count <= 2; ++count) { // the first makes the center ask what the service can do
+            m_center->add(request());
+            m_jobs->advance(250ms);
+            QTRY_COMPARE(m_chime->played.size(), count);
+        }
+        QCOMPARE(m_service.calls.last()[4].toString(), QStringLiteral("&lt;b&gt;&amp;.png\nBody"));
     }
 
     void shouldStaySilentWithoutAService()
@@ -196,7 +198,7 @@ private Q_SLOTS:
         QVERIFY(serviceSide().registerService(fileManager));
         DesktopWorkspace workspace(QDBusConnection::sessionBus());
         workspace.reveal(QUrl::fromLocalFile(QStringLiteral("/home/a/Ö 1#.png")));
-        QTRY_COMPARE(manager.shown, QList{QStringList{QStringLiteral("file:///home/a/%C3%96%201%23.png")}});
+        QTRY_COMPARE(manager.shown, QStringList{QStringLiteral("file:///home/a/%C3%96%201%23.png")});
         serviceSide().unregisterService(fileManager);
         serviceSide().unregisterObject(QStringLiteral("/org/freedesktop/FileManager1"));
     }
