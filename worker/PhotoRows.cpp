@@ -63,6 +63,23 @@ Result<AlphaPlane> decodeAlpha(const Source &source, const Picture &picture, int
     return plane;
 }
 
+/// Some writers store the opacity in fewer pixels than the picture.
+AlphaPlane stretched(const AlphaPlane &plane, PixelSize size)
+{
+    AlphaPlane result{size,
+                      Bytes(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height))};
+    std::size_t index = 0;
+    for (std::int64_t y = 0; y < size.height; ++y) {
+        const auto row = static_cast<std::size_t>(y * plane.size.height / size.height);
+        for (std::int64_t x = 0; x < size.width; ++x) {
+            const auto column = static_cast<std::size_t>(x * plane.size.width / size.width);
+            result.samples[index++] =
+                plane.samples[row * static_cast<std::size_t>(plane.size.width) + column];
+        }
+    }
+    return result;
+}
+
 Result<std::unique_ptr<TileRows>> openGrid(const Source &source, const Picture &picture, const TileGrid &grid,
                                            int workers)
 {
@@ -72,7 +89,8 @@ Result<std::unique_ptr<TileRows>> openGrid(const Source &source, const Picture &
         if (!decoded) {
             return unreadable();
         }
-        alpha = std::move(*decoded);
+        const PixelSize size = picture.upright.size();
+        alpha = decoded->size == size ? std::move(*decoded) : stretched(*decoded, size);
         alpha.premultiplied = picture.premultiplied;
     }
     return TileRows::create(source, grid, picture.upright, picture.colour, std::move(alpha), workers);

@@ -221,7 +221,7 @@ private:
 
     OutputFile &m_output;
     const PixelSize m_size;
-    const CopyMetadata &m_metadata;
+    const CopyMetadata m_metadata;
     const int m_chunkHeight;
     std::mutex m_mutex;
     std::vector<std::unique_ptr<ChunkCompressor>> m_compressors; ///< not in use just now

@@ -114,14 +114,17 @@ Bytes write(const TiffFields &source, const std::vector<Directory> &directories)
         for (const TiffField &field : fields) {
             tiff.setNumber(entry, 2, static_cast<std::uint32_t>(field.tag));
             tiff.setNumber(entry + 2, 2, isLink(field.tag) ? Long : field.type);
-            tiff.setNumber(entry + 4, 4, field.count);
-            const auto value = source.bytes().subspan(field.valuePosition, field.valueLength);
+            tiff.setNumber(entry + 4, 4, isLink(field.tag) ? 1 : field.count);
             const bool isApart = outlyingLength(field) > 0;
             if (isApart) {
                 tiff.setNumber(entry + 8, 4, static_cast<std::uint32_t>(outlying));
             }
-            std::ranges::copy(value,
-                              output.begin() + static_cast<std::ptrdiff_t>(isApart ? outlying : entry + 8));
+            if (!isLink(
+                    field.tag)) { // a link's value is written below, whatever the source said of its length
+                const auto value = source.bytes().subspan(field.valuePosition, field.valueLength);
+                std::ranges::copy(value, output.begin() +
+                                             static_cast<std::ptrdiff_t>(isApart ? outlying : entry + 8));
+            }
             for (std::size_t below = 1; below < directories.size(); ++below) {
                 if (directories[below].link == field.tag &&
                     directories[below].parent == static_cast<int>(index)) {

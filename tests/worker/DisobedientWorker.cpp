@@ -6,6 +6,7 @@
 #include "TileDecoder.h"
 
 #include <array>
+#include <atomic>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -44,7 +45,8 @@ void answer(const Reply &reply)
 
 [[noreturn]] void spin()
 {
-    for (volatile unsigned turn = 0;; turn = turn + 1) {
+    for (std::atomic<unsigned> turns = 0;;) {
+        ++turns;
     }
 }
 

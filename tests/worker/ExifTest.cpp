@@ -135,6 +135,17 @@ TEST(Exif, ShouldSurviveEveryCutAndEveryDamagedByte)
     }
 }
 
+TEST(Exif, ShouldNotBelieveALinkThatClaimsToBeLong)
+{
+    // As above, but the link to the details claims to be hundreds of numbers: they must not be copied as a
+    // value.
+    Bytes exif = CameraExif(true, 70'000, 0).bytes();
+    constexpr std::size_t CountOfTheLink = 8 + 2 + 2 * 12 + 4;
+    exif[CountOfTheLink] = 0x20;
+    exif[CountOfTheLink + 1] = 0x03;
+    EXPECT_LE(exifWithin(exif, 65'527).size(), 65'527U);
+}
+
 TEST(Exif, ShouldSkipTheDistanceToTheStructureInAnItem)
 {
     const Bytes tiff = CameraExif(true, 0, 0).bytes();

@@ -73,7 +73,7 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const FileDescriptor source = fileHolding("endless-write", folder);
-        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(DISOBEDIENT_WORKER), ShortLimits);
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(DISOBEDIENT_WORKER), {});
         const auto worker = launcher->launch();
         QVERIFY(worker->open(source));
         const FileDescriptor output(::memfd_create("output", MFD_CLOEXEC));
@@ -89,7 +89,7 @@ private Q_SLOTS:
         QTest::newRow("missing") << QStringLiteral("/nowhere/lumaport-imageworker");
         QTest::newRow("a folder") << QStringLiteral("/tmp");
         QTest::newRow("another program") << QStringLiteral("/bin/true");
-        QTest::newRow("a program that waits") << QStringLiteral("/bin/cat");
+        QTest::newRow("a program that waits") << QStringLiteral("/bin/sleep");
     }
     void shouldTakeAProgramThatCannotStartForAFault()
     {
