@@ -23,13 +23,13 @@ public:
     /// Asks the first process to show its window, with the files that this one was given; waits until it has.
     void forward(const QList<QUrl> &files) const;
 
+    // NOLINTBEGIN(readability-identifier-naming): the names on the bus.
 public Q_SLOTS:
-    void Activate(const QVariantMap &platformData); // NOLINT(readability-identifier-naming)
-    void Open(const QStringList &uris,
-              const QVariantMap &platformData); // NOLINT(readability-identifier-naming)
-    void ActivateAction(const QString &action,
-                        const QVariantList &parameter, // NOLINT(readability-identifier-naming)
+    void Activate(const QVariantMap &platformData);
+    void Open(const QStringList &uris, const QVariantMap &platformData);
+    void ActivateAction(const QString &action, const QVariantList &parameter,
                         const QVariantMap &platformData);
+    // NOLINTEND(readability-identifier-naming)
 
 Q_SIGNALS:
     void activated();

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumaport.Shell
 import Lumaport.Vocabulary
 
 // The menu bar of the main window.

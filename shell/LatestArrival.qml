@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls.Basic
+import Lumaport.Shell
 import Lumaport.Views
 import Lumaport.Vocabulary
 

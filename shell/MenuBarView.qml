@@ -1,6 +1,6 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import Lumaport.Interaction
+import Lumaport.Shell
 import Lumaport.Views
 import Lumaport.Vocabulary
 

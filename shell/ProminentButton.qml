@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Shell
 import Lumaport.Vocabulary
 
 // A button that stands out: filled with the accent colour.

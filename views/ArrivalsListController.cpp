@@ -1,7 +1,5 @@
 #include "ArrivalsListController.h"
 
-#include "AppModel.h"
-
 void ArrivalsListController::setModel(AppModel *model)
 {
     if (m_model == model) {

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "AppModel.h"
 #include "ArrivalsListModel.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
-
-class AppModel;
 
 /// What the list of recent arrivals shows, and what its buttons do.
 class ArrivalsListController : public QObject

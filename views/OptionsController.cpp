@@ -1,6 +1,5 @@
 #include "OptionsController.h"
 
-#include "AppModel.h"
 #include "OptionTexts.h"
 
 #include <cmath>

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "AppModel.h"
 #include "ConversionSettings.h"
 
 #include <QObject>
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
-
-class AppModel;
 
 /// The settings as the options panel and the segmented controls show them: each choice is its number in the
 /// order of the cases. Every change goes to the model at once; nothing is checked or clamped here.

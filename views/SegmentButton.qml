@@ -70,7 +70,8 @@ T.Control {
     }
 
     FocusRing {
+        anchors.bottomMargin: button.lift - 3
+        anchors.topMargin: -button.lift - 3
         visible: button.visualFocus
-        y: -button.lift
     }
 }

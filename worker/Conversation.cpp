@@ -4,6 +4,7 @@
 #include "ImageWorkerWire.h"
 #include "PhotoConverter.h"
 #include "PhotoReader.h"
+#include "Thumbnail.h"
 
 #include <array>
 #include <cerrno>
@@ -68,7 +69,7 @@ public:
         case RequestKind::Write:
             return write(asked);
         case RequestKind::Thumbnail:
-            break;
+            return thumbnail(asked);
         }
         return {Outcome::Unreadable};
     }
@@ -94,6 +95,15 @@ private:
         const CopyFormat format = asked.request.format == Format::Png ? CopyFormat::Png : CopyFormat::Jpeg;
         return {outcomeOf(
             writeCopy(*m_source, *m_photo, asked.file.number(), format, asked.request.jpegQuality))};
+    }
+
+    Reply thumbnail(const Asked &asked) const
+    {
+        constexpr int LeastUrgent = 19;
+        ::setpriority(PRIO_PROCESS, 0, LeastUrgent); // nobody waits for it; conversions come first
+        return {m_photo ? outcomeOf(writeThumbnail(*m_source, *m_photo, asked.file.number(),
+                                                   asked.request.maximumSide))
+                        : Outcome::Unreadable};
     }
 
     FileDescriptor m_file;

@@ -4,6 +4,7 @@
 #include "Exif.h"
 #include "ItemData.h"
 #include "PictureReader.h"
+#include "PlainFileReader.h"
 #include "TrackReader.h"
 
 #include <algorithm>
@@ -75,6 +76,9 @@ Result<Photo> readPrimaryItem(const Source &source, const ItemTable &table)
 
 Result<Photo> readPhoto(const Source &source)
 {
+    if (const auto kind = plainFileKind(source)) {
+        return readPlainFile(source, *kind);
+    }
     const auto boxes = readTopLevelBoxes(source);
     if (!boxes) {
         return unreadable();

@@ -1,7 +1,9 @@
 #include "PhotoRows.h"
 
+#include "OverlayComposer.h"
 #include "Pipeline.h"
-#include "TileRows.h"
+#include "PlainFileReader.h"
+#include "ReducedRows.h"
 
 namespace imageworker {
 
@@ -61,12 +63,9 @@ Result<AlphaPlane> decodeAlpha(const Source &source, const Picture &picture, int
     return plane;
 }
 
-Result<std::unique_ptr<RowSource>> openPicture(const Source &source, const Picture &picture, int workers)
+Result<std::unique_ptr<TileRows>> openGrid(const Source &source, const Picture &picture, const TileGrid &grid,
+                                           int workers)
 {
-    const auto *grid = std::get_if<TileGrid>(&picture.content);
-    if (grid == nullptr) {
-        return unreadable();
-    }
     AlphaPlane alpha;
     if (picture.alpha != nullptr) {
         auto decoded = decodeAlpha(source, *picture.alpha, workers);
@@ -76,15 +75,70 @@ Result<std::unique_ptr<RowSource>> openPicture(const Source &source, const Pictu
         alpha = std::move(*decoded);
         alpha.premultiplied = picture.premultiplied;
     }
-    return TileRows::create(source, *grid, picture.upright, picture.colour, std::move(alpha), workers);
+    return TileRows::create(source, grid, picture.upright, picture.colour, std::move(alpha), workers);
+}
+
+Result<std::unique_ptr<RowSource>> openPicture(const Source &source, const Picture &picture, int workers)
+{
+    if (const auto *grid = std::get_if<TileGrid>(&picture.content)) {
+        return openGrid(source, picture, *grid, workers);
+    }
+    const auto decode = [&source, workers](const Picture &layer) -> Result<Raster> {
+        const auto rows = openPicture(source, layer, workers);
+        if (!rows) {
+            return unreadable();
+        }
+        RasterWriter writer((*rows)->size());
+        if (!runPipeline(**rows, writer, workers)) {
+            return unreadable();
+        }
+        return writer.take();
+    };
+    auto canvas = composeOverlay(std::get<Overlay>(picture.content), decode);
+    if (!canvas) {
+        return unreadable();
+    }
+    return std::make_unique<RasterRows>(std::move(*canvas), picture.upright);
+}
+
+Result<std::unique_ptr<RowSource>> openPlain(const Source &source, const PlainFile &file, int smallestSide)
+{
+    auto raster = decodePlainFile(source, file, smallestSide);
+    if (!raster) {
+        return unreadable();
+    }
+    Upright upright(raster->size);
+    upright.turnLike(file.upright);
+    return std::make_unique<RasterRows>(std::move(*raster), upright);
 }
 
 } // namespace
 
 Result<std::unique_ptr<RowSource>> openRows(const Source &source, const Photo &photo, int workers)
 {
-    const auto *picture = std::get_if<Picture>(&photo.picture);
-    return picture == nullptr ? unreadable() : openPicture(source, *picture, workers);
+    if (const auto *file = std::get_if<PlainFile>(&photo.picture)) {
+        return openPlain(source, *file, 0);
+    }
+    return openPicture(source, std::get<Picture>(photo.picture), workers);
+}
+
+Result<std::unique_ptr<RowSource>> openReducedRows(const Source &source, const Photo &photo, int workers,
+                                                   int smallestSide)
+{
+    if (const auto *file = std::get_if<PlainFile>(&photo.picture)) {
+        return openPlain(source, *file, smallestSide);
+    }
+    const auto &picture = std::get<Picture>(photo.picture);
+    const auto *grid = std::get_if<TileGrid>(&picture.content);
+    if (grid == nullptr) {
+        return openPicture(source, picture, workers);
+    }
+    auto rows = openGrid(source, picture, *grid, workers);
+    if (!rows) {
+        return unreadable();
+    }
+    const int factor = ReducedRows::factorFor(**rows, smallestSide);
+    return std::make_unique<ReducedRows>(std::move(*rows), factor);
 }
 
 } // namespace imageworker

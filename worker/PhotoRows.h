@@ -13,4 +13,9 @@ namespace imageworker {
 /// outlive the result.
 Result<std::unique_ptr<RowSource>> openRows(const Source &source, const Photo &photo, int workers);
 
+/// The same, but where it saves work in a picture made smaller by a whole number: its longer side is at least
+/// @p smallestSide, unless the photo itself has less.
+Result<std::unique_ptr<RowSource>> openReducedRows(const Source &source, const Photo &photo, int workers,
+                                                   int smallestSide);
+
 } // namespace imageworker

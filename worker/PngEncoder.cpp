@@ -85,7 +85,7 @@ public:
             stream.next_out = output.data() + length;
             stream.avail_out = Step;
             isal_deflate(&stream);
-            output.resize(output.size() - stream.avail_out);
+            output.erase(output.end() - stream.avail_out, output.end());
         } while (stream.avail_out == 0);
     }
 

@@ -29,8 +29,8 @@ LUMAPORT_VECTORISED void subtractPaeth(const std::uint8_t *__restrict row,
         const auto upDistance = static_cast<std::int16_t>(toUp < 0 ? -toUp : toUp);
         const auto cornerDistance = static_cast<std::int16_t>(toCorner < 0 ? -toCorner : toCorner);
         const std::int16_t upOrCorner = upDistance <= cornerDistance ? up : corner;
-        const std::int16_t nearest =
-            (leftDistance <= upDistance) & (leftDistance <= cornerDistance) ? left : upOrCorner;
+        const bool isLeft = (leftDistance <= upDistance) & (leftDistance <= cornerDistance);
+        const std::int16_t nearest = isLeft ? left : upOrCorner;
         filtered[index] = static_cast<std::uint8_t>(row[index] - nearest);
     }
 }

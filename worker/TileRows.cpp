@@ -192,14 +192,13 @@ void TileRows::readRow(int strip, int y, std::uint8_t *rgba) const
     m_conversion->convert(row, codes);
     m_stage->convert(codes, rgba);
     if (!m_alpha.samples.empty()) {
-        applyAlpha(y, rgba);
+        const auto width = static_cast<std::size_t>(m_size.width);
+        applyAlpha(m_alpha.samples.data() + static_cast<std::size_t>(y) * width, width, rgba);
     }
 }
 
-void TileRows::applyAlpha(int y, std::uint8_t *rgba) const
+void TileRows::applyAlpha(const std::uint8_t *opacities, std::size_t width, std::uint8_t *rgba) const
 {
-    const auto width = static_cast<std::size_t>(m_size.width);
-    const std::uint8_t *opacities = m_alpha.samples.data() + static_cast<std::size_t>(y) * width;
     for (std::size_t x = 0; x < width; ++x) {
         const unsigned opacity = opacities[x];
         std::uint8_t *pixel = rgba + 4 * x;

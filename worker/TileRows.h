@@ -36,9 +36,9 @@ public:
     Result<void> decodeTile(int worker, int strip, int index) override;
     void readRow(int strip, int y, std::uint8_t *rgba) const override;
 
-    /// Whether the opacity could vary, or colours be finer than one for each four pixels; known once a tile
-    /// is decoded.
-    const SampleFormat &format() const { return m_format; }
+    /// Writes row @p y of the picture made smaller by @p factor: the mean of each square of that side. The
+    /// square's rows must all belong to @p strip, except beyond the picture's lower edge.
+    void readReducedRow(int strip, int y, int factor, std::uint8_t *rgba) const;
 
 private:
     static constexpr int Capacity = 2;
@@ -62,7 +62,9 @@ private:
     bool accept(const SampleFormat &format);
     void prepare(const SampleFormat &format);
     PlaneView slotPlane(int strip, std::size_t plane, PixelRectangle shown);
-    void applyAlpha(int y, std::uint8_t *rgba) const;
+    template<typename Sample>
+    void averagePlanes(int strip, int y, int factor, std::array<std::vector<Sample>, 3> &means) const;
+    void applyAlpha(const std::uint8_t *opacities, std::size_t width, std::uint8_t *rgba) const;
 
     const Source &m_source;
     const TileGrid &m_grid;

@@ -53,6 +53,9 @@ public:
     /// Adds what an Exif orientation of 1 to 8 asks for; other values ask for nothing.
     void applyExifOrientation(unsigned orientation);
 
+    /// Turns an uncropped picture as @p other turns one of another size.
+    void turnLike(const Upright &other) { m_turn = other.m_turn; }
+
     /// Where the stored rectangle @p stored, which lies inside crop(), is shown.
     PixelRectangle shown(PixelRectangle stored) const;
 

@@ -1,7 +1,5 @@
 #include "MonitoringControlController.h"
 
-#include "AppModel.h"
-
 void MonitoringControlController::setModel(AppModel *model)
 {
     if (m_model == model) {

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "AppModel.h"
+
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
-
-class AppModel;
 
 /// What the card of the watching state shows beyond the model's own texts, and what its button does.
 class MonitoringControlController : public QObject

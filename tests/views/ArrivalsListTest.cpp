@@ -9,7 +9,7 @@ namespace {
 
 ConversionItem photo(const QString &name, ConversionStatus status = ConversionStatus::queued)
 {
-    ConversionItem item = ConversionItem::queuedFor(QUrl::fromLocalFile(u"/photos/" + name), {});
+    ConversionItem item = ConversionItem::queuedFor(QUrl::fromLocalFile(QStringLiteral("/photos/") + name), {});
     item.status = status;
     return item;
 }

@@ -1,0 +1,71 @@
+// decode SOURCE: decodes every tile of a photo on all processors and throws the pictures away: the floor
+// under any conversion.
+
+#include "CodecConfiguration.h"
+#include "ItemData.h"
+#include "PhotoReader.h"
+#include "Pipeline.h"
+#include "TileDecoder.h"
+
+#include <atomic>
+#include <cstdlib>
+#include <fcntl.h>
+#include <thread>
+
+namespace {
+
+using namespace imageworker;
+
+class TileQueue
+{
+public:
+    TileQueue(const Source &source, const TileGrid &grid)
+        : m_source(source)
+        , m_grid(grid)
+    {}
+
+    void decodeUntilEmpty()
+    {
+        std::unique_ptr<TileDecoder> decoder;
+        for (std::size_t index = m_next++; index < m_grid.tiles.size(); index = m_next++) {
+            const CodedPicture &tile = m_grid.tiles[index];
+            if (!decoder || !decoder->suits(tile)) {
+                decoder = TileDecoder::create(tile);
+            }
+            const auto bytes = readAll(m_source, tile.data);
+            if (!decoder || !bytes || !decoder->decode(*bytes, m_grid.tile)) {
+                m_hasFailed = true;
+            }
+        }
+    }
+    bool hasFailed() const { return m_hasFailed; }
+
+private:
+    const Source &m_source;
+    const TileGrid &m_grid;
+    std::atomic<std::size_t> m_next = 0;
+    std::atomic<bool> m_hasFailed = false;
+};
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    const int descriptor =
+        argumentCount == 2 && loadDecoders() ? ::open(arguments[1], O_RDONLY | O_CLOEXEC) : -1;
+    const auto source = sourceOfFile(descriptor);
+    const auto photo = source ? readPhoto(*source) : unreadable();
+    const auto *picture = photo ? std::get_if<Picture>(&photo->picture) : nullptr;
+    const auto *grid = picture != nullptr ? std::get_if<TileGrid>(&picture->content) : nullptr;
+    if (grid == nullptr) {
+        return EXIT_FAILURE;
+    }
+    TileQueue queue(*source, *grid);
+    {
+        std::vector<std::jthread> threads;
+        for (int worker = 0; worker < availableWorkers(); ++worker) {
+            threads.emplace_back([&queue] { queue.decodeUntilEmpty(); });
+        }
+    }
+    return queue.hasFailed() ? EXIT_FAILURE : EXIT_SUCCESS;
+}

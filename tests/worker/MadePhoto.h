@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Raster.h"
+
+#include <optional>
+
+namespace imageworker {
+
+/// What a photo is made of when a test makes one.
+struct PhotoRecipe
+{
+    enum class Chroma { Quarter, Full, None };
+
+    PixelSize size{96, 64};
+    Chroma chroma = Chroma::Quarter;
+    bool hasAlpha = false;
+    unsigned orientation = 1; ///< as for Exif; written into the container
+    Bytes iccProfile;
+    Bytes exif; ///< from the TIFF header on
+};
+
+/// A smooth picture with a different colour in each corner, so that turns and mirrors show.
+Raster cornerColours(PixelSize size, bool hasAlpha);
+
+/// The bytes of a HEIC file with cornerColours(), written by an encoder that is not this project's.
+Bytes makePhoto(const PhotoRecipe &recipe);
+
+/// How the independent decoder shows it; nothing when it cannot.
+std::optional<Raster> decodeIndependently(const Bytes &photo);
+
+/// The pixels of a PNG by libpng; nothing when it refuses it.
+std::optional<Raster> readPng(const Bytes &file);
+
+} // namespace imageworker

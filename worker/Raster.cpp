@@ -1,0 +1,35 @@
+#include "Raster.h"
+
+#include <cstring>
+
+namespace imageworker {
+
+Result<void> RasterWriter::encodeChunk(int, int top, int height, const RowReader &readRow)
+{
+    for (int y = top; y < top + height; ++y) {
+        readRow(y, m_raster.row(y));
+    }
+    return {};
+}
+
+RasterRows::RasterRows(Raster raster, const Upright &upright)
+    : m_raster(std::move(raster))
+    , m_upright(upright)
+    , m_strips{{0, upright.size().height, 0}}
+{}
+
+void RasterRows::readRow(int, int y, std::uint8_t *rgba) const
+{
+    const PixelRectangle crop = m_upright.crop();
+    const Turn turn = m_upright.turn();
+    const int width = m_upright.size().width;
+    for (int x = 0; x < width; ++x) {
+        const int u = turn.transposed ? y : x;
+        const int v = turn.transposed ? x : y;
+        const int storedX = crop.x + (turn.mirroredX ? crop.width - 1 - u : u);
+        const int storedY = crop.y + (turn.mirroredY ? crop.height - 1 - v : v);
+        std::memcpy(rgba + std::ptrdiff_t{4} * x, m_raster.row(storedY) + std::ptrdiff_t{4} * storedX, 4);
+    }
+}
+
+} // namespace imageworker

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "RowEncoder.h"
+#include "RowSource.h"
+#include "Upright.h"
+
+namespace imageworker {
+
+/// A whole picture in memory: sRGB, four bytes for each pixel (red, green, blue, opacity), row by row.
+struct Raster
+{
+    explicit Raster(PixelSize pixels = {})
+        : size(pixels)
+        , rgba(static_cast<std::size_t>(pixels.width) * static_cast<std::size_t>(pixels.height) * 4)
+    {}
+
+    std::uint8_t *row(int y) { return rgba.data() + rowLength() * static_cast<std::size_t>(y); }
+    const std::uint8_t *row(int y) const { return rgba.data() + rowLength() * static_cast<std::size_t>(y); }
+    std::size_t rowLength() const { return static_cast<std::size_t>(size.width) * 4; }
+
+    PixelSize size;
+    Bytes rgba;
+};
+
+/// Fills a raster with what would else be encoded.
+class RasterWriter : public RowEncoder
+{
+public:
+    explicit RasterWriter(PixelSize size)
+        : m_raster(size)
+    {}
+
+    Order order() const override { return Order::AtOnce; }
+    int chunkHeight() const override { return 64; }
+    Result<void> begin() override { return {}; }
+    Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override;
+    Result<void> finish() override { return {}; }
+
+    Raster take() { return std::move(m_raster); }
+
+private:
+    Raster m_raster;
+};
+
+/// The rows of a raster, turned upright.
+class RasterRows : public RowSource
+{
+public:
+    RasterRows(Raster raster, const Upright &upright);
+
+    PixelSize size() const override { return m_upright.size(); }
+    const std::vector<Strip> &strips() const override { return m_strips; }
+    int capacity() const override { return 1; }
+    Result<void> decodeTile(int, int, int) override { return {}; }
+    void readRow(int strip, int y, std::uint8_t *rgba) const override;
+
+private:
+    Raster m_raster;
+    Upright m_upright;
+    std::vector<Strip> m_strips;
+};
+
+} // namespace imageworker

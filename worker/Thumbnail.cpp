@@ -1,0 +1,51 @@
+#include "Thumbnail.h"
+
+#include "AreaAverager.h"
+#include "PhotoRows.h"
+#include "Pipeline.h"
+#include "PngEncoder.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace imageworker {
+
+namespace {
+
+PixelSize sizeWithin(PixelSize size, int maximumSide)
+{
+    const int longest = std::max(size.width, size.height);
+    if (longest <= maximumSide) {
+        return size;
+    }
+    const double scale = static_cast<double>(maximumSide) / longest;
+    const auto scaled = [scale](int side) {
+        return std::max(1, static_cast<int>(std::lround(side * scale)));
+    };
+    return {scaled(size.width), scaled(size.height)};
+}
+
+} // namespace
+
+Result<void> writeThumbnail(const Source &source, const Photo &photo, int output, int maximumSide)
+{
+    if (maximumSide < 1) {
+        return unreadable();
+    }
+    const int workers = availableWorkers();
+    const auto rows = openReducedRows(source, photo, workers, 2 * maximumSide);
+    if (!rows) {
+        return unreadable();
+    }
+    const PixelSize size = sizeWithin(photo.uprightSize(), maximumSide);
+    AreaAverager averager((*rows)->size(), size);
+    if (!runPipeline(**rows, averager, workers)) {
+        return unreadable();
+    }
+    OutputFile file(output);
+    const auto encoder = makePngEncoder(file, size, CopyMetadata());
+    RasterRows small(averager.take(), Upright(size));
+    return runPipeline(small, *encoder, 1);
+}
+
+} // namespace imageworker
