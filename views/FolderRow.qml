@@ -1,5 +1,6 @@
 import QtQuick
 import Lumaport.Interaction
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // The watched folder, which a click opens, and whether photos are being converted.

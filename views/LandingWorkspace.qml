@@ -1,5 +1,6 @@
 import QtQuick
 import Lumaport.Interaction
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // The "AirDrop" workspace: where photos land. All of it takes dropped files; the stage is a button that asks for photos.

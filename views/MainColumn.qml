@@ -1,5 +1,6 @@
 import QtQuick
 import Lumaport.Interaction
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // What scrolls in the main window: the watching state, the tabs, the workspace of the selected tab, the footer.

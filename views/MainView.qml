@@ -1,6 +1,8 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Controls.Basic
-import Lumaport.Interaction
+import Lumaport.Views
 import Lumaport.Vocabulary
 import Lumaport.Welcome
 

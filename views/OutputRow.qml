@@ -1,5 +1,6 @@
 import QtQuick
 import Lumaport.Interaction
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // What photos become, and where the copies go.

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // One printed photo on the stage, with its caption.

@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // An open folder with up to three photos above it and a badge on its front. Designed at 330 x 222 points; all places are

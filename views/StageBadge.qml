@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // The round badge on the folder's front; each of its faces fades into the next.

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import Lumaport.Interaction
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // The bar along the top of the main window.

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Views
 import Lumaport.Vocabulary
 
 // The two tabs, with a highlight that slides to the selected one, and how many photos are ready.

@@ -1,5 +1,4 @@
 import QtQuick
-import Lumaport.Interaction
 import Lumaport.Vocabulary
 
 // One tab of the workspaces: chosen with the pointer, with Space or Return, through the assistive interface, or with the

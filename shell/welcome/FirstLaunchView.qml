@@ -1,7 +1,7 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import Lumaport.Interaction
 import Lumaport.Vocabulary
+import Lumaport.Welcome
 
 // The welcome itself: the signature, the title and the button that ends it. It is white on whatever lies behind it; a
 // dark backdrop of its own is there for where nothing can show through.

@@ -1,4 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
+import Lumaport.Welcome
 
 // Shows the welcome while `isPresenting`; `finished` comes when the user ends it.
 PresentationView {

@@ -27,10 +27,10 @@ protected:
         if (event->buttons() != Qt::LeftButton) {
             return;
         }
-        auto *data = new QMimeData;
-        data->setUrls(m_urls);
+        auto *files = new QMimeData;
+        files->setUrls(m_urls);
         auto *drag = new QDrag(this);
-        drag->setMimeData(data);
+        drag->setMimeData(files);
         drag->exec(Qt::CopyAction);
     }
 
