@@ -12,12 +12,12 @@ std::unique_ptr<QQuickWindow> createWindow(QQmlEngine &engine, const QVariantMap
 {
     QQmlComponent component(
         &engine, QUrl(QStringLiteral("qrc:/qt-project.org/imports/Lumaport/Shell/MainWindow.qml")));
-    auto *window = qobject_cast<QQuickWindow *>(component.createWithInitialProperties(initialProperties));
-    if (window == nullptr) {
+    if (!component.isReady()) {
         // The file is part of the program: no user can mend this.
         qFatal("%s", qUtf8Printable(component.errorString()));
     }
-    return std::unique_ptr<QQuickWindow>(window);
+    return std::unique_ptr<QQuickWindow>(
+        qobject_cast<QQuickWindow *>(component.createWithInitialProperties(initialProperties)));
 }
 
 } // namespace
