@@ -57,23 +57,23 @@ Item {
         WorkspaceTab {
             id: airDrop
 
+            KeyNavigation.right: recentPhotos
             objectName: "airDropTab"
             selected: !navigation.controller.showingHistory
             symbol: "tray.and.arrow.down"
             text: qsTr("AirDrop")
             onClicked: navigation.controller.showingHistory = false
-            onMoved: recentPhotos.take()
         }
 
         WorkspaceTab {
             id: recentPhotos
 
+            KeyNavigation.left: airDrop
             objectName: "recentPhotosTab"
             selected: navigation.controller.showingHistory
             symbol: "photo.stack"
             text: qsTr("Recent photos")
             onClicked: navigation.controller.showingHistory = true
-            onMoved: airDrop.take()
         }
     }
 

@@ -1,8 +1,8 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// One tab of the workspaces: chosen with the pointer, with Space or Return, through the assistive interface, or with the
-// arrows from the other one.
+// One tab of the workspaces: chosen with the pointer, through the assistive interface, or by giving it the keyboard's
+// focus. The Tab key stops at the chosen one; the arrows lead from it to the other.
 Item {
     id: tab
 
@@ -11,12 +11,6 @@ Item {
     property bool selected: false
 
     signal clicked
-    signal moved
-
-    function take() {
-        forceActiveFocus(Qt.TabFocusReason)
-        clicked()
-    }
 
     Accessible.focusable: true
     Accessible.name: text
@@ -25,13 +19,12 @@ Item {
     Accessible.selected: selected
     Accessible.onPressAction: tab.clicked()
     Keys.onEnterPressed: tab.clicked()
-    Keys.onLeftPressed: tab.moved()
     Keys.onReturnPressed: tab.clicked()
-    Keys.onRightPressed: tab.moved()
     Keys.onSpacePressed: tab.clicked()
-    activeFocusOnTab: true
+    activeFocusOnTab: selected
     implicitHeight: label.implicitHeight + 20
     implicitWidth: label.implicitWidth + 30
+    onActiveFocusChanged: activeFocus ? tab.clicked() : undefined
 
     SymbolLabel {
         id: label

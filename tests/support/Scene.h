@@ -28,7 +28,9 @@ public:
         });
         QQmlComponent component(&engine);
         component.setData(qml, QUrl(QStringLiteral("qrc:/scene.qml")));
-        m_item.reset(qobject_cast<QQuickItem *>(component.createWithInitialProperties(properties)));
+        if (component.isReady()) {
+            m_item.reset(qobject_cast<QQuickItem *>(component.createWithInitialProperties(properties)));
+        }
         if (!m_item) {
             qFatal("%s", qPrintable(component.errorString()));
         }
