@@ -29,7 +29,7 @@ T.Control {
     Keys.onEnterPressed: button.clicked()
     Keys.onReturnPressed: button.clicked()
     Keys.onSpacePressed: button.clicked()
-    activeFocusOnTab: selected
+    activeFocusOnTab: selected || activeFocus
     font.pixelSize: segment.symbol === "" ? 11 : 12
     font.weight: segment.symbol === "" ? Font.DemiBold : Font.Medium
     hoverEnabled: true
@@ -64,9 +64,9 @@ T.Control {
 
     InteractionFeedback {}
 
-    TapHandler {
-        gesturePolicy: TapHandler.ReleaseWithinBounds
-        onTapped: button.clicked()
+    MouseArea {
+        anchors.fill: parent
+        onClicked: button.clicked()
     }
 
     FocusRing {
