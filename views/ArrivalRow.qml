@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import Lumaport.Views
 import Lumaport.Vocabulary
 
@@ -24,64 +23,72 @@ Item {
 
     Accessible.name: displayName
     Accessible.role: Accessible.ListItem
-    implicitHeight: content.implicitHeight + 20
+    implicitHeight: Math.max(thumbnail.height, texts.implicitHeight, action.implicitHeight) + 20
 
-    RowLayout {
-        id: content
+    PhotoThumbnail {
+        id: thumbnail
 
         anchors.left: parent.left
+        anchors.verticalCenter: parent.verticalCenter
+        cornerRadius: 11
+        height: 52
+        objectName: "thumbnail"
+        url: row.displayFile
+        width: 52
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            anchors.margins: -4
+            anchors.right: parent.right
+            color: LumaportPalette.panel
+            height: 20
+            radius: 10
+            width: 20
+
+            Symbol {
+                anchors.centerIn: parent
+                color: row.stateColor
+                name: row.statusSymbol
+                objectName: "badge"
+                pointSize: 9
+            }
+        }
+    }
+
+    Column {
+        id: texts
+
+        anchors.left: thumbnail.right
+        anchors.leftMargin: 12
+        anchors.right: action.left
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 4
+
+        BodyText {
+            elide: Text.ElideMiddle
+            font.weight: Font.Medium
+            maximumLineCount: 1
+            objectName: "name"
+            text: row.displayName
+            width: parent.width
+        }
+
+        BodyText {
+            color: row.isFailed ? LumaportPalette.photon : LumaportPalette.muted
+            objectName: "status"
+            size: 11
+            text: row.statusText
+            width: parent.width
+            wrapMode: Text.Wrap
+        }
+    }
+
+    Row {
+        id: action
+
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
-        spacing: 12
-
-        PhotoThumbnail {
-            Layout.preferredHeight: 52
-            Layout.preferredWidth: 52
-            cornerRadius: 11
-            objectName: "thumbnail"
-            url: row.displayFile
-
-            Rectangle {
-                anchors.bottom: parent.bottom
-                anchors.margins: -4
-                anchors.right: parent.right
-                color: LumaportPalette.panel
-                height: 20
-                radius: 10
-                width: 20
-
-                Symbol {
-                    anchors.centerIn: parent
-                    color: row.stateColor
-                    name: row.statusSymbol
-                    objectName: "badge"
-                    pointSize: 9
-                }
-            }
-        }
-
-        ColumnLayout {
-            Layout.fillWidth: true
-            spacing: 4
-
-            BodyText {
-                Layout.fillWidth: true
-                elide: Text.ElideMiddle
-                font.weight: Font.Medium
-                maximumLineCount: 1
-                objectName: "name"
-                text: row.displayName
-            }
-
-            BodyText {
-                Layout.fillWidth: true
-                color: row.isFailed ? LumaportPalette.photon : LumaportPalette.muted
-                objectName: "status"
-                size: 11
-                text: row.statusText
-                wrapMode: Text.Wrap
-            }
-        }
 
         QuietButton {
             display: QuietButton.IconOnly

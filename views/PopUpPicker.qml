@@ -11,13 +11,20 @@ T.ComboBox {
 
     required property string name
 
+    function opensBy(key: int): bool {
+        const opens = key === Qt.Key_Return || key === Qt.Key_Enter;
+        if (opens) {
+            popup.open();
+        }
+        return opens;
+    }
+
     Accessible.description: displayText
     Accessible.name: name
     Accessible.onPressAction: picker.popup.open()
-    // With its menu open the keys choose.
+    // With its menu open the keys choose. It opens as the key is let go, for letting go would close it again.
     Keys.enabled: !popup.visible
-    Keys.onEnterPressed: picker.popup.open()
-    Keys.onReturnPressed: picker.popup.open()
+    Keys.onReleased: event => event.accepted = picker.opensBy(event.key)
     font.pixelSize: 12
     implicitHeight: 30
     leftPadding: 10

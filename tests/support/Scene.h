@@ -52,7 +52,11 @@ public:
     {
         return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
     }
-    void click(const QQuickItem *item) { QTest::mouseClick(&window, Qt::LeftButton, {}, centre(item)); }
+    void click(const QQuickItem *item)
+    {
+        window.grabWindow(); // rows that were just made are laid out with the next frame
+        QTest::mouseClick(&window, Qt::LeftButton, {}, centre(item));
+    }
     void hover(const QQuickItem *item) { QTest::mouseMove(&window, centre(item)); }
     void press(Qt::Key key) { QTest::keyClick(&window, key); }
 

@@ -89,7 +89,8 @@ private Q_SLOTS:
                    "100; variant: 1 }");
         QQuickItem *thumbnail = scene.find(QStringLiteral("thumbnail"));
         const QImage without = scene.window.grabWindow();
-        QCOMPARE(without.pixelColor(1, 1), QColor::fromRgbF(1.0F, 0.79F, 0.59F)); // odd: warm
+        const QColor corner = without.pixelColor(1, 1); // odd: warm, from (1, 0.79, 0.59)
+        QVERIFY(corner.red() == 255 && qAbs(corner.green() - 201) <= 2 && qAbs(corner.blue() - 150) <= 2);
         QVERIFY(without.pixelColor(50, 60).blue() > 200); // the mountains, nearly white
         thumbnail->setProperty("url",
                                scene.item(QStringLiteral("x.heic"), ConversionStatus::queued, "?").sourceURL);
