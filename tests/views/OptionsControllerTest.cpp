@@ -79,5 +79,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(OptionsControllerTest)
+QTEST_MAIN(OptionsControllerTest)
 #include "OptionsControllerTest.moc"
