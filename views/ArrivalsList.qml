@@ -26,6 +26,7 @@ ColumnLayout {
             font.weight: Font.DemiBold
             size: 14
             text: qsTr("Recent arrivals")
+            wrapMode: Text.Wrap
         }
 
         BodyText {
