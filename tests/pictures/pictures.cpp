@@ -144,7 +144,10 @@ QImage rendered(const Picture &picture, SystemAppearance::ColorScheme scheme)
     const qsizetype thumbnails = scene.find(QStringLiteral("thumbnail")) ? scene.model.items().size() : 0;
     (void)QTest::qWaitFor([&] { return scene.photos->launched >= thumbnails && scene.photos->running == 0; });
     QCoreApplication::processEvents();
-    return scene.window.grabWindow();
+    QImage image = scene.window.grabWindow();
+    image.setDevicePixelRatio(
+        scene.window.effectiveDevicePixelRatio()); // the software renderer leaves it out
+    return image;
 }
 
 } // namespace
