@@ -13,7 +13,7 @@ constexpr int maximumCount = 24;
 // thumbnails.
 constexpr int maximumReaders = 2;
 
-ThumbnailStore *s_replacement = nullptr;
+ThumbnailStore *replacement = nullptr;
 
 QByteArray readThumbnail(ImageWorkerLauncher &launcher, const QUrl &url)
 {
@@ -49,15 +49,15 @@ ThumbnailStore::~ThumbnailStore()
     m_readers.clear();
     m_launcher->endAll();
     m_readers.waitForDone();
-    if (s_replacement == this) {
-        s_replacement = nullptr;
+    if (replacement == this) {
+        replacement = nullptr;
     }
 }
 
 ThumbnailStore &ThumbnailStore::shared()
 {
-    if (s_replacement) {
-        return *s_replacement;
+    if (replacement) {
+        return *replacement;
     }
     static ThumbnailStore store(ImageWorkerLauncher::create());
     return store;
@@ -65,7 +65,7 @@ ThumbnailStore &ThumbnailStore::shared()
 
 void ThumbnailStore::setShared(ThumbnailStore *store)
 {
-    s_replacement = store;
+    replacement = store;
 }
 
 std::unique_ptr<ThumbnailRequest> ThumbnailStore::image(const QUrl &url, ThumbnailRequest::Answer answer)

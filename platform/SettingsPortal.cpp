@@ -77,9 +77,9 @@ void SettingsPortal::settingChanged(const QDBusMessage &message)
     }
 }
 
-void SettingsPortal::take(const QString &group, const QString &key, const QVariant &wrapped)
+void SettingsPortal::take(const QString &group, const QString &key, const QVariant &wrappedValue)
 {
-    const QVariant value = unwrapped(wrapped);
+    const QVariant value = unwrapped(wrappedValue);
     if (group == appearanceGroup && key == colorSchemeKey) {
         m_appearance.setSystemScheme(value.toUInt() == prefersDark ? SystemAppearance::ColorScheme::Dark
                                                                    : SystemAppearance::ColorScheme::Light);

@@ -28,7 +28,7 @@ private Q_SLOTS:
 private:
     void readAll();
     void read(const QString &group, const QString &key);
-    void take(const QString &group, const QString &key, const QVariant &value);
+    void take(const QString &group, const QString &key, const QVariant &wrappedValue);
 
     QDBusConnection m_bus;
     SystemAppearance &m_appearance;

@@ -9,7 +9,8 @@ namespace {
 
 ConversionItem photo(const QString &name, ConversionStatus status = ConversionStatus::queued)
 {
-    ConversionItem item = ConversionItem::queuedFor(QUrl::fromLocalFile(QStringLiteral("/photos/") + name), {});
+    ConversionItem item =
+        ConversionItem::queuedFor(QUrl::fromLocalFile(QStringLiteral("/photos/") + name), {});
     item.status = status;
     return item;
 }
