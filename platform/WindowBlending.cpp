@@ -43,5 +43,5 @@ bool isOwned(xcb_connection_t *connection, const QByteArray &selection)
 bool WindowBlending::isAvailable()
 {
     const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 && isOwned(x11->connection(), selectionName());
+    return x11 && x11->connection() && isOwned(x11->connection(), selectionName());
 }

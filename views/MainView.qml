@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import QtQuick.Controls.Basic
 import Lumaport.Views
@@ -82,19 +80,16 @@ Item {
                 }
             }
 
-            Loader {
+            OptionsPanel {
                 id: options
 
-                active: view.optionsShown > 0
                 height: parent.height
+                objectName: "optionsPanel"
                 opacity: view.optionsShown
+                visible: view.optionsShown > 0
                 width: 258
                 x: parent.width - width * view.optionsShown
-
-                sourceComponent: OptionsPanel {
-                    objectName: "optionsPanel"
-                    onCloseRequested: view.controller.optionsVisible = false
-                }
+                onCloseRequested: view.controller.optionsVisible = false
             }
         }
 

@@ -21,7 +21,7 @@ Item {
     Keys.onEnterPressed: tab.clicked()
     Keys.onReturnPressed: tab.clicked()
     Keys.onSpacePressed: tab.clicked()
-    activeFocusOnTab: selected
+    activeFocusOnTab: selected || activeFocus
     implicitHeight: label.implicitHeight + 20
     implicitWidth: label.implicitWidth + 30
     onActiveFocusChanged: activeFocus ? tab.clicked() : undefined
