@@ -54,5 +54,6 @@ void DesktopStatusItem::setMenu(const QList<StatusMenuEntry> &entries)
 
 std::optional<QRect> DesktopStatusItem::place() const
 {
-    return m_fallback ? m_fallback->place() : m_notifierItem->place();
+    const auto inTray = m_fallback ? m_fallback->place() : std::nullopt;
+    return inTray ? inTray : m_notifierItem->place();
 }

@@ -21,7 +21,8 @@ std::optional<WindowFrame> WindowFrame::fromText(const QString &text)
     }
     WindowFrame frame;
     if (numbers.size() == 4) {
-        frame.origin = QPoint(numbers.takeFirst(), numbers.takeFirst());
+        frame.origin = QPoint(numbers.at(0), numbers.at(1));
+        numbers.remove(0, 2);
     }
     if (numbers.size() != 2 || numbers.at(0) <= 0 || numbers.at(1) <= 0) {
         return std::nullopt;

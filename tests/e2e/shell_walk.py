@@ -18,7 +18,7 @@ WATCHER = "org.kde.StatusNotifierWatcher"
 PROPERTIES = "org.freedesktop.DBus.Properties"
 NAME = "io.lumaport.Lumaport"
 MAIN = "^Lumaport$"
-PANEL = "^Lumaport Quick Panel$"
+PANEL = "^Lumaport Quick Panel"
 
 
 def run(*command):
@@ -131,6 +131,8 @@ class Shell(Application):
     def __enter__(self):
         super().__enter__()
         self.window = one_window(MAIN)
+        # The last of its start: from here on it hears keys.
+        wait_until(lambda: dbus.SessionBus().name_has_owner(f"{ITEM}-{self.process.pid}-1"), "the status item")
         return self
 
     def __exit__(self, kind, *rest):

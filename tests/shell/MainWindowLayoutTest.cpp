@@ -26,6 +26,13 @@ struct LayoutFixture
     MainWindowLayout layout{defaults};
 };
 
+/// As a user does: the frame's corner, and the size of what is in it.
+void moveFrame(QWindow &window, const QPoint &corner, const QSize &contentSize)
+{
+    window.setFramePosition(corner);
+    window.resize(contentSize);
+}
+
 QRect availableArea()
 {
     return QGuiApplication::primaryScreen()->availableGeometry();
@@ -122,8 +129,9 @@ private Q_SLOTS:
         QCOMPARE(window.framePosition(), area.topLeft() + QPoint(30, 40));
 
         fixture.layout.apply(window, MainWindowLayout::SavedFrame::ignore);
-        QCOMPARE(QRect(window.framePosition(), window.size()),
-                 MainWindowLayout::place(area, MainWindowLayout::recommendedContentSize, {}));
+        QCOMPARE(window.frameGeometry(),
+                 MainWindowLayout::place(
+                     area, MainWindowLayout::recommendedContentSize.grownBy(window.frameMargins()), {}));
     }
 
     void shouldLeaveAFullScreenWindowAlone()
@@ -135,7 +143,7 @@ private Q_SLOTS:
         window.setWindowState(Qt::WindowFullScreen);
         fixture.layout.apply(window, MainWindowLayout::SavedFrame::ignore);
         QCOMPARE(window.geometry(), before);
-        window.show();
+        window.setVisible(true); // show() would leave the full screen
         fixture.layout.save(window);
         QVERIFY(!fixture.savedText());
     }
@@ -153,7 +161,7 @@ private Q_SLOTS:
 
         const QPoint corner = availableArea().topLeft() + QPoint(25, 26);
         for (const int width : {510, 520, 530}) {
-            window.setGeometry(QRect(corner, QSize(width, 410)));
+            moveFrame(window, corner, QSize(width, 410));
             QCoreApplication::processEvents();
         }
         QCOMPARE(jobs->waitingJobs(), 1);
@@ -175,7 +183,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(&window));
         QCoreApplication::processEvents();
         const QPoint corner = availableArea().topLeft() + QPoint(33, 34);
-        window.setGeometry(QRect(corner, QSize(444, 333)));
+        moveFrame(window, corner, QSize(444, 333));
         QCoreApplication::processEvents();
         window.close();
         QCOMPARE(fixture.savedText(),
