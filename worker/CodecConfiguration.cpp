@@ -70,7 +70,8 @@ bool hasSoundUnits(const CodedPicture &picture, std::span<const std::uint8_t> by
             return false;
         }
         const auto unit = reader.take(length);
-        if (unit.empty() || unit.back() == 0) { // no unit ends so (ITU-T H.265 and H.264, 7.4.1): it never arrived
+        if (unit.empty() ||
+            unit.back() == 0) { // no unit ends so (ITU-T H.265 and H.264, 7.4.1): it never arrived
             return false;
         }
     } while (!reader.atEnd() && !reader.failed());

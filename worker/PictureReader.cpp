@@ -4,6 +4,7 @@
 #include "CodecConfiguration.h"
 #include "ItemData.h"
 #include "PictureProperties.h"
+#include "TileDecoder.h"
 
 #include <algorithm>
 
@@ -14,6 +15,16 @@ namespace {
 constexpr int MaximumDepth = 8;
 constexpr std::size_t MaximumLayers = 64;
 constexpr std::size_t MaximumPictures = 256; // overlays of overlays multiply
+
+/// The stated extent is that of the coded picture before any turn and may leave out what pads it. Some
+/// writers state it after the turn, where it does not fit: then all of what is coded is shown.
+PixelSize sizeOfSingle(const CodedPicture &coded, PixelSize extent)
+{
+    const auto decoder = TileDecoder::create(coded);
+    const auto announced = decoder != nullptr ? decoder->announcedSize() : std::nullopt;
+    const bool fits = !announced || (extent.width <= announced->width && extent.height <= announced->height);
+    return fits ? extent : *announced;
+}
 
 class PictureReader
 {
@@ -119,16 +130,16 @@ Result<CodedPicture> PictureReader::readCoded(const Item &item) const
 
 Result<void> PictureReader::readSingle(const Item &item, Picture &picture) const
 {
-    const auto size = spatialExtent(m_table, item);
-    auto coded = size ? readCoded(item) : unreadable();
+    const auto extent = spatialExtent(m_table, item);
+    auto coded = extent ? readCoded(item) : unreadable();
     if (!coded) {
         return unreadable();
     }
     TileGrid grid;
-    grid.tile = *size;
-    grid.canvas = *size;
+    grid.tile = sizeOfSingle(*coded, *extent);
+    grid.canvas = grid.tile;
     grid.tiles.push_back(std::move(*coded));
-    picture.upright = Upright(*size);
+    picture.upright = Upright(grid.canvas);
     picture.content = std::move(grid);
     return {};
 }

@@ -137,6 +137,14 @@ bool TileDecoder::suits(const CodedPicture &picture) const
     return picture.codec == m_codec && picture.configuration == m_configuration;
 }
 
+std::optional<PixelSize> TileDecoder::announcedSize() const
+{
+    if (!isAcceptable(m_context->width, m_context->height)) {
+        return std::nullopt;
+    }
+    return PixelSize{m_context->width, m_context->height};
+}
+
 Result<void> TileDecoder::receiveFrame(const Bytes &bytes)
 {
     const bool hasTables = m_codec == Codec::Jpeg;

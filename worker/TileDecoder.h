@@ -3,6 +3,7 @@
 #include "Planes.h"
 
 #include <memory>
+#include <optional>
 #include <span>
 
 struct AVCodecContext;
@@ -27,9 +28,11 @@ public:
     /// Whether this decoder can take @p picture, too.
     bool suits(const CodedPicture &picture) const;
 
+    /// Size of the pictures by the configuration; nothing for a codec that tells it with each picture only.
+    std::optional<PixelSize> announcedSize() const;
+
     /// Decodes @p bytes, the data of a picture that this decoder suits. Unreadable when they are damaged or
-    /// smaller than
-    /// @p size; a larger picture is cut to it.
+    /// smaller than @p size; a larger picture is cut to it.
     Result<DecodedPicture> decode(const Bytes &bytes, PixelSize size);
 
 private:
