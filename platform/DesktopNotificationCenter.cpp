@@ -61,6 +61,9 @@ void DesktopNotificationCenter::onResponse(std::function<void(const Notification
 
 void DesktopNotificationCenter::add(const NotificationRequest &request)
 {
+    if (!m_bus.isConnected()) {
+        return;
+    }
     if (!m_capabilities) {
         askForCapabilities(); // answered long before the delay is over
     }

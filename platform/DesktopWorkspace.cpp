@@ -24,6 +24,10 @@ DesktopWorkspace::DesktopWorkspace(const QDBusConnection &bus)
 
 void DesktopWorkspace::reveal(const QUrl &file)
 {
+    if (!m_bus.isConnected()) {
+        open(file.adjusted(QUrl::RemoveFilename)); // a call on no bus would never be answered
+        return;
+    }
     const QString interface = QStringLiteral("org.freedesktop.FileManager1");
     QDBusMessage message = QDBusMessage::createMethodCall(
         interface, QStringLiteral("/org/freedesktop/FileManager1"), interface, QStringLiteral("ShowItems"));
