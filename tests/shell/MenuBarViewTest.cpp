@@ -24,8 +24,8 @@ public:
     QString text(const char *name) const { return find(name)->property("text").toString(); }
     void click(const char *name)
     {
-        const QQuickItem *item = find(name);
-        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+        const QQuickItem *target = find(name);
+        const QPointF centre = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));
         QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
     }
 
