@@ -58,9 +58,9 @@ class Lumaport:
 
     def read(self):
         for line in self.process.stderr:
-            if "qt.scenegraph.time" in line or "Frame rendered" in line:
+            if "frame rendered" in line.lower():
                 self.frames.append(time.monotonic())
-            else:
+            elif "qt.scenegraph" not in line:
                 self.printed.append(line)
 
     def rest(self):
