@@ -16,8 +16,11 @@ using ReplyPointer = std::unique_ptr<Reply, decltype(&std::free)>;
 // "Compositing Managers".
 QByteArray selectionName()
 {
+    char *host = nullptr; // not wanted, but asked for by the call
+    int display = 0;
     int screen = 0;
-    xcb_parse_display(nullptr, nullptr, nullptr, &screen);
+    xcb_parse_display(nullptr, &host, &display, &screen);
+    std::free(host);
     return "_NET_WM_CM_S" + QByteArray::number(screen);
 }
 
