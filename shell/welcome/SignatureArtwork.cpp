@@ -37,7 +37,7 @@ void SignatureArtwork::paint(QPainter *painter)
 {
     const double ratio = window()->effectiveDevicePixelRatio();
     const QSize size = m_image.size().scaled((boundingRect().size() * ratio).toSize(), Qt::KeepAspectRatio);
-    if (size.isEmpty()) {
+    if (m_image.isNull() || size.isEmpty()) {
         return;
     }
     if (m_scaled.size() != size) {
