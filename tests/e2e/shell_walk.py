@@ -62,8 +62,9 @@ def screen_size():
 
 def client_area(window):
     """x, y, width and height of the window without its decoration."""
-    numbers = dict(line.split("=") for line in run("xdotool", "getwindowgeometry", "--shell", window).split())
-    return tuple(int(numbers[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
+    told = run("xwininfo", "-id", window)  # xdotool counts the decoration twice
+    return tuple(int(re.search(rf"{name}: +(-?\d+)", told).group(1)) for name in
+                 ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
 
 def frame(window):
