@@ -18,7 +18,7 @@ struct ImageSize
 enum class ImageWorkerFault {
     Unreadable,    ///< no picture can be had from the photo, for whatever reason
     CannotWrite,   ///< the output file took no more
-    NotLockedDown, ///< the worker could not be locked down and was given nothing
+    NotLockedDown, ///< no worker could be started and locked down; none was given the photo
 };
 
 /// One photo in a process of its own. Calls block; a worker that hangs is ended in its time.

@@ -91,8 +91,8 @@ private:
 
     void handOut(Child child)
     {
-        if (m_hasEnded) {
-            child.reset();
+        if (m_hasEnded && child) {
+            child->kill();
         }
         std::erase_if(m_started, [](const auto &started) { return started.expired(); });
         m_started.push_back(child);
@@ -100,7 +100,7 @@ private:
             m_asked.front().set_value(std::move(child));
             m_asked.pop_front();
         } else {
-            m_spare = std::move(child);
+            m_spare = m_hasEnded ? nullptr : std::move(child);
             m_isSpareWanted = false;
         }
     }

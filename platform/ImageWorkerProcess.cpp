@@ -125,12 +125,13 @@ bool ImageWorkerChild::isRunning() const
     return ::poll(&ended, 1, 0) == 0;
 }
 
-void ImageWorkerChild::kill() const
+void ImageWorkerChild::kill()
 {
+    m_isKilled = true;
     ::syscall(SYS_pidfd_send_signal, m_process.number(), SIGKILL, nullptr, 0);
 }
 
-void ImageWorkerChild::end() const
+void ImageWorkerChild::end()
 {
     kill();
     siginfo_t status = {};
@@ -155,15 +156,29 @@ ImageWorkerProcess::ask(const Request &request, const FileDescriptor &file, std:
     case Outcome::CannotWrite:
         return failed(ImageWorkerFault::CannotWrite);
     case Outcome::NotLockedDown:
-        return failed(ImageWorkerFault::NotLockedDown);
     case Outcome::Unreadable:
         break;
     }
     return failed(ImageWorkerFault::Unreadable);
 }
 
+tl::expected<void, ImageWorkerFault> ImageWorkerProcess::awaitLockDown()
+{
+    const std::optional<Reply> greeting =
+        m_child ? receiveReply(m_child->socket(), m_limits.start) : std::nullopt;
+    if (greeting && greeting->outcome == Outcome::Done) {
+        return {};
+    }
+    const bool wasKilled = m_child && m_child->isKilled();
+    m_child.reset();
+    return failed(wasKilled ? ImageWorkerFault::Unreadable : ImageWorkerFault::NotLockedDown);
+}
+
 tl::expected<ImageSize, ImageWorkerFault> ImageWorkerProcess::open(const FileDescriptor &source)
 {
+    if (const auto lockedDown = awaitLockDown(); !lockedDown) {
+        return failed(lockedDown.error());
+    }
     Request request;
     request.kind = RequestKind::Open;
     const auto reply = ask(request, source, m_limits.open);

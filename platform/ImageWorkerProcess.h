@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <atomic>
 #include <memory>
 
 /// A started worker: the process and this end of its socket. Ending and reaping it is the destructor's work.
@@ -27,13 +28,16 @@ public:
     int socket() const { return m_socket.number(); }
 
     /// Kills the process and returns at once; from any thread.
-    void kill() const;
+    void kill();
+    /// Whether kill() has been called, so that its silence says nothing of the program.
+    bool isKilled() const { return m_isKilled; }
     /// Kills the process and waits until it is gone.
-    void end() const;
+    void end();
 
 private:
     FileDescriptor m_process; ///< a descriptor of the process, which cannot come to mean another
     FileDescriptor m_socket;
+    std::atomic<bool> m_isKilled = false;
 };
 
 /// The photo's side of the conversation with one child.
@@ -53,13 +57,15 @@ public:
 private:
     using Reply = imageworkerwire::Reply;
 
+    /// Waits until the worker has said that it is locked down; only then it may be handed anything.
+    tl::expected<void, ImageWorkerFault> awaitLockDown();
     /// Asks and waits; a child that answers nonsense, nothing or too late is ended, and the photo Unreadable.
     tl::expected<Reply, ImageWorkerFault> ask(const imageworkerwire::Request &request,
                                               const FileDescriptor &file, std::chrono::milliseconds limit);
     std::chrono::milliseconds writeLimit() const;
 
-    std::shared_ptr<ImageWorkerChild>
-        m_child; ///< null when it could not be started; shared with who may kill it
+    /// Null when it could not be started or has been ended; shared with who may kill it.
+    std::shared_ptr<ImageWorkerChild> m_child;
     ImageWorkerLimits m_limits;
     ImageSize m_size;
 };

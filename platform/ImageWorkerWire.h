@@ -3,8 +3,9 @@
 #include <cstdint>
 
 /// The conversation between the application and lumaport-imageworker, over a socket that keeps records apart
-/// (SOCK_SEQPACKET). Every request is answered by one reply; a request that needs a file brings its
-/// descriptor along. Both programs are built together, so that the records may be sent as they lie in memory.
+/// (SOCK_SEQPACKET). The worker speaks first: a reply that says whether it has given up its rights. Then
+/// every request is answered by one reply; each brings along the descriptor of the file it is about. Both
+/// programs are built together, so that the records may be sent as they lie in memory.
 namespace imageworkerwire {
 
 /// The worker finds its end of the socket here; nothing else is open in it but the three standard streams.
@@ -31,7 +32,7 @@ enum class Outcome : std::uint32_t {
     Done = 1,
     Unreadable = 2,
     CannotWrite = 3,
-    NotLockedDown = 4, ///< the worker could not give up its rights and has read nothing
+    NotLockedDown = 4, ///< the worker could not give up its rights and ends
 };
 
 struct Reply

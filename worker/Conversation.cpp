@@ -49,6 +49,11 @@ std::optional<Asked> receive(int socket)
     return asked;
 }
 
+bool send(int socket, const Reply &reply)
+{
+    return ::send(socket, &reply, sizeof(reply), MSG_NOSIGNAL) == ssize_t{sizeof(reply)};
+}
+
 Outcome outcomeOf(const Result<void> &result)
 {
     if (result) {
@@ -115,10 +120,13 @@ private:
 
 void converse(int socket, Rights rights)
 {
+    const Outcome greeting = rights == Rights::GivenUp ? Outcome::Done : Outcome::NotLockedDown;
+    if (!send(socket, {greeting}) || rights == Rights::Kept) {
+        return;
+    }
     OpenedPhoto photo;
     while (auto asked = receive(socket)) {
-        const Reply reply = rights == Rights::GivenUp ? photo.answer(*asked) : Reply{Outcome::NotLockedDown};
-        if (::send(socket, &reply, sizeof(reply), MSG_NOSIGNAL) != ssize_t{sizeof(reply)}) {
+        if (!send(socket, photo.answer(*asked))) {
             return;
         }
     }

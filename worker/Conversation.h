@@ -4,8 +4,8 @@ namespace imageworker {
 
 enum class Rights { GivenUp, Kept };
 
-/// Answers the application's requests on @p socket until it closes its end. Without the rights given up
-/// nothing is read, and every answer says so.
+/// Says on @p socket whether the rights have been given up; if so, answers the application's requests until
+/// it closes its end.
 void converse(int socket, Rights rights);
 
 } // namespace imageworker

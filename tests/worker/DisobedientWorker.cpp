@@ -133,6 +133,7 @@ int main(int, char **arguments)
         !imageworker::lockDown()) {
         return EXIT_FAILURE;
     }
+    answer({Outcome::Done});
     Request request;
     const int source = receiveFile(request);
     std::array<char, 64> order = {};
