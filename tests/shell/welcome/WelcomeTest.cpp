@@ -85,8 +85,8 @@ private Q_SLOTS:
         QCOMPARE(panel->geometry(), scene.window.frameGeometry());
         QCOMPARE(panel->title(), QStringLiteral("Lumaport Welcome"));
         scene.window.resize(450, 520);
-        QCOMPARE(panel->geometry(), scene.window.frameGeometry());
-        QCOMPARE(panel->contentItem()->childItems().constFirst()->size(), QSizeF(450, 520));
+        QTRY_COMPARE(panel->geometry(), scene.window.frameGeometry());
+        QTRY_COMPARE(panel->contentItem()->childItems().constFirst()->size(), QSizeF(panel->size()));
 
         view->setIsPresenting(false);
         QCoreApplication::processEvents();
