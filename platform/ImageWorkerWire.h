@@ -46,6 +46,6 @@ struct Reply
 inline constexpr std::int64_t MaximumPixels = 300'000'000;
 
 /// A thumbnail is never larger, whatever the worker says, in bytes.
-inline constexpr std::int64_t MaximumThumbnailBytes = 4 * 1024 * 1024;
+inline constexpr std::int64_t MaximumThumbnailBytes = 4LL * 1024 * 1024;
 
 } // namespace imageworkerwire

@@ -157,6 +157,17 @@ private:
     bool m_sound;
 };
 
+/// True for a call whose argument number @p argument has @p value in the bits of @p mask.
+scmp_arg_cmp bits(unsigned argument, scmp_datum_t mask, scmp_datum_t value)
+{
+    return {argument, SCMP_CMP_MASKED_EQ, mask, value};
+}
+
+scmp_arg_cmp isZero(unsigned argument)
+{
+    return {argument, SCMP_CMP_EQ, 0, 0};
+}
+
 bool filterCalls()
 {
     CallFilter filter;
@@ -166,29 +177,29 @@ bool filterCalls()
     }
     filter.add(SCMP_ACT_KILL_PROCESS, Hostile);
     // Memory that can be run is never asked for once the libraries are loaded.
-    const auto withoutExecution = SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0);
-    const auto withExecution = SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, PROT_EXEC);
+    const auto withoutExecution = bits(2, PROT_EXEC, 0);
+    const auto withExecution = bits(2, PROT_EXEC, PROT_EXEC);
     for (const int call : {SYS_mmap, SYS_mprotect}) {
         filter.add(SCMP_ACT_ALLOW, call, withoutExecution);
         filter.add(SCMP_ACT_KILL_PROCESS, call, withExecution);
     }
     // Threads, but no processes. The newer clone3 hides its flags from the filter and answers "no such call".
-    filter.add(SCMP_ACT_ALLOW, SYS_clone, SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD));
-    filter.add(SCMP_ACT_KILL_PROCESS, SYS_clone, SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, 0));
+    filter.add(SCMP_ACT_ALLOW, SYS_clone, bits(0, CLONE_THREAD, CLONE_THREAD));
+    filter.add(SCMP_ACT_KILL_PROCESS, SYS_clone, bits(0, CLONE_THREAD, 0));
     // The C library may look for files under /proc or /sys and do without; opening for writing is another
     // matter.
-    filter.add(SCMP_ACT_ERRNO(ENOENT), SYS_openat, SCMP_A2(SCMP_CMP_MASKED_EQ, O_ACCMODE, O_RDONLY));
-    filter.add(SCMP_ACT_KILL_PROCESS, SYS_openat, SCMP_A2(SCMP_CMP_MASKED_EQ, O_WRONLY, O_WRONLY));
-    filter.add(SCMP_ACT_KILL_PROCESS, SYS_openat, SCMP_A2(SCMP_CMP_MASKED_EQ, O_RDWR, O_RDWR));
-    filter.add(SCMP_ACT_ERRNO(ENOENT), SYS_open, SCMP_A1(SCMP_CMP_MASKED_EQ, O_ACCMODE, O_RDONLY));
-    filter.add(SCMP_ACT_KILL_PROCESS, SYS_open, SCMP_A1(SCMP_CMP_MASKED_EQ, O_WRONLY, O_WRONLY));
-    filter.add(SCMP_ACT_KILL_PROCESS, SYS_open, SCMP_A1(SCMP_CMP_MASKED_EQ, O_RDWR, O_RDWR));
+    filter.add(SCMP_ACT_ERRNO(ENOENT), SYS_openat, bits(2, O_ACCMODE, O_RDONLY));
+    filter.add(SCMP_ACT_KILL_PROCESS, SYS_openat, bits(2, O_WRONLY, O_WRONLY));
+    filter.add(SCMP_ACT_KILL_PROCESS, SYS_openat, bits(2, O_RDWR, O_RDWR));
+    filter.add(SCMP_ACT_ERRNO(ENOENT), SYS_open, bits(1, O_ACCMODE, O_RDONLY));
+    filter.add(SCMP_ACT_KILL_PROCESS, SYS_open, bits(1, O_WRONLY, O_WRONLY));
+    filter.add(SCMP_ACT_KILL_PROCESS, SYS_open, bits(1, O_RDWR, O_RDWR));
     // fstat() of newer C libraries; with a name it would look at files.
-    filter.add(SCMP_ACT_ALLOW, SYS_newfstatat, SCMP_A3(SCMP_CMP_MASKED_EQ, AT_EMPTY_PATH, AT_EMPTY_PATH));
+    filter.add(SCMP_ACT_ALLOW, SYS_newfstatat, bits(3, AT_EMPTY_PATH, AT_EMPTY_PATH));
     // Of limits only those of this process itself may be asked for; a thumbnail's work steps back behind all
     // other.
-    filter.add(SCMP_ACT_ALLOW, SYS_prlimit64, SCMP_A2(SCMP_CMP_EQ, 0));
-    filter.add(SCMP_ACT_ALLOW, SYS_setpriority, SCMP_A1(SCMP_CMP_EQ, 0));
+    filter.add(SCMP_ACT_ALLOW, SYS_prlimit64, isZero(2));
+    filter.add(SCMP_ACT_ALLOW, SYS_setpriority, isZero(1));
     return filter.load();
 }
 

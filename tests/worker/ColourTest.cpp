@@ -113,7 +113,7 @@ TEST(Colour, ShouldToneMapHighDynamicRangeSoThatItLooksRight)
         for (std::uint16_t code = 0; code < 256; ++code) {
             ramp.red[code] = ramp.green[code] = ramp.blue[code] = static_cast<std::uint16_t>(code * 16);
         }
-        Bytes rgba(256 * 4);
+        Bytes rgba(256UL * 4);
         makeSrgbStage({}, {.primaries = 9, .transfer = transfer}, 4095, false)->convert(ramp, rgba.data());
         for (std::size_t x = 1; x < 256; ++x) {
             EXPECT_GE(rgba[4 * x], rgba[4 * (x - 1)]) << "brighter light must not become darker";
@@ -123,7 +123,7 @@ TEST(Colour, ShouldToneMapHighDynamicRangeSoThatItLooksRight)
         const std::size_t white = transfer == TransferPq ? 148 : 192;
         EXPECT_GT(rgba[4 * white], 205);
         EXPECT_LT(rgba[4 * white], 240);
-        EXPECT_GE(rgba[4 * 255], 250);
+        EXPECT_GE(rgba[4UL * 255], 250);
     }
 }
 

@@ -191,7 +191,7 @@ TEST_F(Conversion, ShouldMakeThumbnailsThatFit)
             for (int x = 1; x < thumbnail->size.width - 1; x += 10) {
                 const int fullX = (2 * x + 1) * reference->size.width / (2 * thumbnail->size.width);
                 const int fullY = (2 * y + 1) * reference->size.height / (2 * thumbnail->size.height);
-                const int difference = thumbnail->row(y)[4 * x] - reference->row(fullY)[4 * fullX];
+                const int difference = thumbnail->row(y)[4L * x] - reference->row(fullY)[4L * fullX];
                 EXPECT_LE(std::abs(difference), 4 + scale) << x << ", " << y;
             }
         }
