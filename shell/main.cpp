@@ -1,6 +1,7 @@
 #include "LumaportApp.h"
 #include "SingleInstance.h"
 #include "TerminationSignals.h"
+#include "Typeface.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -14,6 +15,7 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName(QStringLiteral("io.lumaport.Lumaport"));
     QApplication::setApplicationVersion(QStringLiteral(LUMAPORT_VERSION));
     const QApplication application(argc, argv);
+    QApplication::setFont(Typeface::preferred(QApplication::font()));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 
     QList<QUrl> files;
