@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QWindow>
 
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -25,9 +27,7 @@ MainWindowPlacement::MainWindowPlacement(QWindow &window, MainWindowLayout layou
 
 MainWindowPlacement::~MainWindowPlacement()
 {
-    if (m_pendingSave) {
-        save();
-    }
+    savePending();
 }
 
 bool MainWindowPlacement::eventFilter(QObject *watched, QEvent *event)
@@ -47,7 +47,7 @@ bool MainWindowPlacement::eventFilter(QObject *watched, QEvent *event)
         }
         break;
     case QEvent::Close:
-        save();
+        savePending();
         break;
     case QEvent::Hide:
         m_state = State::hidden;
@@ -64,12 +64,13 @@ void MainWindowPlacement::didExpose()
     if (m_state != State::appearing || !m_window.isExposed()) {
         return;
     }
-    m_state = State::placed;
+    m_state = State::exposed;
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (m_state == State::placed) {
+            if (m_state == State::exposed) {
                 m_layout.apply(m_window, MainWindowLayout::SavedFrame::restore);
+                m_state = State::placed;
             }
         },
         Qt::QueuedConnection);
@@ -77,16 +78,12 @@ void MainWindowPlacement::didExpose()
 
 void MainWindowPlacement::scheduleSaving()
 {
-    m_pendingSave = m_jobs->after(savingDelay, [this] {
-        m_pendingSave.reset();
-        m_layout.save(m_window);
-    });
+    m_pendingSave = m_jobs->after(savingDelay, [this] { savePending(); });
 }
 
-void MainWindowPlacement::save()
+void MainWindowPlacement::savePending()
 {
-    m_pendingSave.reset();
-    if (m_state == State::placed) {
+    if (std::exchange(m_pendingSave, {})) {
         m_layout.save(m_window);
     }
 }

@@ -9,7 +9,7 @@ class QWindow;
 class ScheduledJob;
 
 /// Watches over one window's frame: takes the saved one each time the window is shown, and saves it after the
-/// user moved or resized the window, and before it closes.
+/// user moved or resized the window, at the latest before it closes.
 class MainWindowPlacement : public QObject
 {
     Q_OBJECT
@@ -24,13 +24,14 @@ public:
 private:
     enum class State {
         hidden,
-        appearing, ///< shown, not yet placed: the decoration's size is known only now
-        placed,
+        appearing, ///< shown; the decoration's size is not known yet
+        exposed,   ///< to be placed in the next turn
+        placed,    ///< what moves from here on is the user's doing
     };
 
     void didExpose();
     void scheduleSaving();
-    void save();
+    void savePending();
 
     QWindow &m_window;
     MainWindowLayout m_layout;
