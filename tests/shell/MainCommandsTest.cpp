@@ -48,6 +48,9 @@ private Q_SLOTS:
         main.setObjectName(QStringLiteral("main"));
         main.resize(300, 300);
         commands.useRecommendedWindowSize();
+        QCOMPARE(main.size(), QSize(300, 300));
+        main.show();
+        commands.useRecommendedWindowSize();
         QCOMPARE(main.frameGeometry(),
                  MainWindowLayout::place(
                      main.screen()->availableGeometry(),

@@ -16,10 +16,7 @@ public:
         (void)QTest::qWaitForWindowExposed(window);
     }
 
-    QQuickItem *find(const char *name) const
-    {
-        return window->rootObject()->findChild<QQuickItem *>(QLatin1String(name));
-    }
+    QQuickItem *find(const char *name) const { return below(window->rootObject(), QLatin1String(name)); }
     bool shows(const char *name) const { return find(name)->isVisible(); }
     QString text(const char *name) const { return find(name)->property("text").toString(); }
     void click(const char *name)
@@ -30,6 +27,21 @@ public:
     }
 
     PanelWindow *window;
+
+private:
+    /// Down the tree of items: what a repeater makes is no child of an object.
+    static QQuickItem *below(QQuickItem *item, QLatin1String name)
+    {
+        if (item->objectName() == name) {
+            return item;
+        }
+        for (QQuickItem *child : item->childItems()) {
+            if (QQuickItem *found = below(child, name)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
 };
 
 } // namespace
