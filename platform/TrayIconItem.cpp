@@ -13,7 +13,8 @@ TrayIconItem::TrayIconItem(QObject *parent)
     m_icon->setContextMenu(m_menu.get());
     connect(m_icon.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
-                if (reason == QSystemTrayIcon::Trigger) {
+                // The second of two quick clicks counts as much as the first.
+                if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick) {
                     Q_EMIT activated();
                 }
             });

@@ -4,6 +4,7 @@
 #include "MenuBarViewController.h"
 #include "PanelPlacement.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
@@ -12,8 +13,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// Longer than a panel takes to pass a click on, shorter than a user to click again.
-constexpr auto sameClick = 250ms;
+// Longer than a busy desktop takes to pass a click on.
+constexpr auto sameClick = 1s;
+// A host may say of an item only where it was clicked.
+constexpr QMargins aroundItem{12, 12, 12, 12};
 
 } // namespace
 
@@ -82,8 +85,15 @@ void PanelWindow::followFocus(const QWindow *focus)
     } else if (m_hadFocus) {
         // On its way here the focus may pass through nothing; from here on it has gone elsewhere.
         hide();
-        m_justLostFocus = m_jobs->after(sameClick, [this] { m_justLostFocus.reset(); });
+        if (mayBeOnItem(QCursor::pos())) {
+            m_justLostFocus = m_jobs->after(sameClick, [this] { m_justLostFocus.reset(); });
+        }
     }
+}
+
+bool PanelWindow::mayBeOnItem(const QPoint &pointer) const
+{
+    return !m_item || m_item->marginsAdded(aroundItem).contains(pointer);
 }
 
 void PanelWindow::keyPressEvent(QKeyEvent *event)

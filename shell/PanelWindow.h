@@ -32,6 +32,7 @@ private:
     void open(const std::optional<QRect> &item);
     void followFocus(const QWindow *focus);
     void moveToPlace();
+    bool mayBeOnItem(const QPoint &pointer) const;
 
     std::shared_ptr<JobScheduler> m_jobs;
     std::unique_ptr<ScheduledJob> m_justLostFocus;

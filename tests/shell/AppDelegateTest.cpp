@@ -165,7 +165,7 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(panel));
         other.requestActivate();
         QTRY_VERIFY(!panel->isVisible());
-        shell.jobs->advance(250ms); // a click of its own
+        shell.jobs->advance(1s); // a click of its own
         Q_EMIT shell.item->activated();
         QVERIFY(panel->isVisible());
     }
