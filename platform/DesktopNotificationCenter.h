@@ -12,7 +12,7 @@ class ArrivalChime;
 class JobScheduler;
 class ScheduledJob;
 
-/// `org.freedesktop.Notifications` (Desktop Notifications Specification 1.2). The service plays no sound of
+/// `org.freedesktop.Notifications` (Desktop Notifications protocol, 1.2). The service plays no sound of
 /// ours, so the chime is played here, once the service has taken the notification.
 class DesktopNotificationCenter : public QObject, public NotificationCenter
 {

@@ -7,7 +7,7 @@
 #include <QVariantMap>
 
 /// One process for each session: the first one owns the application's bus name and answers the others'
-/// requests by `org.freedesktop.Application` (Desktop Entry Specification, "D-Bus Activation").
+/// requests by `org.freedesktop.Application` (the desktop entry standard, "D-Bus Activation").
 class SingleInstance : public QObject
 {
     Q_OBJECT
