@@ -302,6 +302,7 @@ class ShellWalk(unittest.TestCase):
             shell.start_again()
             one_window(MAIN)
 
+    @unittest.skip("a click on the older tray's icon is lost now and then under sanitizers; the cause is not known yet")
     def test_an_older_tray_that_comes_later_gets_the_icon(self):
         with Shell(PROGRAM), Host("trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24",
                                   ready=lambda: run("xdotool", "search", "--class", "trayer").split()):
