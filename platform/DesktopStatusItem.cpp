@@ -3,11 +3,23 @@
 #include "StatusNotifierItem.h"
 #include "TrayIconItem.h"
 
+#include <QGuiApplication>
+
+namespace {
+
+/// The tray of old needs the X server; null without one.
+std::unique_ptr<StatusItem> trayIconItem()
+{
+    return QGuiApplication::platformName() == QLatin1String("xcb") ? std::make_unique<TrayIconItem>()
+                                                                   : nullptr;
+}
+
+} // namespace
+
 std::unique_ptr<StatusItem> StatusItem::create()
 {
     return std::make_unique<DesktopStatusItem>(
-        std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus()),
-        [] { return std::make_unique<TrayIconItem>(); });
+        std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus()), trayIconItem);
 }
 
 DesktopStatusItem::DesktopStatusItem(std::unique_ptr<StatusNotifierItem> notifierItem,
@@ -28,6 +40,9 @@ void DesktopStatusItem::setHostPresent(bool isPresent)
         m_fallback.reset();
     } else if (!m_fallback) {
         m_fallback = m_makeFallback();
+        if (!m_fallback) {
+            return;
+        }
         connect(m_fallback.get(), &StatusItem::activated, this, &StatusItem::activated);
         m_fallback->setMenu(m_entries);
         m_fallback->setLook(m_look);

@@ -11,6 +11,7 @@ class DesktopStatusItem : public StatusItem
     Q_OBJECT
 
 public:
+    /// `makeFallback` answers null where there is nothing to fall back to.
     DesktopStatusItem(std::unique_ptr<StatusNotifierItem> notifierItem,
                       std::function<std::unique_ptr<StatusItem>()> makeFallback);
     ~DesktopStatusItem() override;
