@@ -1,3 +1,4 @@
+#include "BrandAssets.h"
 #include "LumaportApp.h"
 #include "SingleInstance.h"
 #include "TerminationSignals.h"
@@ -15,6 +16,7 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName(QStringLiteral("io.lumaport.Lumaport"));
     QApplication::setApplicationVersion(QStringLiteral(LUMAPORT_VERSION));
     const QApplication application(argc, argv);
+    QApplication::setWindowIcon(BrandAssets::icon());
     QApplication::setFont(Typeface::preferred(QApplication::font()));
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 
