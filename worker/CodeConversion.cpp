@@ -2,6 +2,7 @@
 
 #include "Vectorised.h"
 
+#include <algorithm>
 #include <cmath>
 #include <type_traits>
 
@@ -61,16 +62,16 @@ Weights weightsOf(unsigned matrix, unsigned primaries)
 }
 
 template<typename Sample>
-__attribute__((always_inline)) inline void convertRow(const Sample *y, const Sample *cb, const Sample *cr,
-                                                      const auto &by, CodeRow &codes)
+__attribute__((always_inline)) inline void convertRow(const Sample *__restrict y, const Sample *__restrict cb,
+                                                      const Sample *__restrict cr, const auto &coefficients,
+                                                      CodeRow &codes)
 {
+    const auto by = coefficients; // by value, or the compiler takes it to change with each pixel
     std::uint16_t *__restrict red = codes.red.data();
     std::uint16_t *__restrict green = codes.green.data();
     std::uint16_t *__restrict blue = codes.blue.data();
-    const auto code = [&by](float value) {
-        const float rounded = value + 0.5F;
-        const float positive = rounded > 0.0F ? rounded : 0.0F;
-        const float inside = positive < by.maximum ? positive : by.maximum;
+    const auto code = [maximum = by.maximum](float value) {
+        const float inside = std::min(std::max(value + 0.5F, 0.0F), maximum);
         return static_cast<std::uint16_t>(static_cast<std::int32_t>(inside));
     };
     const int width = codes.width();
@@ -87,17 +88,18 @@ __attribute__((always_inline)) inline void convertRow(const Sample *y, const Sam
 template<typename Sample>
 void spread(const Sample *samples, int phase, std::vector<Sample> &row)
 {
-    const auto width = row.size();
-    std::size_t x = 0;
+    const auto width = static_cast<int>(row.size());
+    Sample *__restrict next = row.data();
     if (phase == 1) {
-        row[x++] = *samples++;
+        *next++ = *samples++;
     }
-    for (; x + 1 < width; x += 2) {
-        row[x] = *samples;
-        row[x + 1] = *samples++;
+    const int pairs = (width - phase) / 2;
+    for (int pair = 0; pair < pairs; ++pair) {
+        next[2 * pair] = samples[pair];
+        next[2 * pair + 1] = samples[pair];
     }
-    if (x < width) {
-        row[x] = *samples;
+    if (phase + 2 * pairs < width) {
+        next[2 * pairs] = samples[pairs];
     }
 }
 

@@ -1,6 +1,7 @@
 #include "MatrixStage.h"
 
 #include "TransferCurve.h"
+#include "Vectorised.h"
 
 #include <algorithm>
 #include <cmath>
@@ -32,53 +33,121 @@ float rolledOff(float light)
     return Knee + (1 - Knee) * above * (1 + above / (Peak * Peak)) / (1 + above);
 }
 
-} // namespace
+// More than any space of real primaries reaches, which is below 3. Keeps what a broken profile says from
+// growing the table of codes.
+constexpr double FurthestValue = 8;
 
-MatrixStage::MatrixStage(const MatrixSpace &space)
-    : m_codes(LastStep + 1)
+/// @p scale is what linear 1 stands for.
+LinearTables makeTables(const MatrixSpace &space, double scale)
 {
+    LinearTables tables;
     for (std::size_t channel = 0; channel < 3; ++channel) {
         for (const double linear : space.linear[channel]) {
             const auto part = [&](std::size_t row) {
-                return static_cast<float>(space.toSrgb[row][channel] * linear);
+                const double value = space.toSrgb[row][channel] * linear;
+                const double inside =
+                    std::clamp(std::isnan(value) ? 0 : value, -FurthestValue, FurthestValue);
+                return static_cast<float>(inside * scale);
             };
-            m_tables[channel].push_back(LinearColour{part(0), part(1), part(2), 0});
+            tables[channel].push_back(LinearColour{part(0), part(1), part(2), 0});
         }
     }
-    for (int step = 0; step <= LastStep; ++step) {
-        const double code = 255 * srgbOfLinear(static_cast<double>(step) / LastStep);
-        m_codes[static_cast<std::size_t>(step)] = static_cast<std::uint8_t>(std::lround(code));
+    return tables;
+}
+
+/// The code of sRGB that is nearest to linear @p step / LastStep.
+std::uint8_t codeOfStep(int step)
+{
+    const double linear = std::clamp(step, 0, LastStep) / static_cast<double>(LastStep);
+    return static_cast<std::uint8_t>(std::lround(255 * srgbOfLinear(linear)));
+}
+
+/// The lowest and the highest value of any sum of three entries, one from each table.
+std::pair<float, float> limitsOfSums(const LinearTables &tables)
+{
+    LinearColour lowest = {};
+    LinearColour highest = {};
+    for (const auto &table : tables) {
+        LinearColour low = table.front();
+        LinearColour high = table.front();
+        for (const LinearColour &entry : table) {
+            low = entry < low ? entry : low;
+            high = entry > high ? entry : high;
+        }
+        lowest += low;
+        highest += high;
+    }
+    return {std::min({lowest[0], lowest[1], lowest[2]}), std::max({highest[0], highest[1], highest[2]})};
+}
+
+/// @p tables: one for each channel. @p srgb: codes by the sums.
+LUMAPORT_VECTORISED void convertPixels(const CodeRow &codes,
+                                       const std::array<const LinearColour *, 3> &tables,
+                                       const std::uint8_t *__restrict srgb, std::uint8_t *__restrict rgba)
+{
+    typedef std::int32_t Steps __attribute__((vector_size(16)));
+    const std::uint16_t *red = codes.red.data();
+    const std::uint16_t *green = codes.green.data();
+    const std::uint16_t *blue = codes.blue.data();
+    const auto [byRed, byGreen, byBlue] = tables;
+    const int width = codes.width();
+    for (int x = 0; x < width; ++x) {
+        const LinearColour sum = byRed[red[x]] + byGreen[green[x]] + byBlue[blue[x]];
+        const Steps steps = __builtin_convertvector(sum, Steps);
+        rgba[4 * x] = srgb[steps[0]];
+        rgba[4 * x + 1] = srgb[steps[1]];
+        rgba[4 * x + 2] = srgb[steps[2]];
+        rgba[4 * x + 3] = 255;
     }
 }
 
-inline void MatrixStage::store(LinearColour linear, std::uint8_t *rgba) const
+} // namespace
+
+MatrixStage::MatrixStage(const MatrixSpace &space)
+    : m_tables(makeTables(space, LastStep))
 {
-    typedef std::int32_t Steps __attribute__((vector_size(16)));
-    LinearColour scaled = linear * static_cast<float>(LastStep) + 0.5F;
-    constexpr LinearColour Lowest = {0, 0, 0, 0};
-    constexpr LinearColour Highest = {LastStep, LastStep, LastStep, LastStep};
-    scaled = scaled > Lowest ? scaled : Lowest; // a NaN, which a broken profile may give, becomes 0
-    scaled = scaled < Highest ? scaled : Highest;
-    const Steps steps = __builtin_convertvector(scaled, Steps);
-    rgba[0] = m_codes[static_cast<std::size_t>(steps[0])];
-    rgba[1] = m_codes[static_cast<std::size_t>(steps[1])];
-    rgba[2] = m_codes[static_cast<std::size_t>(steps[2])];
-    rgba[3] = 255;
+    const auto [lowest, highest] = limitsOfSums(m_tables);
+    const int firstStep =
+        static_cast<int>(std::floor(lowest)) - 1; // sums in another order may round differently
+    const int lastStep = static_cast<int>(std::ceil(highest)) + 1;
+    for (int step = firstStep; step <= lastStep; ++step) {
+        m_codes.push_back(codeOfStep(step));
+    }
+    const float shift = 0.5F - static_cast<float>(firstStep); // cutting off then rounds to the nearest
+    for (LinearColour &entry : m_tables[0]) {
+        entry += shift;
+    }
 }
 
 void MatrixStage::convert(const CodeRow &codes, std::uint8_t *rgba) const
 {
-    const auto width = static_cast<std::size_t>(codes.width());
-    for (std::size_t x = 0; x < width; ++x) {
-        store(linearAt(codes, x), rgba + 4 * x);
+    convertPixels(codes, {m_tables[0].data(), m_tables[1].data(), m_tables[2].data()}, m_codes.data(), rgba);
+}
+
+ToneMappingStage::ToneMappingStage(const MatrixSpace &space, unsigned transfer)
+    : m_transfer(transfer)
+    , m_tables(makeTables(space, 1))
+{
+    for (int step = 0; step <= LastStep; ++step) {
+        m_codes.push_back(codeOfStep(step));
     }
+}
+
+void ToneMappingStage::store(LinearColour linear, std::uint8_t *rgba) const
+{
+    for (int channel = 0; channel < 3; ++channel) {
+        const float inside = std::clamp(linear[channel], 0.0F, 1.0F);
+        rgba[channel] = m_codes[static_cast<std::size_t>(std::lround(inside * LastStep))];
+    }
+    rgba[3] = 255;
 }
 
 void ToneMappingStage::convert(const CodeRow &codes, std::uint8_t *rgba) const
 {
     const auto width = static_cast<std::size_t>(codes.width());
     for (std::size_t x = 0; x < width; ++x) {
-        LinearColour light = linearAt(codes, x);
+        LinearColour light =
+            m_tables[0][codes.red[x]] + m_tables[1][codes.green[x]] + m_tables[2][codes.blue[x]];
         if (m_transfer == TransferPq) {
             light *= PqMaximum / ReferenceWhite;
         } else {

@@ -62,7 +62,7 @@ Result<Photo> readJpeg(std::span<const std::uint8_t> file)
     }
     // A cut file still has its header: the end must be there, too. Cameras may append more after it.
     constexpr std::array<std::uint8_t, 2> End = {0xFF, 0xD9};
-    if (std::ranges::find_end(file, End).empty()) {
+    if (std::find_end(file.begin(), file.end(), End.begin(), End.end()) == file.end()) {
         return unreadable();
     }
     Photo photo;
