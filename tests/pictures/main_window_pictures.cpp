@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr int thumbnailTime = 100; // milliseconds; the painted ones are there far sooner
+
 struct State
 {
     QString name;
@@ -21,7 +23,8 @@ struct State
 
 QUrl photo(const ModelScene &scene)
 {
-    return scene.item(QStringLiteral("IMG_2044.HEIC"), ConversionStatus::queued, "steelblue").sourceURL;
+    return scene.item(QStringLiteral("IMG_2044.HEIC"), ConversionStatus::queued, "lightskyblue/steelblue")
+        .sourceURL;
 }
 
 void convertOne(ModelScene &scene)
@@ -33,8 +36,8 @@ void convertOne(ModelScene &scene)
 void fillHistory(ModelScene &scene)
 {
     scene.model.setItems(
-        {scene.item(QStringLiteral("IMG_2043.HEIC"), ConversionStatus::ready, "darkseagreen"),
-         scene.item(QStringLiteral("IMG_2042.HEIC"), ConversionStatus::ready, "peru"),
+        {scene.item(QStringLiteral("IMG_2043.HEIC"), ConversionStatus::ready, "moccasin/seagreen"),
+         scene.item(QStringLiteral("IMG_2042.HEIC"), ConversionStatus::ready, "gold/tomato"),
          scene.item(QStringLiteral("IMG_2041.HEIC"), ConversionStatus::failed, "?")});
 }
 
@@ -56,8 +59,9 @@ QList<State> states()
               [](ModelScene &scene, MainViewController &) {
                   fillHistory(scene);
                   convertOne(scene);
-                  scene.fixture.engine->succeed(
-                      QStringLiteral("IMG_2043.HEIC")); // a file that has a thumbnail
+                  const auto copy = scene.item(QStringLiteral("IMG_2044.png"), ConversionStatus::ready,
+                                               "lightskyblue/steelblue");
+                  scene.fixture.engine->succeed(copy.sourceURL.fileName());
               }),
         named("failed",
               [](ModelScene &scene, MainViewController &) {
@@ -73,6 +77,10 @@ QList<State> states()
         named("options",
               [](ModelScene &scene, MainViewController &controller) {
                   fillHistory(scene);
+                  const QDir downloads = QDir::home().filePath(QStringLiteral("Downloads"));
+                  downloads.mkpath(QStringLiteral("."));
+                  scene.fixture.panel->answer = {QUrl::fromLocalFile(downloads.path())};
+                  scene.model.chooseWatchFolder(); // one that has the same name each time
                   controller.setOptionsVisible(true);
               }),
         named("recent",
@@ -95,8 +103,7 @@ QImage mainWindow(const State &state, QSize size, SystemAppearance::ColorScheme 
                 {QStringLiteral("width"), size.width()},
                 {QStringLiteral("height"), size.height()}});
     state.enter(scene, controller);
-    (void)QTest::qWaitFor([&] { return scene.photos->running == 0; });
-    ModelFixture::turn();
+    QTest::qWait(thumbnailTime);
     const QImage image = scene.window.grabWindow();
     scene.close();
     return image;

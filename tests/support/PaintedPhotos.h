@@ -7,12 +7,14 @@
 #include <QColor>
 #include <QFile>
 #include <QImage>
+#include <QPainter>
 #include <QSemaphore>
 
 #include <atomic>
 
-/// Workers that give a small plain picture in the colour that the photo's text names, and nothing for other
-/// files. It counts them, and can hold them until the test lets them go.
+/// Workers that give a small picture in the colour that the photo's text names, or that runs from the first
+/// of two ("gold/teal") at the top to the second, and nothing for other files. It counts them, and can hold
+/// them until the test lets them go.
 class PaintedPhotos : public ImageWorkerLauncher
 {
 public:
@@ -51,8 +53,10 @@ private:
             if (!file.open(source.number(), QIODevice::ReadOnly)) {
                 return tl::unexpected(ImageWorkerFault::Unreadable);
             }
-            m_colour = QColor(QString::fromLatin1(file.readAll()));
-            if (!m_colour.isValid()) {
+            const QString names = QString::fromLatin1(file.readAll());
+            m_top = QColor(names.section(QLatin1Char('/'), 0, 0));
+            m_bottom = QColor(names.section(QLatin1Char('/'), -1));
+            if (!m_top.isValid() || !m_bottom.isValid()) {
                 return tl::unexpected(ImageWorkerFault::Unreadable);
             }
             return ImageSize{4032, 3024};
@@ -65,7 +69,10 @@ private:
         tl::expected<QByteArray, ImageWorkerFault> thumbnail(int maximumSide) override
         {
             QImage image(maximumSide, maximumSide * 3 / 4, QImage::Format_RGB32);
-            image.fill(m_colour);
+            QLinearGradient colours(0, 0, 0, image.height());
+            colours.setColorAt(0, m_top);
+            colours.setColorAt(1, m_bottom);
+            QPainter(&image).fillRect(image.rect(), colours);
             QBuffer png;
             image.save(&png, "PNG");
             return png.data();
@@ -73,7 +80,8 @@ private:
 
     private:
         PaintedPhotos &m_photos;
-        QColor m_colour;
+        QColor m_top;
+        QColor m_bottom;
     };
 
     std::atomic<bool> m_holds = false;
