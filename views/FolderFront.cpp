@@ -13,18 +13,17 @@ constexpr QSizeF frontSize(239.0, 108.0);
 constexpr double air = 1.0;
 constexpr double cornerRadius = 19.0;
 constexpr QRectF handle((239.0 - 75.0) / 2.0, 10.0, 75.0, 2.0);
-/// Texture pixels for a pixel of the flat front: leaning, its top edge is drawn larger than it is.
+/// Leaning, the front's top edge is drawn larger than it is.
 constexpr int oversampling = 2;
 
 } // namespace
 
 FolderFront::FolderFront(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
+    : PaintedImage(parent)
 {
     const QSizeF size = frontSize + 2.0 * QSizeF(air, air);
     setImplicitSize(size.width(), size.height());
-    setTextureSize(size.toSize() * oversampling);
-    setAntialiasing(true);
+    setOversampling(oversampling);
 }
 
 void FolderFront::setTilt(double degrees)

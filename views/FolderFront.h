@@ -1,12 +1,13 @@
 #pragma once
 
+#include "PaintedImage.h"
+
 #include <QMatrix4x4>
-#include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
 /// The front of the stage's folder, 239 x 108 points and a point of air around for its outline. It is painted
 /// once; `tiltMatrix` leans it about its bottom edge.
-class FolderFront : public QQuickPaintedItem
+class FolderFront : public PaintedImage
 {
     Q_OBJECT
     QML_ELEMENT
@@ -23,10 +24,11 @@ public:
     /// out: the scene has none, and would cut off what leaves its plane.
     QMatrix4x4 tiltMatrix() const;
 
-    void paint(QPainter *painter) override;
-
 Q_SIGNALS:
     void tiltChanged();
+
+protected:
+    void paint(QPainter *painter) override;
 
 private:
     double m_tilt = 0.0;

@@ -32,25 +32,31 @@ Item {
         radius: 11
     }
 
-    PhotoThumbnail {
-        id: thumbnail
+    Item {
+        id: picture
 
-        cornerRadius: 7
         height: 95
-        url: card.url
-        variant: card.index
         width: 101
         x: 7
         y: 7
+    }
+
+    PhotoThumbnail {
+        anchors.fill: picture
+        anchors.margins: -margin
+        cornerRadius: 7
+        margin: 1
+        url: card.url
+        variant: card.index
     }
 
     Item {
         id: footer
 
         height: text.implicitHeight
-        width: thumbnail.width
+        width: picture.width
         x: 7
-        y: 7 + thumbnail.height + 6
+        y: 7 + picture.height + 6
 
         Text {
             id: text

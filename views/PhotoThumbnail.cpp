@@ -46,10 +46,8 @@ void paintPlaceholder(QPainter &painter, const QRectF &frame)
 } // namespace
 
 PhotoThumbnail::PhotoThumbnail(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
-{
-    setAntialiasing(true);
-}
+    : PaintedImage(parent)
+{}
 
 PhotoThumbnail::~PhotoThumbnail() = default;
 
@@ -72,7 +70,7 @@ void PhotoThumbnail::setVariant(int variant)
     if (m_variant != variant) {
         m_variant = variant;
         Q_EMIT variantChanged();
-        update();
+        repaint();
     }
 }
 
@@ -81,7 +79,7 @@ void PhotoThumbnail::setCornerRadius(double radius)
     if (m_cornerRadius != radius) {
         m_cornerRadius = radius;
         Q_EMIT cornerRadiusChanged();
-        update();
+        repaint();
     }
 }
 
@@ -89,7 +87,7 @@ void PhotoThumbnail::setImage(const QImage &image)
 {
     const bool wasLoaded = isLoaded();
     m_image = image;
-    update();
+    repaint();
     if (wasLoaded != isLoaded()) {
         Q_EMIT loadedChanged();
     }
@@ -97,10 +95,9 @@ void PhotoThumbnail::setImage(const QImage &image)
 
 void PhotoThumbnail::paint(QPainter *painter)
 {
-    const QRectF frame = boundingRect();
+    const QRectF frame = boundingRect().adjusted(m_margin, m_margin, -m_margin, -m_margin);
     QPainterPath outline;
     outline.addRoundedRect(frame, m_cornerRadius, m_cornerRadius);
-    painter->setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter->fillPath(outline, gradient(m_variant, frame));
     if (m_image.isNull()) {
         paintPlaceholder(*painter, frame);
@@ -111,7 +108,7 @@ void PhotoThumbnail::paint(QPainter *painter)
     QImage scaled = m_image.copy(fillingPart(m_image, frame).toAlignedRect())
                         .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     QBrush brush(scaled);
-    brush.setTransform(
-        QTransform::fromScale(frame.width() / scaled.width(), frame.height() / scaled.height()));
+    brush.setTransform(QTransform::fromTranslate(frame.x(), frame.y())
+                           .scale(frame.width() / scaled.width(), frame.height() / scaled.height()));
     painter->fillPath(outline, brush);
 }

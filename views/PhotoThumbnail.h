@@ -1,7 +1,8 @@
 #pragma once
 
+#include "PaintedImage.h"
+
 #include <QImage>
-#include <QQuickPaintedItem>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
@@ -13,13 +14,14 @@ class ThumbnailRequest;
 ///
 /// The picture is asked of the one thumbnail store whenever `url` changes; an empty url shows the mountains.
 /// Hidden from accessibility.
-class PhotoThumbnail : public QQuickPaintedItem
+class PhotoThumbnail : public PaintedImage
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QUrl url READ url WRITE setUrl NOTIFY urlChanged)
     Q_PROPERTY(int variant READ variant WRITE setVariant NOTIFY variantChanged)
     Q_PROPERTY(double cornerRadius READ cornerRadius WRITE setCornerRadius NOTIFY cornerRadiusChanged)
+    Q_PROPERTY(double margin MEMBER m_margin FINAL)
     Q_PROPERTY(bool loaded READ isLoaded NOTIFY loadedChanged)
 
 public:
@@ -37,13 +39,14 @@ public:
     void setVariant(int variant);
     void setCornerRadius(double radius);
 
-    void paint(QPainter *painter) override;
-
 Q_SIGNALS:
     void urlChanged();
     void variantChanged();
     void cornerRadiusChanged();
     void loadedChanged();
+
+protected:
+    void paint(QPainter *painter) override;
 
 private:
     void setImage(const QImage &image);
@@ -51,6 +54,7 @@ private:
     QUrl m_url;
     int m_variant = 0;
     double m_cornerRadius = 0.0;
+    double m_margin = 0.0; ///< transparent points around the frame, for the edges of a turned picture
     QImage m_image;
     std::unique_ptr<ThumbnailRequest> m_request;
 };
