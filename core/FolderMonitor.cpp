@@ -14,10 +14,12 @@ FolderMonitor::~FolderMonitor()
 bool FolderMonitor::start(const QUrl &at, std::function<void()> onChange)
 {
     stop();
-    auto source = FolderWatch::open(QFile::encodeName(at.toLocalFile()), std::move(onChange));
+    const QByteArray path = QFile::encodeName(at.toLocalFile());
+    auto source = FolderWatch::open(path, std::move(onChange));
     if (!source) {
         return false;
     }
+    m_mayMissChanges = !FolderWatch::seesEveryChange(path);
     const std::lock_guard guard(m_lock);
     m_source = std::move(source);
     return true;
@@ -25,6 +27,7 @@ bool FolderMonitor::start(const QUrl &at, std::function<void()> onChange)
 
 void FolderMonitor::stop()
 {
+    m_mayMissChanges = false;
     std::unique_ptr<FolderWatch> source;
     {
         const std::lock_guard guard(m_lock);

@@ -27,7 +27,11 @@ public:
 
     virtual void stop();
 
+    /// Whether the watched folder may change without a report, as folders of other machines do.
+    virtual bool mayMissChanges() const { return m_mayMissChanges; }
+
 private:
     std::mutex m_lock; ///< guards m_source
     std::unique_ptr<FolderWatch> m_source;
+    bool m_mayMissChanges = false;
 };

@@ -157,6 +157,7 @@ private:
     void seedKnownFiles();
     void scheduleScan(std::chrono::milliseconds after);
     void scanForNewFiles();
+    void lookNowAndThen();
     void reactToWatching();
     static QList<QUrl> heicFiles(const QUrl &folder);
     static std::optional<FileSignature> signature(const QUrl &file);
@@ -174,6 +175,7 @@ private:
 
     AppModelServices m_services;
     std::unique_ptr<ScheduledJob> m_pendingScanTask;
+    std::unique_ptr<ScheduledJob> m_lookTask; ///< for folders that change without a report
     std::unique_ptr<ScheduledJob> m_statusClearTask;
     QHash<QString, FileSignature> m_knownFiles; ///< by path: photos that need no conversion
     QHash<QString, FileSignature> m_candidates; ///< by path: new or changed photos waiting to settle

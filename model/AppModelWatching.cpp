@@ -15,6 +15,7 @@ namespace {
 constexpr auto changeDebounce = 350ms;
 constexpr auto settleCheck = 850ms;
 constexpr auto resumeDelay = 100ms;
+constexpr auto silentFolderPace = 10s;
 
 } // namespace
 
@@ -26,6 +27,7 @@ void AppModel::startMonitoringFolder()
             this, [this] { scheduleScan(changeDebounce); }, Qt::QueuedConnection);
     });
     Q_EMIT monitorAvailableChanged();
+    lookNowAndThen();
     if (!m_monitorAvailable) {
         setLastEventText(ModelTexts::couldNotWatch(m_watchFolder.fileName()));
     }
@@ -99,8 +101,23 @@ void AppModel::scanForNewFiles()
     }
 }
 
+void AppModel::lookNowAndThen()
+{
+    m_lookTask.reset();
+    if (!m_isWatching || !m_services.folderMonitor->mayMissChanges()) {
+        return;
+    }
+    m_lookTask = m_services.jobs->after(silentFolderPace, [this] {
+        if (!m_pendingScanTask) {
+            scanForNewFiles();
+        }
+        lookNowAndThen();
+    });
+}
+
 void AppModel::reactToWatching()
 {
+    lookNowAndThen();
     if (m_isWatching) {
         scheduleScan(resumeDelay);
     } else {

@@ -2,17 +2,27 @@
 
 #include "FileDescriptor.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <linux/magic.h>
 #include <poll.h>
 #include <pthread.h>
 #include <sys/eventfd.h>
 #include <sys/inotify.h>
+#include <sys/vfs.h>
 
 namespace {
 
+constexpr std::size_t bufferLength = 16384; // bytes; a burst in one reading
 constexpr std::uint32_t entryChanges = IN_CREATE | IN_DELETE | IN_MOVED_FROM | IN_MOVED_TO;
 constexpr std::uint32_t folderChanges = IN_ATTRIB | IN_MOVE_SELF | IN_DELETE_SELF;
+
+constexpr std::uint32_t virtualBoxShare = 0x786F4256; // the kernel's fs/vboxsf/super.c; in no header
+
+constexpr std::array<std::uint32_t, 11> servedFileSystems = {
+    NFS_SUPER_MAGIC, SMB_SUPER_MAGIC, SMB2_SUPER_MAGIC, CIFS_SUPER_MAGIC, FUSE_SUPER_MAGIC, V9FS_MAGIC,
+    AFS_SUPER_MAGIC, AFS_FS_MAGIC,    CODA_SUPER_MAGIC, CEPH_SUPER_MAGIC, virtualBoxShare};
 
 /// IN_ATTRIB is also sent for the folder's entries; those carry a name, the folder itself does not.
 bool concernsFolder(const inotify_event &event)
@@ -24,7 +34,7 @@ bool concernsFolder(const inotify_event &event)
 /// Takes everything that waits in the queue. True when any of it concerns the folder.
 bool drain(const FileDescriptor &queue)
 {
-    alignas(inotify_event) std::array<char, 16 * 1024> buffer;
+    alignas(inotify_event) std::array<char, bufferLength> buffer;
     bool changed = false;
     for (;;) {
         const ssize_t length = ::read(queue.number(), buffer.data(), buffer.size());
@@ -62,6 +72,14 @@ std::unique_ptr<FolderWatch> FolderWatch::open(const QByteArray &path, std::func
     }
     return std::unique_ptr<FolderWatch>(new FolderWatch(std::make_shared<State>(
         State{.queue = std::move(queue), .ending = std::move(ending), .onChange = std::move(onChange)})));
+}
+
+bool FolderWatch::seesEveryChange(const QByteArray &path)
+{
+    struct statfs fileSystem = {};
+    return ::statfs(path.constData(), &fileSystem) != 0 ||
+           std::count(servedFileSystems.begin(), servedFileSystems.end(),
+                      static_cast<std::uint32_t>(fileSystem.f_type)) == 0;
 }
 
 FolderWatch::FolderWatch(std::shared_ptr<State> state)

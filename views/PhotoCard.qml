@@ -43,7 +43,7 @@ Item {
 
     PhotoThumbnail {
         anchors.fill: picture
-        anchors.margins: -margin
+        anchors.margins: -1
         cornerRadius: 7
         margin: 1
         url: card.url

@@ -76,6 +76,32 @@ private Q_SLOTS:
         QCOMPARE(converted().size(), 1);
     }
 
+    void shouldLookNowAndThenWhereTheFolderChangesInSilence()
+    {
+        m_fixture->monitor->missesChanges = true;
+        m_fixture->launch();
+        m_fixture->write(QStringLiteral("a.heic"));
+        m_fixture->jobs->advance(10s); // the scan that finds it
+        m_fixture->jobs->advance(850ms);
+        ModelFixture::turn();
+        QCOMPARE(converted(), QStringList{QStringLiteral("a.heic")});
+
+        model().setIsWatching(false);
+        QCOMPARE(m_fixture->jobs->waitingJobs(), 0);
+        model().setIsWatching(true);
+        m_fixture->jobs->advance(100ms);
+        m_fixture->write(QStringLiteral("b.heic"));
+        m_fixture->jobs->advance(9'900ms);
+        m_fixture->jobs->advance(850ms);
+        ModelFixture::turn();
+        QCOMPARE(converted().size(), 2);
+
+        m_fixture->monitor->missesChanges = false; // the next folder is one of this machine
+        model().retryMonitoring();
+        m_fixture->jobs->advance(100ms);
+        QCOMPARE(m_fixture->jobs->waitingJobs(), 0);
+    }
+
     void shouldConvertAgainOnlyWhatChanged()
     {
         m_fixture->launch();

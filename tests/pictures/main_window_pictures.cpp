@@ -77,10 +77,7 @@ QList<State> states()
         named("options",
               [](ModelScene &scene, MainViewController &controller) {
                   fillHistory(scene);
-                  const QDir downloads = QDir::home().filePath(QStringLiteral("Downloads"));
-                  downloads.mkpath(QStringLiteral("."));
-                  scene.fixture.panel->answer = {QUrl::fromLocalFile(downloads.path())};
-                  scene.model.chooseWatchFolder(); // one that has the same name each time
+                  scene.watch(QStringLiteral("Downloads"));
                   controller.setOptionsVisible(true);
               }),
         named("recent",

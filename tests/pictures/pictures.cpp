@@ -69,15 +69,6 @@ QList<ConversionItem> oneOfEachState(ModelScene &scene)
     return items;
 }
 
-void chooseFolder(ModelScene &scene, const QString &path)
-{
-    const QString folder = scene.fixture.home.filePath(path);
-    QDir().mkpath(folder);
-    scene.fixture.panel->answer = {QUrl::fromLocalFile(folder)};
-    scene.model.chooseWatchFolder();
-    ModelFixture::turn();
-}
-
 QList<Picture> pictures()
 {
     const QByteArray monitoring = page(480, 110, "MonitoringControl { x: 20; y: 20; width: 440 }");
@@ -122,13 +113,17 @@ QList<Picture> pictures()
          [](ModelScene &scene) { scene.model.setItems(oneOfEachState(scene)); }},
         {QStringLiteral("arrivals-narrow"), page(320, 620, "ArrivalsList { x: 20; y: 20; width: 280 }"),
          [](ModelScene &scene) { scene.model.setItems(oneOfEachState(scene)); }},
-        {QStringLiteral("options-png"), options},
+        {QStringLiteral("options-png"), options,
+         [](ModelScene &scene) { scene.watch(QStringLiteral("Downloads")); }},
         {QStringLiteral("options-jpeg"), options,
-         [](ModelScene &scene) { setSettings(scene, OutputFormat::jpeg, 0.85); }},
+         [](ModelScene &scene) {
+             scene.watch(QStringLiteral("Downloads"));
+             setSettings(scene, OutputFormat::jpeg, 0.85);
+         }},
         {QStringLiteral("options-busy-long-path"), options,
          [](ModelScene &scene) {
-             chooseFolder(scene, QStringLiteral(
-                                     "Photos of the whole family/Every single one/2026 and before/Arrivals"));
+             scene.watch(
+                 QStringLiteral("Photos of the whole family/Every single one/2026 and before/Arrivals"));
              scene.model.setItems({scene.item(QStringLiteral("a.heic"), ConversionStatus::converting)});
          }},
     };

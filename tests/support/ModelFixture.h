@@ -46,8 +46,10 @@ class ManualFolderMonitor : public FolderMonitor
 public:
     bool start(const QUrl &at, std::function<void()> onChange) override;
     void stop() override { report = {}; }
+    bool mayMissChanges() const override { return missesChanges; }
 
     std::function<void()> report;
+    bool missesChanges = false; ///< as on another machine's folder
 };
 
 struct RecordingNotificationCenter : NotificationCenter

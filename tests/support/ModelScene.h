@@ -6,6 +6,8 @@
 #include "Scene.h"
 #include "ThumbnailStore.h"
 
+#include <QDir>
+
 /// A scene with a model of its own, whose thumbnails are plain colours.
 class ModelScene : public Scene
 {
@@ -36,6 +38,15 @@ public:
             item.outputName = name.section(QLatin1Char('.'), 0, -2) + QStringLiteral(".png");
         }
         return item;
+    }
+
+    /// Has a folder of the home watched: a picture may show its name, which is the same each time.
+    void watch(const QString &folder)
+    {
+        QDir::home().mkpath(folder);
+        fixture.panel->answer = {QUrl::fromLocalFile(QDir::home().filePath(folder))};
+        model.chooseWatchFolder();
+        ModelFixture::turn();
     }
 
     std::shared_ptr<PaintedPhotos> photos = std::make_shared<PaintedPhotos>();

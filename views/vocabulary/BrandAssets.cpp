@@ -6,7 +6,7 @@ QIcon BrandAssets::loadIcon(const QString &resource, const QString &themeName)
 {
     if (QFile::exists(resource)) {
         // An icon is made from any file name; only one that gives pixels is an icon.
-        const QIcon icon(resource);
+        QIcon icon(resource);
         if (!icon.pixmap(16, 16).isNull()) {
             return icon;
         }
