@@ -1,4 +1,5 @@
 #include "BrandAssets.h"
+#include "GraphicsHardware.h"
 #include "LumaportApp.h"
 #include "SingleInstance.h"
 #include "TerminationSignals.h"
@@ -8,6 +9,21 @@
 #include <QDBusConnection>
 #include <QDir>
 #include <QQuickStyle>
+#include <QQuickWindow>
+
+namespace {
+
+/// Qt's software renderer where there is no graphics processor, unless whoever starts the program says
+/// otherwise by Qt's own means.
+void chooseRenderer()
+{
+    if (!GraphicsHardware::isPresent() && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND") &&
+        !qEnvironmentVariableIsSet("QSG_RHI_BACKEND")) {
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    }
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -18,6 +34,7 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     QApplication::setWindowIcon(BrandAssets::icon());
     QApplication::setFont(Typeface::preferred(QApplication::font()));
+    chooseRenderer();
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 
     QList<QUrl> files;
