@@ -45,6 +45,8 @@ std::optional<Order> readOrder(const QStringList &arguments)
 /// subfolder, makes FOLDER the place where they go.
 ConversionOutcome convertInto(const Order &order)
 {
+    const auto engine = ConversionEngine::create(ImageWorkerLauncher::create());
+    engine->prepare();
     const QTemporaryDir passing(QDir(order.folder).filePath(QStringLiteral(".convert-XXXXXX")));
     const QDir links(passing.path());
     const QString photo = links.filePath(QFileInfo(order.source).fileName());
@@ -52,7 +54,6 @@ ConversionOutcome convertInto(const Order &order)
         !QFile::link(order.folder, links.filePath(QStringLiteral("Lumaport")))) {
         return tl::unexpected(ConversionError::cannotWriteImage);
     }
-    const auto engine = ConversionEngine::create(ImageWorkerLauncher::create());
     ConversionOutcome result;
     QEventLoop loop;
     engine->convert(QUrl::fromLocalFile(photo), order.settings, &loop, [&](const ConversionOutcome &outcome) {

@@ -63,6 +63,7 @@ int main(int argumentCount, char **arguments)
     TileQueue queue(*source, *grid);
     {
         std::vector<std::jthread> threads;
+        threads.reserve(static_cast<std::size_t>(availableWorkers()));
         for (int worker = 0; worker < availableWorkers(); ++worker) {
             threads.emplace_back([&queue] { queue.decodeUntilEmpty(); });
         }

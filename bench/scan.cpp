@@ -55,9 +55,9 @@ int main(int argc, char **argv)
 
     const QTemporaryDir folder;
     fill(folder, entries, photos);
-    std::vector<double> looks;
-    for (int look = 0; look < 15; ++look) {
-        looks.push_back(lookInMilliseconds(QUrl::fromLocalFile(folder.path()), photos));
+    std::vector<double> looks(15);
+    for (double &look : looks) {
+        look = lookInMilliseconds(QUrl::fromLocalFile(folder.path()), photos);
     }
     std::sort(looks.begin(), looks.end());
     QTextStream(stdout) << looks[looks.size() / 2] << " ms for " << entries << " entries, " << photos

@@ -52,7 +52,7 @@ void AreaAverager::addRow(int y, const std::uint8_t *rgba)
             float *sum = sums.data() + std::ptrdiff_t{4} * target;
             const float weight = share * opacity;
             for (int channel = 0; channel < 3; ++channel) {
-                sum[channel] += weight * pixel[channel];
+                sum[channel] += weight * static_cast<float>(pixel[channel]);
             }
             sum[3] += weight;
         });

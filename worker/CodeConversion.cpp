@@ -88,18 +88,18 @@ __attribute__((always_inline)) inline void convertRow(const Sample *__restrict y
 template<typename Sample>
 void spread(const Sample *samples, int phase, std::vector<Sample> &row)
 {
-    const auto width = static_cast<int>(row.size());
+    std::size_t width = row.size();
     Sample *__restrict next = row.data();
     if (phase == 1) {
         *next++ = *samples++;
+        --width;
     }
-    const int pairs = (width - phase) / 2;
-    for (int pair = 0; pair < pairs; ++pair) {
+    for (std::size_t pair = 0; pair < width / 2; ++pair) {
         next[2 * pair] = samples[pair];
         next[2 * pair + 1] = samples[pair];
     }
-    if (phase + 2 * pairs < width) {
-        next[2 * pairs] = samples[pairs];
+    if (width % 2 == 1) {
+        next[width - 1] = samples[width / 2];
     }
 }
 

@@ -90,8 +90,8 @@ LUMAPORT_VECTORISED void convertPixels(const CodeRow &codes,
     const std::uint16_t *green = codes.green.data();
     const std::uint16_t *blue = codes.blue.data();
     const auto [byRed, byGreen, byBlue] = tables;
-    const int width = codes.width();
-    for (int x = 0; x < width; ++x) {
+    const std::size_t width = codes.red.size();
+    for (std::size_t x = 0; x < width; ++x) {
         const LinearColour sum = byRed[red[x]] + byGreen[green[x]] + byBlue[blue[x]];
         const Steps steps = __builtin_convertvector(sum, Steps);
         rgba[4 * x] = srgb[steps[0]];

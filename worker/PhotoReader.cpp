@@ -13,7 +13,7 @@ namespace imageworker {
 
 namespace {
 
-constexpr std::uint64_t MaximumMetadata = 32 * 1024 * 1024;
+constexpr std::uint64_t MaximumMetadata = std::uint64_t{32} << 20U;
 
 /// Whether a metadata item tells of the primary item (ISO/IEC 23008-12, A.3.3); one that refers to nothing
 /// tells of it, too.

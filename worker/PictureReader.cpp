@@ -146,7 +146,7 @@ Result<void> PictureReader::readSingle(const Item &item, Picture &picture) const
 
 Result<Bytes> PictureReader::readDerivation(const Item &item) const
 {
-    constexpr std::uint64_t LongestDerivation = 64 * 1024;
+    constexpr std::uint64_t LongestDerivation = 65'536;
     const auto location = locateItem(m_source, m_table, item);
     if (!location || lengthOf(*location) > LongestDerivation) {
         return unreadable();

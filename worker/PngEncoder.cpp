@@ -13,7 +13,7 @@ namespace imageworker {
 
 namespace {
 
-constexpr std::size_t ChunkMemory = 1024 * 1024; // of unfiltered pixels
+constexpr std::size_t ChunkMemory = std::size_t{1} << 20U; // of unfiltered pixels
 constexpr int TallestChunk = 64;
 constexpr std::uint32_t AdlerModulus = 65'521;
 
@@ -78,7 +78,7 @@ public:
         stream.end_of_stream = isLast ? 1 : 0;
         stream.next_in = m_filtered.data();
         stream.avail_in = static_cast<std::uint32_t>(m_length);
-        constexpr std::size_t Step = 256 * 1024;
+        constexpr std::size_t Step = std::size_t{256} << 10U;
         do {
             const std::size_t length = output.size();
             output.resize(length + Step);

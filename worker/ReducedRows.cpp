@@ -67,7 +67,7 @@ void TileRows::averagePlanes(int strip, int y, int factor, std::array<std::vecto
         const int bottom = std::min((y + 1) * factor, m_size.height) - 1;
         const int firstRow = ((y * factor + phaseY) >> shiftY) - origin;
         const int lastRow = ((bottom + phaseY) >> shiftY) - origin;
-        const auto width = static_cast<std::size_t>(((m_size.width - 1 + phaseX) >> shiftX) + 1);
+        const auto width = static_cast<std::size_t>((m_size.width - 1 + phaseX) >> shiftX) + 1;
         std::vector<std::uint32_t> sums(width);
         for (int row = firstRow; row <= lastRow; ++row) {
             const std::uint8_t *samples = slot.planes[plane].data() + m_strides[plane] * row;

@@ -15,8 +15,8 @@ LUMAPORT_VECTORISED void packBytes(const CodeRow &codes, std::uint8_t *__restric
     const std::uint16_t *red = codes.red.data();
     const std::uint16_t *green = codes.green.data();
     const std::uint16_t *blue = codes.blue.data();
-    const int width = codes.width();
-    for (int x = 0; x < width; ++x) {
+    const std::size_t width = codes.red.size();
+    for (std::size_t x = 0; x < width; ++x) {
         rgba[4 * x] = static_cast<std::uint8_t>(red[x]);
         rgba[4 * x + 1] = static_cast<std::uint8_t>(green[x]);
         rgba[4 * x + 2] = static_cast<std::uint8_t>(blue[x]);

@@ -124,8 +124,8 @@ void TileRows::prepare(const SampleFormat &format)
     for (std::size_t plane = 0; plane < static_cast<std::size_t>(format.planeCount); ++plane) {
         const int shiftX = plane == 0 ? 0 : m_shiftX;
         const int shiftY = plane == 0 ? 0 : m_shiftY;
-        const auto width = static_cast<std::size_t>((m_size.width >> shiftX) + 2);
-        const auto height = static_cast<std::size_t>((tallest >> shiftY) + 2);
+        const auto width = static_cast<std::size_t>(m_size.width >> shiftX) + 2;
+        const auto height = static_cast<std::size_t>(tallest >> shiftY) + 2;
         m_strides[plane] = static_cast<std::ptrdiff_t>(width * format.sampleBytes());
         for (std::size_t slot = 0; slot < slots; ++slot) {
             m_slots[slot].planes[plane].resize(width * format.sampleBytes() * height);

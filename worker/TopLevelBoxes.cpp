@@ -9,7 +9,7 @@ namespace imageworker {
 namespace {
 
 // Descriptions of a phone's photo take some kilobytes; those of a long burst some hundred.
-constexpr std::uint64_t MaximumDescription = 64 * 1024 * 1024;
+constexpr std::uint64_t MaximumDescription = std::uint64_t{64} << 20U;
 
 /// Some cameras append a trailer that is not made of boxes; boxes bear names of printable characters.
 bool isBoxName(std::uint32_t type)

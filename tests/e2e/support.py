@@ -67,7 +67,10 @@ def history():
     except FileNotFoundError:
         return []
     found = re.search(r'^recentItems="?@ByteArray\((.*)\)"?$', text, re.MULTILINE)
-    return json.loads(found.group(1).replace('\\"', '"').replace("\\\\", "\\")) if found else []
+    if not found:
+        return []
+    stored = found.group(1).encode("latin-1", "replace").decode("unicode_escape")  # as the settings file escapes bytes
+    return json.loads(stored.encode("latin-1").decode("utf-8"))
 
 
 def entry(name):
