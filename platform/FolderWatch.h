@@ -15,8 +15,8 @@ public:
     /// None when the folder does not exist or may not be read.
     static std::unique_ptr<FolderWatch> open(const QByteArray &path, std::function<void()> onChange);
 
-    /// Whether the kernel sees every change of the folder. On file systems of other machines, and on those that
-    /// a program serves, it sees only the changes that are made through it here.
+    /// Whether the kernel sees every change of the folder. On file systems of other machines, and on those
+    /// that a program serves, it sees only the changes that are made through it here.
     static bool seesEveryChange(const QByteArray &path);
 
     /// Waits for a report that is being delivered, and closes every descriptor. May be called from within a
