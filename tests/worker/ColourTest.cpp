@@ -35,6 +35,39 @@ Profile displayP3()
     return profile;
 }
 
+/// Display P3 as a table from codes to Lab, as scanners' and some cameras' profiles are.
+Profile tableProfile()
+{
+    const Profile space = displayP3();
+    const Profile lab(cmsCreateLab4Profile(nullptr));
+    cmsHTRANSFORM toLab = cmsCreateTransform(space.get(), TYPE_RGB_16, lab.get(), TYPE_Lab_16,
+                                             INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOOPTIMIZE);
+    constexpr cmsUInt32Number steps = 33;
+    cmsStage *table = cmsStageAllocCLut16bit(nullptr, steps, 3, 3, nullptr);
+    cmsStageSampleCLut16bit(
+        table,
+        [](const cmsUInt16Number *from, cmsUInt16Number *to, void *transform) {
+            cmsDoTransform(transform, from, to, 1);
+            return 1;
+        },
+        toLab, 0);
+    cmsPipeline *pipeline = cmsPipelineAlloc(nullptr, 3, 3);
+    cmsPipelineInsertStage(pipeline, cmsAT_BEGIN, table);
+    // A saved table stands between curves.
+    cmsPipelineInsertStage(pipeline, cmsAT_BEGIN, cmsStageAllocToneCurves(nullptr, 3, nullptr));
+    cmsPipelineInsertStage(pipeline, cmsAT_END, cmsStageAllocToneCurves(nullptr, 3, nullptr));
+    Profile profile(cmsCreateProfilePlaceholder(nullptr));
+    cmsSetProfileVersion(profile.get(), 4.3);
+    cmsSetDeviceClass(profile.get(), cmsSigInputClass);
+    cmsSetColorSpace(profile.get(), cmsSigRgbData);
+    cmsSetPCS(profile.get(), cmsSigLabData);
+    cmsWriteTag(profile.get(), cmsSigMediaWhitePointTag, cmsD50_XYZ());
+    cmsWriteTag(profile.get(), cmsSigAToB0Tag, pipeline);
+    cmsPipelineFree(pipeline);
+    cmsDeleteTransform(toLab);
+    return profile;
+}
+
 CodeRow randomCodes(int maximum)
 {
     std::minstd_rand random(7);
@@ -50,12 +83,12 @@ CodeRow randomCodes(int maximum)
 double errorAgainstLcms(cmsHPROFILE profile, int maximum)
 {
     const CodeRow codes = randomCodes(maximum);
-    const auto stage = makeSrgbStage(savedProfile(profile), {}, maximum, false);
+    const Bytes saved = savedProfile(profile);
     Bytes rgba(codes.red.size() * 4);
-    stage->convert(codes, rgba.data());
+    makeSrgbStage(saved, {}, maximum, false)->convert(codes, rgba.data());
     const Profile srgb(cmsCreate_sRGBProfile());
-    void *exact = cmsCreateTransform(profile, TYPE_RGB_DBL, srgb.get(), TYPE_RGB_DBL,
-                                     INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOOPTIMIZE);
+    void *exact = cmsCreateTransform(openProfile(saved).get(), TYPE_RGB_DBL, srgb.get(), TYPE_RGB_DBL,
+                                     INTENT_PERCEPTUAL, cmsFLAGS_NOOPTIMIZE);
     double worst = 0;
     for (std::size_t x = 0; x < codes.red.size(); ++x) {
         const Pixel from = {static_cast<double>(codes.red[x]) / maximum,
@@ -77,6 +110,33 @@ TEST(Colour, ShouldTakeDisplayP3ToSrgbWithinOneCodeOfDoublePrecision)
     const Profile profile = displayP3();
     EXPECT_LT(errorAgainstLcms(profile.get(), 255), 1.0);
     EXPECT_LT(errorAgainstLcms(profile.get(), 4095), 1.0);
+}
+
+TEST(Colour, ShouldFollowAProfileThatIsATable)
+{
+    const Profile profile = tableProfile();
+    EXPECT_LT(errorAgainstLcms(profile.get(), 255), 1.0);
+    EXPECT_LT(errorAgainstLcms(profile.get(), 4095), 1.0);
+}
+
+TEST(Colour, ShouldFollowAGreyProfileInGreyPicturesOnly)
+{
+    cmsToneCurve *curve =
+        cmsBuildGamma(nullptr, 1.0); // linear light: far from what sRGB would make of the codes
+    const Profile profile(cmsCreateGrayProfile(cmsD50_xyY(), curve));
+    cmsFreeToneCurve(curve);
+    CodeRow codes(256);
+    for (std::uint16_t code = 0; code < 256; ++code) {
+        codes.red[code] = codes.green[code] = codes.blue[code] = code;
+    }
+    Bytes rgba(256UL * 4);
+    makeSrgbStage(savedProfile(profile.get()), {}, 255, true)->convert(codes, rgba.data());
+    for (std::size_t code = 0; code < 256; ++code) {
+        ASSERT_NEAR(rgba[4 * code], 255 * srgbOfLinear(static_cast<double>(code) / 255), 1);
+        ASSERT_EQ(rgba[4 * code], rgba[4 * code + 2]);
+    }
+    makeSrgbStage(savedProfile(profile.get()), {}, 255, false)->convert(codes, rgba.data());
+    EXPECT_EQ(rgba[4UL * 64], 64);
 }
 
 TEST(Colour, ShouldTakeABrokenProfileForAbsent)
