@@ -4,6 +4,7 @@
 
 #include "ConversionEngine.h"
 #include "ImageWorkerLauncher.h"
+#include "WorkerCount.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -61,6 +62,7 @@ ConversionOutcome convertInto(const Order &order)
         loop.quit();
     });
     loop.exec();
+    awaitEndOfWorkers();
     return result;
 }
 

@@ -3,6 +3,7 @@
 
 #include "ImageWorker.h"
 #include "ImageWorkerLauncher.h"
+#include "WorkerCount.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
@@ -19,7 +20,10 @@ int main(int argc, char **argv)
     const auto launcher = ImageWorkerLauncher::create();
     launcher->prepare();
     const FileDescriptor photo(::open(argv[1], O_RDONLY | O_CLOEXEC));
-    const auto worker = launcher->launch();
+    auto worker = launcher->launch();
     constexpr int side = 240;
-    return photo.isOpen() && worker->open(photo) && worker->thumbnail(side) ? 0 : 1;
+    const bool isDone = photo.isOpen() && worker->open(photo) && worker->thumbnail(side);
+    worker.reset();
+    awaitEndOfWorkers();
+    return isDone ? 0 : 1;
 }

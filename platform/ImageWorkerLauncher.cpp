@@ -17,17 +17,37 @@ namespace {
 
 using Child = std::shared_ptr<ImageWorkerChild>;
 
+/// A worker that was asked for when all had been ended.
+class EndedWorker : public ImageWorker
+{
+public:
+    tl::expected<ImageSize, ImageWorkerFault> open(const FileDescriptor & /*source*/) override
+    {
+        return tl::unexpected(ImageWorkerFault::Unreadable);
+    }
+    tl::expected<void, ImageWorkerFault> write(const FileDescriptor & /*output*/, ImageFormat /*format*/,
+                                               double /*jpegQuality*/) override
+    {
+        return tl::unexpected(ImageWorkerFault::Unreadable);
+    }
+    tl::expected<QByteArray, ImageWorkerFault> thumbnail(int /*maximumSide*/) override
+    {
+        return tl::unexpected(ImageWorkerFault::Unreadable);
+    }
+};
+
 class ProcessLauncher : public ImageWorkerLauncher
 {
 public:
-    ProcessLauncher(const QString &program, ImageWorkerLimits limits)
-        : m_program(program)
+    ProcessLauncher(const QString &path, ImageWorkerLimits limits)
+        : m_path(path)
         , m_limits(limits)
         , m_thread([this] { startOnDemand(); })
     {}
 
     ~ProcessLauncher() override
     {
+        endAll();
         {
             const std::lock_guard lock(m_mutex);
             m_closing = true;
@@ -49,7 +69,12 @@ public:
             child = m_asked.emplace_back().get_future();
         }
         m_wake.notify_one();
-        return std::make_unique<ImageWorkerProcess>(child.get(), m_limits);
+        Child worker = child.get();
+        const std::lock_guard lock(m_mutex);
+        if (m_hasEnded) {
+            return std::make_unique<EndedWorker>();
+        }
+        return std::make_unique<ImageWorkerProcess>(std::move(worker), m_limits);
     }
 
     void prepare() override
@@ -66,6 +91,9 @@ public:
         const std::lock_guard lock(m_mutex);
         m_hasEnded = true;
         m_spare.reset();
+        if (m_program) {
+            m_program->kill();
+        }
         for (const auto &started : m_started) {
             if (const Child child = started.lock()) {
                 child->kill();
@@ -83,10 +111,32 @@ private:
                 return;
             }
             lock.unlock();
-            Child child = ImageWorkerChild::start(m_program);
+            Child worker = raiseWorker();
             lock.lock();
-            handOut(std::move(child));
+            handOut(std::move(worker));
         }
+    }
+
+    /// By the running program; by a new one should that have gone. Null when there is none to be had.
+    Child raiseWorker()
+    {
+        if (m_program && m_program->isRunning()) {
+            if (Child worker = m_program->raiseWorker(m_limits.start)) {
+                return worker;
+            }
+        }
+        return startProgram() ? m_program->raiseWorker(m_limits.start) : nullptr;
+    }
+
+    bool startProgram()
+    {
+        Child program = ImageWorkerChild::start(m_path);
+        const std::lock_guard lock(m_mutex);
+        if (m_hasEnded) {
+            return false;
+        }
+        m_program = std::move(program);
+        return m_program != nullptr;
     }
 
     void handOut(Child child)
@@ -105,12 +155,13 @@ private:
         }
     }
 
-    const QString m_program;
+    const QString m_path;
     const ImageWorkerLimits m_limits;
     std::mutex m_mutex;
     std::condition_variable m_wake;
     std::deque<std::promise<Child>> m_asked; ///< by launch(), which waits for them
     std::vector<std::weak_ptr<ImageWorkerChild>> m_started;
+    Child m_program; ///< set by the thread, which alone asks it for workers
     Child m_spare;
     bool m_isSpareWanted = false;
     bool m_hasEnded = false; ///< all of them, on request

@@ -1,84 +1,20 @@
 #include "ImageWorkerProcess.h"
 
-#include <QDeadlineTimer>
-#include <QFile>
+#include "DescriptorMessage.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <csignal>
-#include <cstring>
-#include <fcntl.h>
 #include <optional>
-#include <poll.h>
-#include <spawn.h>
-#include <string>
 #include <sys/mman.h>
-#include <sys/socket.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
 
 using namespace imageworkerwire;
 
 namespace {
 
-/// posix_spawn's list of what to do with descriptors in the child.
-class SpawnActions
+std::optional<Reply> receiveReply(const ImageWorkerChild &worker, std::chrono::milliseconds limit)
 {
-public:
-    SpawnActions() { ::posix_spawn_file_actions_init(&m_actions); }
-    ~SpawnActions() { ::posix_spawn_file_actions_destroy(&m_actions); }
-    SpawnActions(const SpawnActions &) = delete;
-    SpawnActions &operator=(const SpawnActions &) = delete;
-
-    /// The standard streams lead nowhere, the socket gets its number, and nothing else of ours stays open.
-    void giveOnly(int socket)
-    {
-        for (int stream = 0; stream < 3; ++stream) {
-            ::posix_spawn_file_actions_addopen(&m_actions, stream, "/dev/null", O_RDWR, 0);
-        }
-        ::posix_spawn_file_actions_adddup2(&m_actions, socket, WorkerDescriptor);
-        ::posix_spawn_file_actions_addclosefrom_np(&m_actions, WorkerDescriptor + 1);
-    }
-    const posix_spawn_file_actions_t *get() const { return &m_actions; }
-
-private:
-    posix_spawn_file_actions_t m_actions = {};
-};
-
-bool sendRequest(int socket, const Request &request, int file)
-{
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> control = {};
-    iovec part = {const_cast<Request *>(&request), sizeof(request)};
-    msghdr message = {};
-    message.msg_iov = &part;
-    message.msg_iovlen = 1;
-    message.msg_control = control.data();
-    message.msg_controllen = control.size();
-    cmsghdr *header = CMSG_FIRSTHDR(&message);
-    header->cmsg_level = SOL_SOCKET;
-    header->cmsg_type = SCM_RIGHTS;
-    header->cmsg_len = CMSG_LEN(sizeof(int));
-    std::memcpy(CMSG_DATA(header), &file, sizeof(int));
-    ssize_t sent = 0;
-    do {
-        sent = ::sendmsg(socket, &message, MSG_NOSIGNAL);
-    } while (sent < 0 && errno == EINTR);
-    return sent == ssize_t{sizeof(request)};
-}
-
-std::optional<Reply> receiveReply(int socket, std::chrono::milliseconds limit)
-{
-    QDeadlineTimer deadline(limit);
-    pollfd waiting = {socket, POLLIN, 0};
-    int ready = 0;
-    do {
-        ready = ::poll(&waiting, 1, static_cast<int>(deadline.remainingTime()));
-    } while (ready < 0 && errno == EINTR);
     Reply reply;
-    if (ready <= 0 ||
-        ::recv(socket, &reply, sizeof(reply), MSG_DONTWAIT | MSG_TRUNC) != ssize_t{sizeof(reply)}) {
+    if (!worker.awaitWord(limit) ||
+        ::recv(worker.socket(), &reply, sizeof(reply), MSG_DONTWAIT | MSG_TRUNC) != ssize_t{sizeof(reply)}) {
         return std::nullopt;
     }
     return reply;
@@ -91,61 +27,12 @@ tl::unexpected<ImageWorkerFault> failed(ImageWorkerFault fault)
 
 } // namespace
 
-std::shared_ptr<ImageWorkerChild> ImageWorkerChild::start(const QString &program)
-{
-    std::array<int, 2> ends = {-1, -1};
-    if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) {
-        return nullptr;
-    }
-    FileDescriptor ours(ends[0]);
-    const FileDescriptor theirs(ends[1]);
-    SpawnActions actions;
-    actions.giveOnly(theirs.number());
-    std::string path = QFile::encodeName(program).toStdString();
-    std::string parent = std::to_string(::getpid());
-    std::array<char *, 3> arguments = {path.data(), parent.data(), nullptr};
-    std::array<char *, 1> environment = {nullptr};
-    pid_t identifier = 0;
-    if (::posix_spawn(&identifier, path.c_str(), actions.get(), nullptr, arguments.data(),
-                      environment.data()) != 0) {
-        return nullptr;
-    }
-    FileDescriptor process(static_cast<int>(::syscall(SYS_pidfd_open, identifier, 0)));
-    if (!process.isOpen()) {
-        ::kill(identifier, SIGKILL);
-        ::waitpid(identifier, nullptr, 0);
-        return nullptr;
-    }
-    return std::make_shared<ImageWorkerChild>(std::move(process), std::move(ours));
-}
-
-bool ImageWorkerChild::isRunning() const
-{
-    pollfd ended = {m_process.number(), POLLIN, 0};
-    return ::poll(&ended, 1, 0) == 0;
-}
-
-void ImageWorkerChild::kill()
-{
-    m_isKilled = true;
-    ::syscall(SYS_pidfd_send_signal, m_process.number(), SIGKILL, nullptr, 0);
-}
-
-void ImageWorkerChild::end()
-{
-    kill();
-    siginfo_t status = {};
-    while (::waitid(P_PIDFD, static_cast<id_t>(m_process.number()), &status, WEXITED) != 0 &&
-           errno == EINTR) {
-    }
-}
-
 tl::expected<Reply, ImageWorkerFault>
 ImageWorkerProcess::ask(const Request &request, const FileDescriptor &file, std::chrono::milliseconds limit)
 {
     const bool asked = m_child && m_child->isRunning() && file.isOpen() &&
-                       sendRequest(m_child->socket(), request, file.number());
-    const std::optional<Reply> reply = asked ? receiveReply(m_child->socket(), limit) : std::nullopt;
+                       sendWithDescriptor(m_child->socket(), request, file.number());
+    const std::optional<Reply> reply = asked ? receiveReply(*m_child, limit) : std::nullopt;
     if (!reply) {
         m_child.reset();
         return failed(ImageWorkerFault::Unreadable);
@@ -164,8 +51,7 @@ ImageWorkerProcess::ask(const Request &request, const FileDescriptor &file, std:
 
 tl::expected<void, ImageWorkerFault> ImageWorkerProcess::awaitLockDown()
 {
-    const std::optional<Reply> greeting =
-        m_child ? receiveReply(m_child->socket(), m_limits.start) : std::nullopt;
+    const std::optional<Reply> greeting = m_child ? receiveReply(*m_child, m_limits.start) : std::nullopt;
     if (greeting && greeting->outcome == Outcome::Done) {
         return {};
     }

@@ -1,44 +1,11 @@
 #pragma once
 
 #include "ImageWorker.h"
+#include "ImageWorkerChild.h"
 #include "ImageWorkerLimits.h"
 #include "ImageWorkerWire.h"
 
-#include <QString>
-
-#include <atomic>
 #include <memory>
-
-/// A started worker: the process and this end of its socket. Ending and reaping it is the destructor's work.
-class ImageWorkerChild
-{
-public:
-    ImageWorkerChild(FileDescriptor process, FileDescriptor socket)
-        : m_process(std::move(process))
-        , m_socket(std::move(socket))
-    {}
-    ~ImageWorkerChild() { end(); }
-    ImageWorkerChild(const ImageWorkerChild &) = delete;
-    ImageWorkerChild &operator=(const ImageWorkerChild &) = delete;
-
-    /// Starts `program` on the calling thread; null when that fails.
-    static std::shared_ptr<ImageWorkerChild> start(const QString &program);
-
-    bool isRunning() const;
-    int socket() const { return m_socket.number(); }
-
-    /// Kills the process and returns at once; from any thread.
-    void kill();
-    /// Whether kill() has been called, so that its silence says nothing of the program.
-    bool isKilled() const { return m_isKilled; }
-    /// Kills the process and waits until it is gone.
-    void end();
-
-private:
-    FileDescriptor m_process; ///< a descriptor of the process, which cannot come to mean another
-    FileDescriptor m_socket;
-    std::atomic<bool> m_isKilled = false;
-};
 
 /// The photo's side of the conversation with one child.
 class ImageWorkerProcess : public ImageWorker

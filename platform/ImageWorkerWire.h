@@ -2,14 +2,25 @@
 
 #include <cstdint>
 
-/// The conversation between the application and lumaport-imageworker, over a socket that keeps records apart
-/// (SOCK_SEQPACKET). The worker speaks first: a reply that says whether it has given up its rights. Then
-/// every request is answered by one reply; each brings along the descriptor of the file it is about. Both
-/// programs are built together, so that the records may be sent as they lie in memory.
+/// The conversations between the application and lumaport-imageworker, over sockets that keep records apart
+/// (SOCK_SEQPACKET). Both programs are built together, so that the records may be sent as they lie in memory.
+///
+/// The program itself never sees a photo. For each Birth, which brings along one end of a new socket, it
+/// raises a worker that gets this end, and answers with a Birth that brings along a descriptor of the
+/// worker's process.
+///
+/// The worker speaks first: a reply that says whether it has given up its rights. Then every request is
+/// answered by one reply; each brings along the descriptor of the file it is about.
 namespace imageworkerwire {
 
-/// The worker finds its end of the socket here; nothing else is open in it but the three standard streams.
-inline constexpr int WorkerDescriptor = 3;
+/// The program finds its end of the first socket here; nothing else is open in it but the three standard
+/// streams.
+inline constexpr int NurseryDescriptor = 3;
+
+struct Birth
+{
+    std::uint32_t reserved = 0;
+};
 
 enum class RequestKind : std::uint32_t {
     Open = 1,      ///< with the source, open for reading

@@ -1,14 +1,11 @@
 #include "Conversation.h"
 
-#include "FileDescriptor.h"
+#include "DescriptorMessage.h"
 #include "ImageWorkerWire.h"
 #include "PhotoConverter.h"
 #include "PhotoReader.h"
 #include "Thumbnail.h"
 
-#include <array>
-#include <cerrno>
-#include <cstring>
 #include <sys/resource.h>
 #include <sys/socket.h>
 
@@ -18,36 +15,7 @@ namespace {
 
 using namespace imageworkerwire;
 
-struct Asked
-{
-    Request request;
-    FileDescriptor file;
-};
-
-/// The next request; nothing once the application has gone, or says what no application of ours does.
-std::optional<Asked> receive(int socket)
-{
-    Asked asked;
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> control = {};
-    iovec part = {&asked.request, sizeof(asked.request)};
-    msghdr message = {};
-    message.msg_iov = &part;
-    message.msg_iovlen = 1;
-    message.msg_control = control.data();
-    message.msg_controllen = control.size();
-    ssize_t count = 0;
-    do {
-        count = ::recvmsg(socket, &message, MSG_CMSG_CLOEXEC);
-    } while (count < 0 && errno == EINTR);
-    const cmsghdr *header = CMSG_FIRSTHDR(&message);
-    if (count != ssize_t{sizeof(Request)} || header == nullptr || header->cmsg_type != SCM_RIGHTS) {
-        return std::nullopt;
-    }
-    int descriptor = -1;
-    std::memcpy(&descriptor, CMSG_DATA(header), sizeof(descriptor));
-    asked.file = FileDescriptor(descriptor);
-    return asked;
-}
+using Asked = DescriptorMessage<Request>;
 
 bool send(int socket, const Reply &reply)
 {
@@ -68,9 +36,9 @@ class OpenedPhoto
 public:
     Reply answer(Asked &asked)
     {
-        switch (asked.request.kind) {
+        switch (asked.record.kind) {
         case RequestKind::Open:
-            return open(std::move(asked.file));
+            return open(std::move(asked.descriptor));
         case RequestKind::Write:
             return write(asked);
         case RequestKind::Thumbnail:
@@ -97,17 +65,17 @@ private:
         if (!m_photo) {
             return {Outcome::Unreadable};
         }
-        const CopyFormat format = asked.request.format == Format::Png ? CopyFormat::Png : CopyFormat::Jpeg;
+        const CopyFormat format = asked.record.format == Format::Png ? CopyFormat::Png : CopyFormat::Jpeg;
         return {outcomeOf(
-            writeCopy(*m_source, *m_photo, asked.file.number(), format, asked.request.jpegQuality))};
+            writeCopy(*m_source, *m_photo, asked.descriptor.number(), format, asked.record.jpegQuality))};
     }
 
     Reply thumbnail(const Asked &asked) const
     {
         constexpr int LeastUrgent = 19;
         ::setpriority(PRIO_PROCESS, 0, LeastUrgent); // nobody waits for it; conversions come first
-        return {m_photo ? outcomeOf(writeThumbnail(*m_source, *m_photo, asked.file.number(),
-                                                   asked.request.maximumSide))
+        return {m_photo ? outcomeOf(writeThumbnail(*m_source, *m_photo, asked.descriptor.number(),
+                                                   asked.record.maximumSide))
                         : Outcome::Unreadable};
     }
 
@@ -125,7 +93,7 @@ void converse(int socket, Rights rights)
         return;
     }
     OpenedPhoto photo;
-    while (auto asked = receive(socket)) {
+    while (auto asked = receiveWithDescriptor<Request>(socket)) {
         if (!send(socket, photo.answer(*asked))) {
             return;
         }

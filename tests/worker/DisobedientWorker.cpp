@@ -1,8 +1,10 @@
 // A worker that, once locked down as the real one is, does what its source file orders: the first word in it.
 // Should an order succeed, it answers that all is well, which no test expects.
 
+#include "DescriptorMessage.h"
 #include "ImageWorkerWire.h"
 #include "LockDown.h"
+#include "Nursery.h"
 #include "TileDecoder.h"
 
 #include <array>
@@ -21,26 +23,21 @@ namespace {
 
 using namespace imageworkerwire;
 
-int receiveFile(Request &request)
+int conversation = -1; ///< the socket; one process has one
+
+/// What the next request is about.
+FileDescriptor receiveFile()
 {
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(int))> control = {};
-    iovec part = {&request, sizeof(request)};
-    msghdr message = {};
-    message.msg_iov = &part;
-    message.msg_iovlen = 1;
-    message.msg_control = control.data();
-    message.msg_controllen = control.size();
-    if (::recvmsg(WorkerDescriptor, &message, 0) != ssize_t{sizeof(request)}) {
-        std::exit(0);
+    auto received = receiveWithDescriptor<Request>(conversation);
+    if (!received) {
+        std::exit(EXIT_SUCCESS);
     }
-    int file = -1;
-    std::memcpy(&file, CMSG_DATA(CMSG_FIRSTHDR(&message)), sizeof(file));
-    return file;
+    return std::move(received->descriptor);
 }
 
 void answer(const Reply &reply)
 {
-    ::send(WorkerDescriptor, &reply, sizeof(reply), MSG_NOSIGNAL);
+    ::send(conversation, &reply, sizeof(reply), MSG_NOSIGNAL);
 }
 
 [[noreturn]] void spin()
@@ -103,21 +100,21 @@ void obey(std::string_view order, int source)
         spin();
     } else if (order == "sleep") {
         int unused[2] = {};
-        while (::read(WorkerDescriptor, unused, sizeof(unused)) >= 0) { // nobody will write
+        while (::read(conversation, unused, sizeof(unused)) >= 0) { // nobody will write
         }
     } else if (order == "huge") {
         answer({Outcome::Done, 60'000, 60'000});
     } else if (order == "negative") {
         answer({Outcome::Done, -5, 4});
     } else if (order == "nonsense") {
-        ::send(WorkerDescriptor, "?", 1, MSG_NOSIGNAL);
+        ::send(conversation, "?", 1, MSG_NOSIGNAL);
     } else if (order == "endless-write") {
         answer({Outcome::Done, 4, 4});
-        Request request;
-        const int output = receiveFile(request);
+        const FileDescriptor output = receiveFile();
         const std::array<char, 65'536> block = {};
-        while (::write(output, block.data(), block.size()) > 0) {
-            ::lseek(output, 1'000'000'000, SEEK_CUR); // holes: the limit counts the size, the disk is spared
+        while (::write(output.number(), block.data(), block.size()) > 0) {
+            ::lseek(output.number(), 1'000'000'000,
+                    SEEK_CUR); // holes: the limit counts the size, the disk is spared
         }
         answer({Outcome::CannotWrite});
     } else {
@@ -125,20 +122,27 @@ void obey(std::string_view order, int source)
     }
 }
 
+void work(int socket)
+{
+    conversation = socket;
+    if (!imageworker::lockDown()) {
+        return;
+    }
+    answer({Outcome::Done});
+    const FileDescriptor source = receiveFile();
+    std::array<char, 64> order = {};
+    const ssize_t length = ::read(source.number(), order.data(), order.size());
+    obey(std::string_view(order.data(), length > 0 ? static_cast<std::size_t>(length) : 0), source.number());
+    receiveFile();
+}
+
 } // namespace
 
 int main(int, char **arguments)
 {
-    if (!imageworker::tieToParent(std::atoi(arguments[1])) || !imageworker::loadDecoders() ||
-        !imageworker::lockDown()) {
+    if (!imageworker::tieToParent(std::atoi(arguments[1])) || !imageworker::loadDecoders()) {
         return EXIT_FAILURE;
     }
-    answer({Outcome::Done});
-    Request request;
-    const int source = receiveFile(request);
-    std::array<char, 64> order = {};
-    const ssize_t length = ::read(source, order.data(), order.size());
-    obey(std::string_view(order.data(), length > 0 ? static_cast<std::size_t>(length) : 0), source);
-    receiveFile(request);
+    imageworker::raiseWorkers(NurseryDescriptor, work);
     return EXIT_SUCCESS;
 }

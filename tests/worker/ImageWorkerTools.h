@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FileDescriptor.h"
+#include "WorkerCount.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -29,7 +30,7 @@ inline QByteArray pngOf(QSize size)
     return image.save(&file, "PNG") ? file.data() : QByteArray();
 }
 
-/// Whether any process of this one is left, running or not yet reaped.
+/// Whether any child of this process is left, running or not yet reaped.
 inline bool hasChildren()
 {
     siginfo_t status = {};

@@ -55,6 +55,7 @@ private Q_SLOTS:
             converted += thread.get();
         }
         QCOMPARE(converted, Threads * PhotosOfThread / 2);
+        QTRY_VERIFY(workerCount() <= 1); // the one that stands ready
         launcher.reset();
         QCOMPARE(openDescriptors(), before);
         QVERIFY(!hasChildren());

@@ -1,0 +1,50 @@
+#include "Nursery.h"
+
+#include "DescriptorMessage.h"
+#include "ImageWorkerWire.h"
+#include "LockDown.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+
+namespace imageworker {
+
+using namespace imageworkerwire;
+
+namespace {
+
+/// Takes the workers that have ended, so that their processor time is booked to this program.
+void takeEnded(int /*signal*/)
+{
+    const int error = errno;
+    while (::waitpid(-1, nullptr, WNOHANG) > 0) {
+    }
+    errno = error;
+}
+
+} // namespace
+
+void raiseWorkers(int socket, void (*work)(int socket))
+{
+    ::signal(SIGCHLD, takeEnded);
+    const pid_t self = ::getpid();
+    while (const auto asked = receiveWithDescriptor<Birth>(socket)) {
+        const pid_t worker = ::fork();
+        if (worker == 0) {
+            ::close(socket);
+            if (tieToParent(self)) {
+                work(asked->descriptor.number());
+            }
+            std::_Exit(EXIT_SUCCESS);
+        }
+        // Numbers are given out in turn: even if the worker has gone already, this one is not another's yet.
+        const FileDescriptor process(static_cast<int>(::syscall(SYS_pidfd_open, worker, 0)));
+        if (worker < 0 || !process.isOpen() || !sendWithDescriptor(socket, Birth{}, process.number())) {
+            return;
+        }
+    }
+}
+
+} // namespace imageworker
