@@ -141,18 +141,11 @@ Result<Raster> decodeJpeg(std::span<const std::uint8_t> file, unsigned reduction
     const Bytes profile =
         reader.segments(JPEG_APP0 + 2, IccPrefix, 2); // number and count of the parts, which come in order
     const auto stage = makeSrgbStage(profile, {}, 255, reader.isGrey());
-    CodeRow codes(raster.size.width);
     for (int y = 0; y < raster.size.height; ++y) {
-        std::uint8_t *row = raster.row(y);
-        if (!reader.readRow(row)) {
+        if (!reader.readRow(raster.row(y))) {
             return unreadable();
         }
-        for (std::size_t x = 0; x < codes.red.size(); ++x) {
-            codes.red[x] = row[4 * x];
-            codes.green[x] = row[4 * x + 1];
-            codes.blue[x] = row[4 * x + 2];
-        }
-        stage->convert(codes, row);
+        convertInPlace(*stage, raster.row(y), raster.size.width);
     }
     if (!reader.finish()) {
         return unreadable();

@@ -2,6 +2,7 @@
 
 #include "ColourSpace.h"
 #include "Exif.h"
+#include "Xmp.h"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +18,6 @@ namespace {
 
 constexpr std::size_t LongestSegment = 65'533; // what a marker's two bytes of length leave
 constexpr std::string_view ExifPrefix("Exif\0\0", 6);
-constexpr std::string_view XmpPrefix("http://ns.adobe.com/xap/1.0/\0", 29);
 constexpr std::string_view IccPrefix("ICC_PROFILE\0\1\1", 14); // the first of one part
 constexpr double FinestColoursFrom = 0.95;
 
@@ -55,7 +55,7 @@ public:
         , m_quality(static_cast<int>(std::lround(std::clamp(quality, 0.0, 1.0) * 100)))
         , m_colourSampling(quality < FinestColoursFrom ? 2 : 1)
         , m_exif(segment(ExifPrefix, exifWithin(metadata.exif, LongestSegment - ExifPrefix.size())))
-        , m_xmp(segment(XmpPrefix, metadata.xmp))
+        , m_xmp(xmpSegments(metadata.xmp, LongestSegment))
         , m_profile(segment(IccPrefix, profileOfSrgb()))
         , m_row(static_cast<std::size_t>(size.width) * 4)
     {
@@ -148,7 +148,9 @@ private:
         m_jpeg.comp_info[0].v_samp_factor = m_colourSampling;
         jpeg_start_compress(&m_jpeg, TRUE);
         writeSegment(JPEG_APP0 + 1, m_exif);
-        writeSegment(JPEG_APP0 + 1, m_xmp);
+        for (const Bytes &part : m_xmp) {
+            writeSegment(JPEG_APP0 + 1, part);
+        }
         writeSegment(JPEG_APP0 + 2, m_profile);
         return true;
     }
@@ -176,7 +178,7 @@ private:
     const int m_quality;
     const int m_colourSampling; ///< pixels of brightness for one of colour, along each axis
     const Bytes m_exif;
-    const Bytes m_xmp;
+    const std::vector<Bytes> m_xmp;
     const Bytes m_profile;
     std::vector<std::uint8_t> m_row;
     std::array<std::uint8_t, BufferLength> m_buffer = {};

@@ -1,13 +1,11 @@
 #include "PlainFileReader.h"
 
-#include "Boxes.h"
 #include "Exif.h"
 #include "JpegDecoder.h"
+#include "PngDecoder.h"
 
 #include <algorithm>
 #include <array>
-#include <png.h>
-#include <string_view>
 
 namespace imageworker {
 
@@ -15,43 +13,18 @@ namespace {
 
 constexpr std::array<std::uint8_t, 8> PngSignature = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
 constexpr std::array<std::uint8_t, 3> JpegStart = {0xFF, 0xD8, 0xFF};
-constexpr std::string_view XmpKeyword("XML:com.adobe.xmp\0\0\0\0\0", 22);
 
-/// Walks the chunks of a PNG (W3C PNG, 5.3) for its size and metadata. Unreadable without the one that ends
-/// it.
 Result<Photo> readPng(std::span<const std::uint8_t> file)
 {
-    Photo photo;
-    PlainFile plain{PlainFile::Kind::Png, {}, {}};
-    ByteReader reader(file);
-    reader.take(PngSignature.size());
-    while (!reader.atEnd()) {
-        const std::uint32_t length = reader.u32();
-        const std::uint32_t type = reader.u32();
-        const auto content = reader.take(length);
-        reader.u32(); // checksum
-        if (reader.failed()) {
-            return unreadable();
-        }
-        if (type == fourCharacters("IHDR")) {
-            ByteReader header(content);
-            const std::int64_t width = header.u32();
-            const std::int64_t height = header.u32();
-            if (header.failed() || !isAcceptable(width, height)) {
-                return unreadable();
-            }
-            plain.stored = {static_cast<int>(width), static_cast<int>(height)};
-        } else if (type == fourCharacters("eXIf")) {
-            photo.exif.assign(content.begin(), content.end());
-        } else if (type == fourCharacters("iTXt") && content.size() > XmpKeyword.size() &&
-                   std::equal(XmpKeyword.begin(), XmpKeyword.end(), content.begin())) {
-            photo.xmp.assign(content.begin() + XmpKeyword.size(), content.end());
-        } else if (type == fourCharacters("IEND") && plain.stored.width > 0) {
-            photo.picture = plain;
-            return photo;
-        }
+    auto header = readPngHeader(file);
+    if (!header) {
+        return unreadable();
     }
-    return unreadable();
+    Photo photo;
+    photo.picture = PlainFile{PlainFile::Kind::Png, header->size, {}};
+    photo.exif = std::move(header->exif);
+    photo.xmp = std::move(header->xmp);
+    return photo;
 }
 
 Result<Photo> readJpeg(std::span<const std::uint8_t> file)
@@ -70,23 +43,6 @@ Result<Photo> readJpeg(std::span<const std::uint8_t> file)
     photo.exif = std::move(header->exif);
     photo.xmp = std::move(header->xmp);
     return photo;
-}
-
-Result<Raster> decodePng(std::span<const std::uint8_t> file)
-{
-    png_image image = {};
-    image.version = PNG_IMAGE_VERSION;
-    if (png_image_begin_read_from_memory(&image, file.data(), file.size()) == 0 ||
-        !isAcceptable(image.width, image.height)) {
-        png_image_free(&image);
-        return unreadable();
-    }
-    image.format = PNG_FORMAT_RGBA;
-    Raster raster({static_cast<int>(image.width), static_cast<int>(image.height)});
-    if (png_image_finish_read(&image, nullptr, raster.rgba.data(), 0, nullptr) == 0) {
-        return unreadable();
-    }
-    return raster;
 }
 
 } // namespace

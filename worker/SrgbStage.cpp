@@ -85,4 +85,20 @@ std::unique_ptr<SrgbStage> makeSrgbStage(const Bytes &iccProfile, const CodePoin
         matrixSpaceOf(codePoints.primaries, codePoints.transfer, maximumCode));
 }
 
+void convertInPlace(const SrgbStage &stage, std::uint8_t *rgba, int width)
+{
+    CodeRow codes(width);
+    Bytes opacities(codes.red.size());
+    for (std::size_t x = 0; x < codes.red.size(); ++x) {
+        codes.red[x] = rgba[4 * x];
+        codes.green[x] = rgba[4 * x + 1];
+        codes.blue[x] = rgba[4 * x + 2];
+        opacities[x] = rgba[4 * x + 3];
+    }
+    stage.convert(codes, rgba);
+    for (std::size_t x = 0; x < opacities.size(); ++x) {
+        rgba[4 * x + 3] = opacities[x];
+    }
+}
+
 } // namespace imageworker

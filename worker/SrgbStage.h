@@ -24,4 +24,7 @@ public:
 std::unique_ptr<SrgbStage> makeSrgbStage(const Bytes &iccProfile, const CodePoints &codePoints,
                                          int maximumCode, bool isGrey);
 
+/// Converts a row of 8-bit codes with opacity, which stays.
+void convertInPlace(const SrgbStage &stage, std::uint8_t *rgba, int width);
+
 } // namespace imageworker

@@ -107,9 +107,17 @@ class Application:
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Lumaport"], capture_output=True, text=True)
         return found.stdout.split()
 
-    def workers(self):
-        """Process numbers of the image workers, those that have ended but were not reaped included."""
+    def worker_programs(self):
+        """Process numbers of the running worker programs: the conversions' and the previews'."""
         found = subprocess.run(["pgrep", "-P", str(self.process.pid)], capture_output=True, text=True)
+        return found.stdout.split()
+
+    def workers(self):
+        """Process numbers of the workers that these have raised, those that have ended but were not reaped included."""
+        programs = self.worker_programs()
+        if not programs:
+            return []
+        found = subprocess.run(["pgrep", "-P", ",".join(programs)], capture_output=True, text=True)
         return found.stdout.split()
 
 

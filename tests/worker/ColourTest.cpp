@@ -1,11 +1,13 @@
 #include "CodeConversion.h"
 #include "ColourSpace.h"
+#include "PngDecoder.h"
 #include "SrgbStage.h"
 #include "TransferCurve.h"
 
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <png.h>
 #include <random>
 
 namespace imageworker {
@@ -79,6 +81,30 @@ CodeRow randomCodes(int maximum)
     return codes;
 }
 
+/// One row as an independent encoder writes it with a profile.
+Bytes pngOf(const Bytes &rgba, const Bytes &profile)
+{
+    Bytes file;
+    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    png_infop info = png_create_info_struct(png);
+    png_set_write_fn(
+        png, &file,
+        [](png_structp writer, png_bytep bytes, std::size_t length) {
+            auto *target = static_cast<Bytes *>(png_get_io_ptr(writer));
+            target->insert(target->end(), bytes, bytes + length);
+        },
+        nullptr);
+    png_set_IHDR(png, info, static_cast<png_uint_32>(rgba.size() / 4), 1, 8, PNG_COLOR_TYPE_RGBA,
+                 PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_BASE, PNG_FILTER_TYPE_BASE);
+    png_set_iCCP(png, info, "wide", PNG_COMPRESSION_TYPE_BASE, profile.data(),
+                 static_cast<png_uint_32>(profile.size()));
+    png_write_info(png, info);
+    png_write_row(png, rgba.data());
+    png_write_end(png, info);
+    png_destroy_write_struct(&png, &info);
+    return file;
+}
+
 /// Largest distance from what lcms2 gives in double precision, in codes.
 double errorAgainstLcms(cmsHPROFILE profile, int maximum)
 {
@@ -137,6 +163,25 @@ TEST(Colour, ShouldFollowAGreyProfileInGreyPicturesOnly)
     }
     makeSrgbStage(savedProfile(profile.get()), {}, 255, false)->convert(codes, rgba.data());
     EXPECT_EQ(rgba[4UL * 64], 64);
+}
+
+TEST(Colour, ShouldFollowTheProfileInAPng)
+{
+    const CodeRow codes = randomCodes(255);
+    const Bytes profile = savedProfile(displayP3().get());
+    Bytes stored;
+    for (std::size_t x = 0; x < codes.red.size(); ++x) {
+        for (const std::uint16_t value : {codes.red[x], codes.green[x], codes.blue[x], codes.red[x]}) {
+            stored.push_back(static_cast<std::uint8_t>(value));
+        }
+    }
+    Bytes expected(stored.size());
+    makeSrgbStage(profile, {}, 255, false)->convert(codes, expected.data());
+    const auto raster = decodePng(pngOf(stored, profile));
+    ASSERT_TRUE(raster);
+    for (std::size_t index = 0; index < expected.size(); ++index) {
+        ASSERT_EQ(raster->rgba[index], index % 4 == 3 ? stored[index] : expected[index]);
+    }
 }
 
 TEST(Colour, ShouldTakeABrokenProfileForAbsent)

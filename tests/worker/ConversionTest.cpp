@@ -1,60 +1,17 @@
+#include "ConvertedPhoto.h"
 #include "MadePhoto.h"
-#include "PhotoConverter.h"
 #include "PhotoReader.h"
 #include "Thumbnail.h"
 #include "TileDecoder.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
 namespace imageworker {
 
 namespace {
-
-class MemoryFile
-{
-public:
-    ~MemoryFile() { ::close(m_descriptor); }
-    int descriptor() const { return m_descriptor; }
-    Bytes bytes() const
-    {
-        Bytes content(static_cast<std::size_t>(::lseek(m_descriptor, 0, SEEK_END)));
-        EXPECT_EQ(::pread(m_descriptor, content.data(), content.size(), 0),
-                  static_cast<ssize_t>(content.size()));
-        return content;
-    }
-
-private:
-    int m_descriptor = ::memfd_create("output", MFD_CLOEXEC);
-};
-
-Result<Bytes> convert(const Bytes &photo, CopyFormat format)
-{
-    const auto source = sourceOfBytes(photo);
-    const auto read = readPhoto(*source);
-    if (!read) {
-        return tl::unexpected(read.error());
-    }
-    const MemoryFile output;
-    if (const auto written = writeCopy(*source, *read, output.descriptor(), format, 0.9); !written) {
-        return tl::unexpected(written.error());
-    }
-    return output.bytes();
-}
-
-int largestDifference(const Raster &a, const Raster &b)
-{
-    int largest = 0;
-    for (std::size_t index = 0; index < a.rgba.size(); ++index) {
-        largest = std::max(largest, std::abs(a.rgba[index] - b.rgba[index]));
-    }
-    return largest;
-}
 
 Bytes readFile(const std::filesystem::path &path)
 {

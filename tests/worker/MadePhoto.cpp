@@ -68,9 +68,16 @@ Raster cornerColours(PixelSize size, bool hasAlpha)
 
 Bytes makePhoto(const PhotoRecipe &recipe)
 {
+    return makePhoto(recipe, cornerColours(recipe.size, recipe.hasAlpha));
+}
+
+Bytes makePhoto(const PhotoRecipe &recipe, const Raster &picture)
+{
     const Context context(heif_context_alloc(), &heif_context_free);
     heif_encoder *found = nullptr;
-    check(heif_context_get_encoder_for_format(context.get(), heif_compression_HEVC, &found));
+    check(heif_context_get_encoder_for_format(
+        context.get(), recipe.codec == PhotoRecipe::Codec::Av1 ? heif_compression_AV1 : heif_compression_HEVC,
+        &found));
     const std::unique_ptr<heif_encoder, decltype(&heif_encoder_release)> encoder(found,
                                                                                  &heif_encoder_release);
     check(heif_encoder_set_lossy_quality(encoder.get(), 90));
@@ -81,12 +88,16 @@ Bytes makePhoto(const PhotoRecipe &recipe)
     const std::unique_ptr<heif_encoding_options, decltype(&heif_encoding_options_free)> options(
         heif_encoding_options_alloc(), &heif_encoding_options_free);
     options->image_orientation = static_cast<heif_orientation>(recipe.orientation);
-    const Image image = imageOf(cornerColours(recipe.size, recipe.hasAlpha), recipe);
+    const Image image = imageOf(picture, recipe);
     heif_image_handle *handle = nullptr;
     check(heif_context_encode_image(context.get(), image.get(), encoder.get(), options.get(), &handle));
     if (!recipe.exif.empty()) {
         check(heif_context_add_exif_metadata(context.get(), handle, recipe.exif.data(),
                                              static_cast<int>(recipe.exif.size())));
+    }
+    if (!recipe.xmp.empty()) {
+        check(heif_context_add_XMP_metadata(context.get(), handle, recipe.xmp.data(),
+                                            static_cast<int>(recipe.xmp.size())));
     }
     heif_image_handle_release(handle);
     Bytes bytes;

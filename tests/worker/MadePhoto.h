@@ -10,6 +10,7 @@ namespace imageworker {
 struct PhotoRecipe
 {
     enum class Chroma { Quarter, Full, None };
+    enum class Codec { Hevc, Av1 };
 
     PixelSize size{96, 64};
     Chroma chroma = Chroma::Quarter;
@@ -17,6 +18,8 @@ struct PhotoRecipe
     unsigned orientation = 1; ///< as for Exif; written into the container
     Bytes iccProfile;
     Bytes exif; ///< from the TIFF header on
+    Bytes xmp;
+    Codec codec = Codec::Hevc;
 };
 
 /// A smooth picture with a different colour in each corner, so that turns and mirrors show.
@@ -24,6 +27,8 @@ Raster cornerColours(PixelSize size, bool hasAlpha);
 
 /// The bytes of a HEIC file with cornerColours(), written by an encoder that is not this project's.
 Bytes makePhoto(const PhotoRecipe &recipe);
+/// The same with @p picture, whose size counts.
+Bytes makePhoto(const PhotoRecipe &recipe, const Raster &picture);
 
 /// How the independent decoder shows it; nothing when it cannot.
 std::optional<Raster> decodeIndependently(const Bytes &photo);

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "PhotoConverter.h"
+#include "Raster.h"
+
+namespace imageworker {
+
+/// A file without a name to write into.
+class MemoryFile
+{
+public:
+    MemoryFile();
+    ~MemoryFile();
+    MemoryFile(const MemoryFile &) = delete;
+    MemoryFile &operator=(const MemoryFile &) = delete;
+
+    int descriptor() const { return m_descriptor; }
+    Bytes bytes() const;
+
+private:
+    int m_descriptor;
+};
+
+/// The copy of @p photo, a whole file.
+Result<Bytes> convert(const Bytes &photo, CopyFormat format);
+
+/// Largest difference of two values at the same place; that of black and white for pictures of other sizes.
+int largestDifference(const Raster &a, const Raster &b);
+
+} // namespace imageworker
