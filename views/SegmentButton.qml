@@ -1,11 +1,10 @@
 import QtQuick
 import QtQuick.Controls.Basic as Basic
-import QtQuick.Templates as T
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
 // One segment of a segmented control. Chosen, its label is white and a little higher.
-T.Control {
+Item {
     id: button
 
     required property Segment segment
@@ -20,24 +19,23 @@ T.Control {
     Accessible.focusable: true
     Accessible.name: segment.name
     Accessible.onPressAction: button.clicked()
+    Accessible.onToggleAction: button.clicked()
     Accessible.role: Accessible.RadioButton
     Accessible.selectable: true
     Accessible.selected: selected
     Basic.ToolTip.delay: 700
     Basic.ToolTip.text: segment.help
-    Basic.ToolTip.visible: segment.help !== "" && hovered
+    Basic.ToolTip.visible: segment.help !== "" && hover.hovered
     Keys.onEnterPressed: button.clicked()
     Keys.onReturnPressed: button.clicked()
     Keys.onSpacePressed: button.clicked()
     activeFocusOnTab: selected || activeFocus
-    font.pixelSize: segment.symbol === "" ? 11 : 12
-    font.weight: segment.symbol === "" ? Font.DemiBold : Font.Medium
-    hoverEnabled: true
 
     SymbolLabel {
         centred: true
         color: button.selected ? "white" : LumaportPalette.muted
-        font: button.font
+        font.pixelSize: button.segment.symbol === "" ? 11 : 12
+        font.weight: button.segment.symbol === "" ? Font.DemiBold : Font.Medium
         height: parent.height
         spoken: false
         symbol: button.segment.symbol
@@ -62,6 +60,10 @@ T.Control {
         to: button.selected ? 1 : 0
     }
 
+    HoverHandler {
+        id: hover
+    }
+
     InteractionFeedback {}
 
     MouseArea {
@@ -72,6 +74,6 @@ T.Control {
     FocusRing {
         anchors.bottomMargin: button.lift - 3
         anchors.topMargin: -button.lift - 3
-        visible: button.visualFocus
+        visible: button.activeFocus
     }
 }

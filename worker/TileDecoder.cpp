@@ -153,8 +153,8 @@ Result<void> TileDecoder::receiveFrame(const Bytes &bytes)
         av_new_packet(m_packet.get(), static_cast<int>(tables + bytes.size())) != 0) {
         return unreadable();
     }
-    std::memcpy(m_packet->data, m_configuration.data(), tables);
-    std::memcpy(m_packet->data + tables, bytes.data(), bytes.size());
+    std::copy_n(m_configuration.begin(), tables, m_packet->data);
+    std::copy_n(bytes.begin(), bytes.size(), m_packet->data + tables);
     AVCodecContext *context = m_context.get();
     avcodec_flush_buffers(context);
     av_frame_unref(m_frame.get());

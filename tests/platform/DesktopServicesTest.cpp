@@ -32,7 +32,7 @@ class NotificationService : public QObject
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
 
 public Q_SLOTS:
-    QStringList GetCapabilities() { return capabilities; } // NOLINT(readability-identifier-naming)
+    QStringList GetCapabilities() const { return capabilities; } // NOLINT(readability-identifier-naming)
     uint Notify(const QString &app, uint replaces, const QString &icon, const QString &title, // NOLINT
                 const QString &body, const QStringList &actions, const QVariantMap &hints, int timeout)
     {

@@ -71,12 +71,12 @@ class SettingsPortalTest : public QObject
 {
     Q_OBJECT
 
-    const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
-    const QString scheme = QStringLiteral("color-scheme");
-    const QString gnome = QStringLiteral("org.gnome.desktop.interface");
-    const QString animations = QStringLiteral("enable-animations");
-    const QString kde = QStringLiteral("org.kde.kdeglobals.KDE");
-    const QString factor = QStringLiteral("AnimationDurationFactor");
+    const QString m_appearanceGroup = QStringLiteral("org.freedesktop.appearance");
+    const QString m_scheme = QStringLiteral("color-scheme");
+    const QString m_gnome = QStringLiteral("org.gnome.desktop.interface");
+    const QString m_animations = QStringLiteral("enable-animations");
+    const QString m_kde = QStringLiteral("org.kde.kdeglobals.KDE");
+    const QString m_factor = QStringLiteral("AnimationDurationFactor");
 
     std::unique_ptr<FakePortal> m_portal;
     std::unique_ptr<SystemAppearance> m_appearance;
@@ -95,8 +95,8 @@ private Q_SLOTS:
 
     void shouldReadWhatThePortalSaysAtTheStart()
     {
-        m_portal->set(appearanceGroup, scheme, 1U);
-        m_portal->set(gnome, animations, false);
+        m_portal->set(m_appearanceGroup, m_scheme, 1U);
+        m_portal->set(m_gnome, m_animations, false);
         QVERIFY(m_portal->start());
         const auto follower = follow();
         QTRY_VERIFY(m_appearance->isDark());
@@ -107,24 +107,24 @@ private Q_SLOTS:
     {
         QVERIFY(m_portal->start());
         const auto follower = follow();
-        m_portal->change(appearanceGroup, scheme, 1U);
+        m_portal->change(m_appearanceGroup, m_scheme, 1U);
         QTRY_VERIFY(m_appearance->isDark());
-        m_portal->change(appearanceGroup, scheme, 2U);
+        m_portal->change(m_appearanceGroup, m_scheme, 2U);
         QTRY_VERIFY(!m_appearance->isDark());
-        m_portal->change(kde, factor, QStringLiteral("0"));
+        m_portal->change(m_kde, m_factor, QStringLiteral("0"));
         QTRY_VERIFY(m_appearance->reduceMotion());
-        m_portal->change(gnome, animations, true); // the other desktop's key does not take it back
-        m_portal->change(appearanceGroup, scheme, 1U);
+        m_portal->change(m_gnome, m_animations, true); // the other desktop's key does not take it back
+        m_portal->change(m_appearanceGroup, m_scheme, 1U);
         QTRY_VERIFY(m_appearance->isDark());
         QVERIFY(m_appearance->reduceMotion());
-        m_portal->change(kde, factor, QStringLiteral("0.5"));
+        m_portal->change(m_kde, m_factor, QStringLiteral("0.5"));
         QTRY_VERIFY(!m_appearance->reduceMotion());
     }
 
     void shouldReadWhenThePortalComesLater()
     {
         const auto follower = follow();
-        m_portal->set(appearanceGroup, scheme, 1U);
+        m_portal->set(m_appearanceGroup, m_scheme, 1U);
         QVERIFY(m_portal->start());
         QTRY_VERIFY(m_appearance->isDark());
     }

@@ -19,7 +19,7 @@ public:
     QQuickItem *find(const char *name) const { return below(window->rootObject(), QLatin1String(name)); }
     bool shows(const char *name) const { return find(name)->isVisible(); }
     QString text(const char *name) const { return find(name)->property("text").toString(); }
-    void click(const char *name)
+    void click(const char *name) const
     {
         const QQuickItem *target = find(name);
         const QPointF centre = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));

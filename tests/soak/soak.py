@@ -36,6 +36,11 @@ def left_behind():
     return workers + [str(path) for path in DOWNLOADS.rglob(".*")]
 
 
+def nothing_left():
+    """The kernel ends the workers of a program that is gone, in its own time."""
+    wait_until(lambda: not left_behind(), "the end of the last worker")
+
+
 def fresh():
     for folder in (DOWNLOADS, SETTINGS.parent):
         shutil.rmtree(folder, ignore_errors=True)
@@ -73,7 +78,7 @@ def kills():
     source = made("large.HEIC", 2000, 1500)
     whole = digest(source)
     copies = 0
-    for number in range(100):
+    for _ in range(100):
         fresh()
         with Application(PROGRAM) as application:
             for index in range(4):
@@ -81,7 +86,7 @@ def kills():
             time.sleep(CHANCE.uniform(1.1, 2.6))
             application.process.kill()
             application.process.wait()
-        wait_until(lambda: not left_behind(), f"the end of the workers, kill {number}")
+        nothing_left()
         found = list(COPIES.glob("*")) if COPIES.exists() else []
         assert all(is_whole(copy) for copy in found), found
         assert all(digest(original) == whole for original in DOWNLOADS.glob("*.HEIC"))
@@ -101,7 +106,8 @@ def full_disk():
             with Application(PROGRAM):
                 land(source, "IMG_1.HEIC")
                 done = wait_until(lambda: entry("IMG_1.HEIC"), "the end of the conversion")
-            assert digest(DOWNLOADS / "IMG_1.HEIC") == digest(source) and not left_behind()
+            nothing_left()
+            assert digest(DOWNLOADS / "IMG_1.HEIC") == digest(source)
             found = list(COPIES.glob("*")) if COPIES.exists() else []
             assert all(is_whole(copy) for copy in found) and bool(found) == (done["status"] == "ready"), (done, found)
             ready += done["status"] == "ready"
@@ -153,7 +159,8 @@ def writers():
                 wait_until(lambda: (done := entry(f"{name}.HEIC")) and done["status"] == "ready", name)
             os.utime(land(made("other.HEIC"), "renamed.HEIC"))  # another photo under a name that is known
             wait_until(lambda: (COPIES / "renamed 2.png").exists(), "the copy of what replaced it")
-        assert all(is_whole(copy) for copy in COPIES.glob("*.png")) and not left_behind()
+        nothing_left()
+    assert all(is_whole(copy) for copy in COPIES.glob("*.png"))
     report("written in pieces over 3 s, renamed into place, dated 2096 and 1970, replaced in place", rounds * 5, "nothing; each became a whole copy")
 
 
@@ -172,7 +179,8 @@ def burst():
         seconds = time.monotonic() - start
         wait_until(lambda: not application.workers(), "the end of the last worker")
         after = held(application)
-    assert all(is_whole(copy) for copy in COPIES.glob("*.png")) and not left_behind()
+    nothing_left()
+    assert all(is_whole(copy) for copy in COPIES.glob("*.png"))
     report(f"{count} photos at once", 1, f"nothing; all converted, {seconds:.0f} s", before, after)
 
 
@@ -199,7 +207,8 @@ def hostile():
         wait_until(lambda: not application.workers(), "the end of the last worker")
         copies = len(list(COPIES.glob("bad_*.png")))
         after = held(application)
-    assert all(is_whole(copy) for copy in COPIES.glob("*.png")) and not left_behind()
+    nothing_left()
+    assert all(is_whole(copy) for copy in COPIES.glob("*.png"))
     report("files with bytes of their structure changed, a fifth of them cut", count,
            f"nothing; {copies} still gave a whole picture, the others the sentence", before, after)
 
@@ -234,7 +243,7 @@ def worker_program():
             land(source, f"good_{tried}.HEIC")
             assert wait_until(lambda: entry(f"good_{tried}.HEIC"), "the next")["status"] == "ready"
             tried += 1
-    assert not left_behind()
+    nothing_left()
     report("worker program killed and missing, or another in its place", tried, "nothing; the sentence, and the photo after its return converts")
 
 

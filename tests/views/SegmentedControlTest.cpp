@@ -57,9 +57,11 @@ private Q_SLOTS:
         scene.press(Qt::Key_Right);
         QCOMPARE(chosen(), OutputFormat::jpeg);
 
+        QAccessible::setActive(true);
         QAccessibleInterface *png = QAccessible::queryAccessibleInterface(segment(format, 0));
         QAccessibleInterface *jpeg = QAccessible::queryAccessibleInterface(segment(format, 1));
         QCOMPARE(png->text(QAccessible::Name), QStringLiteral("Convert to PNG"));
+        QCOMPARE(png->role(), QAccessible::RadioButton);
         QVERIFY(jpeg->state().selected);
         QVERIFY(!png->state().selected);
         png->actionInterface()->doAction(QAccessibleActionInterface::pressAction());

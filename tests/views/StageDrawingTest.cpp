@@ -15,6 +15,7 @@ private Q_SLOTS:
     {
         // The edge of a half-plane, blurred, is the Gaussian's integral.
         constexpr int side = 121;
+        constexpr int edge = side / 2;
         constexpr double radius = 6.0;
         QImage mask(side, side, QImage::Format_Alpha8);
         mask.fill(0);
@@ -23,7 +24,7 @@ private Q_SLOTS:
         }
         const QImage blurred = GaussianBlur::blurred(mask, radius);
         for (int x = 40; x < 80; ++x) {
-            const double distance = x + 0.5 - side / 2;
+            const double distance = x + 0.5 - edge;
             const double expected = 255.0 * 0.5 * (1.0 + std::erf(distance / (radius * std::sqrt(2.0))));
             QVERIFY2(std::abs(blurred.constScanLine(side / 2)[x] - expected) < 5.0,
                      qPrintable(QString::number(x)));

@@ -128,8 +128,8 @@ TEST_F(Conversion, ShouldMakeThumbnailsThatFit)
         unsigned orientation;
         PixelSize thumbnail;
     };
-    for (const Case &expected : {Case{{1024, 768}, 1, {240, 180}}, Case{{1024, 768}, 6, {180, 240}},
-                                 Case{{1024, 768}, 7, {180, 240}}, Case{{100, 60}, 1, {100, 60}}}) {
+    for (const Case &expected : {Case{{512, 384}, 1, {240, 180}}, Case{{512, 384}, 6, {180, 240}},
+                                 Case{{512, 384}, 7, {180, 240}}, Case{{100, 60}, 1, {100, 60}}}) {
         const Bytes photo = makePhoto({.size = expected.stored, .orientation = expected.orientation});
         const auto source = sourceOfBytes(photo);
         const auto read = readPhoto(*source);

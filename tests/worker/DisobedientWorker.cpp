@@ -30,7 +30,7 @@ FileDescriptor receiveFile()
 {
     auto received = receiveWithDescriptor<Request>(conversation);
     if (!received) {
-        std::exit(EXIT_SUCCESS);
+        std::_Exit(EXIT_SUCCESS);
     }
     return std::move(received->descriptor);
 }
@@ -78,7 +78,7 @@ bool succeeded(std::string_view order, int source)
         return ::ftruncate(source, 0) == 0;
     }
     if (order == "allocate") {
-        constexpr std::size_t Step = 64 * 1024 * 1024;
+        constexpr std::size_t Step = std::size_t{64} * 1024 * 1024;
         constexpr int FourGibibytes = 64;
         for (int step = 0; step < FourGibibytes; ++step) {
             void *memory = std::malloc(Step);

@@ -75,7 +75,7 @@ private:
 
 bool contains(const Bytes &bytes, const std::string &text)
 {
-    return !std::ranges::search(bytes, text).empty();
+    return std::search(bytes.begin(), bytes.end(), text.begin(), text.end()) != bytes.end();
 }
 
 std::uint32_t detail(Bytes &bytes, TiffTag tag)

@@ -47,6 +47,7 @@ private Q_SLOTS:
             return converted;
         };
         std::vector<std::future<int>> threads;
+        threads.reserve(Threads);
         for (int thread = 0; thread < Threads; ++thread) {
             threads.push_back(std::async(std::launch::async, convertMany, thread * PhotosOfThread));
         }

@@ -16,7 +16,11 @@ struct Numbers
     PixelSize size;
     std::vector<int> values;
 
-    int at(int x, int y) const { return values[static_cast<std::size_t>(y * size.width + x)]; }
+    int at(int x, int y) const
+    {
+        return values.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(size.width) +
+                         static_cast<std::size_t>(x));
+    }
 
     template<typename Origin>
     Numbers changed(PixelSize result, Origin origin) const

@@ -1,0 +1,35 @@
+"""The program as a screen reader sees and works it."""
+
+import os
+
+os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+
+import pyatspi
+
+from support import wait_until
+
+
+def accessible(name, role="push button"):
+    """The program's element of this name and role that shows on the screen; None without one."""
+
+    def search(element):
+        for child in element:
+            if child is None:
+                continue
+            if child.name == name and child.getRoleName() == role and child.getState().contains(pyatspi.STATE_SHOWING):
+                return child
+            if found := search(child):
+                return found
+        return None
+
+    for application in pyatspi.Registry.getDesktop(0):
+        if application is not None and application.name.lower() == "lumaport":
+            return search(application)
+    return None
+
+
+def press(name, role="push button"):
+    """Presses a button as a screen reader does."""
+    actions = wait_until(lambda: accessible(name, role), f"the {role} {name}").queryAction()
+    names = [actions.getName(number) for number in range(actions.nActions)]
+    actions.doAction(names.index("Press"))
