@@ -62,7 +62,7 @@ ConversionOutcome convertInto(const Order &order)
         loop.quit();
     });
     loop.exec();
-    awaitEndOfWorkers();
+    awaitBookingOfWorkers();
     return result;
 }
 

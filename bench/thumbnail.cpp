@@ -24,6 +24,6 @@ int main(int argc, char **argv)
     constexpr int side = 240;
     const bool isDone = photo.isOpen() && worker->open(photo) && worker->thumbnail(side);
     worker.reset();
-    awaitEndOfWorkers();
+    awaitBookingOfWorkers();
     return isDone ? 0 : 1;
 }

@@ -102,11 +102,11 @@ std::shared_ptr<ImageWorkerChild> ImageWorkerChild::raiseWorker(std::chrono::mil
 ImageWorkerChild::~ImageWorkerChild()
 {
     kill();
-    // The program is waited for. A worker is not a child of this process: the program sees to it.
-    siginfo_t status = {};
-    while (::waitid(P_PIDFD, static_cast<id_t>(m_process.number()), &status, WEXITED) != 0 &&
-           errno == EINTR) {
+    pollfd ended = {m_process.number(), POLLIN, 0};
+    while (::poll(&ended, 1, -1) < 0 && errno == EINTR) { // until its files are closed
     }
+    // Only the program itself is a child of this process; it takes in its workers.
+    ::waitid(P_PIDFD, static_cast<id_t>(m_process.number()), nullptr, WEXITED | WNOHANG);
 }
 
 bool ImageWorkerChild::isRunning() const

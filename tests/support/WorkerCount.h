@@ -34,10 +34,18 @@ inline qsizetype workerCount()
     return count;
 }
 
-/// Waits until all workers are gone, so that what they used is booked to this process.
-inline void awaitEndOfWorkers()
+/// Waits until the time of each worker that has ended is booked to this process.
+inline void awaitBookingOfWorkers()
 {
-    while (workerCount() > 0) {
-        QThread::msleep(1);
+    const auto isUnbooked = [](int worker) {
+        QFile file(QStringLiteral("/proc/%1/stat").arg(worker));
+        return file.open(QFile::ReadOnly) && file.readAll().contains(") Z ");
+    };
+    for (const int program : childrenOf(::getpid())) {
+        for (const int worker : childrenOf(program)) {
+            while (isUnbooked(worker)) {
+                QThread::msleep(1);
+            }
+        }
     }
 }

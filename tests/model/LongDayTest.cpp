@@ -1,0 +1,66 @@
+#include "ModelFixture.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <malloc.h>
+
+using namespace std::chrono_literals;
+
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes() __attribute__((weak));
+
+namespace {
+
+/// Bytes that are allocated at this moment.
+qint64 allocated()
+{
+    return static_cast<qint64>(__sanitizer_get_current_allocated_bytes != nullptr
+                                   ? __sanitizer_get_current_allocated_bytes()
+                                   : ::mallinfo2().uordblks);
+}
+
+} // namespace
+
+class LongDayTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    /// A photo every other minute, half of them no photos; each is taken away before the next.
+    void arrive(int photos)
+    {
+        for (; photos > 0; --photos) {
+            const QUrl photo = m_fixture.write(QStringLiteral("IMG_%1.heic").arg(++m_number));
+            m_fixture.settle();
+            QCOMPARE(m_fixture.engine->running.size(), std::size_t{1});
+            if (photos % 2 == 0) {
+                m_fixture.engine->succeed(QStringLiteral("IMG_%1.png").arg(m_number));
+            } else {
+                m_fixture.engine->fail(ConversionError::unreadableImage);
+            }
+            ModelFixture::turn();
+            QVERIFY(QFile::remove(photo.toLocalFile()));
+            m_fixture.settle();
+            m_fixture.jobs->advance(2min);
+            m_fixture.clock->time += 2min;
+            m_fixture.center->requests.clear();
+        }
+    }
+
+    ModelFixture m_fixture;
+    int m_number = 1000;
+
+private Q_SLOTS:
+    void shouldHoldNoMoreInTheEveningThanInTheMorning()
+    {
+        m_fixture.launch();
+        arrive(100);
+        const qint64 morning = allocated();
+        arrive(720);
+        QVERIFY(allocated() - morning <= 16 * 1024);
+        QCOMPARE(m_fixture.jobs->waitingJobs(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(LongDayTest)
+#include "LongDayTest.moc"
