@@ -31,11 +31,11 @@ def store_history():
     settings.write_text(f'[General]\nhasSeenSignatureWelcome=true\nrecentItems="@ByteArray({history})"\n', encoding="utf-8")
 
 
-def start(command, title):
+def start(command, window_class):
     """The started process and the seconds until its window was on the screen."""
     begun = time.perf_counter()
     process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    while subprocess.run(["xdotool", "search", "--onlyvisible", "--name", title], capture_output=True).returncode != 0:
+    while subprocess.run(["xdotool", "search", "--onlyvisible", "--class", window_class], capture_output=True).returncode != 0:
         if process.poll() is not None or time.perf_counter() - begun > MINUTE:
             sys.exit(f"{command[0]} shows no window")
     return process, time.perf_counter() - begun
@@ -54,14 +54,14 @@ def resident(process):
 
 def main():
     store_history()
-    programs = {"lumaport": ([sys.argv[1]], "^Lumaport$"), "qimgv": (["qimgv", HOME / "IMG_0.png"], "qimgv")}
+    programs = {"lumaport": [sys.argv[1]], "qimgv": ["qimgv", HOME / "IMG_0.png"]}
     starts = {name: [] for name in programs}
     for _ in range(STARTS):
-        for name, (command, title) in programs.items():
-            process, seconds = start(command, title)
+        for name, command in programs.items():
+            process, seconds = start(command, name)
             starts[name].append(seconds)
             end(process)
-    running = {name: start(command, title)[0] for name, (command, title) in programs.items()}
+    running = {name: start(command, name)[0] for name, command in programs.items()}
     time.sleep(MINUTE)
     print(json.dumps({name: {"start": sorted(starts[name])[STARTS // 2], "memory": resident(process)}
                       for name, process in running.items()}))

@@ -2,6 +2,7 @@
 
 #include "ColourSpace.h"
 #include "Exif.h"
+#include "Vectorised.h"
 #include "Xmp.h"
 
 #include <algorithm>
@@ -31,14 +32,23 @@ Bytes profileOfSrgb()
     return bytes;
 }
 
-void layOverWhite(std::uint8_t *rgba, int width)
+LUMAPORT_VECTORISED bool isOpaque(const std::uint8_t *rgba, std::size_t width)
 {
-    for (int x = 0; x < width; ++x, rgba += 4) {
+    unsigned least = 255;
+    for (std::size_t x = 0; x < width; ++x) {
+        least &= rgba[4 * x + 3];
+    }
+    return least == 255;
+}
+
+void layOverWhite(std::uint8_t *rgba, std::size_t width)
+{
+    if (isOpaque(rgba, width)) {
+        return;
+    }
+    for (std::size_t x = 0; x < width; ++x, rgba += 4) {
         const unsigned opacity = rgba[3];
-        if (opacity == 255) {
-            continue;
-        }
-        for (int channel = 0; channel < 3; ++channel) {
+        for (std::size_t channel = 0; channel < 3; ++channel) {
             const unsigned mixed = rgba[channel] * opacity + 255U * (255U - opacity);
             rgba[channel] = static_cast<std::uint8_t>((mixed + 127) / 255);
         }
@@ -86,7 +96,7 @@ public:
     {
         for (int y = top; y < top + height; ++y) {
             readRow(y, m_row.data());
-            layOverWhite(m_row.data(), m_size.width);
+            layOverWhite(m_row.data(), m_row.size() / 4);
             if (!encodeRow()) {
                 return failed();
             }
