@@ -8,16 +8,12 @@ import threading
 import time
 import unittest
 
-from support import COPIES, DOWNLOADS, HOME, PATIENCE, SETTINGS, entry, photo, wait_until
+from support import COPIES, DOWNLOADS, HOME, PATIENCE, SETTINGS, entry, photo, run, wait_until
 
 DRAG_SOURCE = sys.argv.pop()
 PROGRAM = sys.argv.pop()
 WELCOME = "^Lumaport Welcome$"
 QUIET = 2.0  # seconds without a frame: far more than any pause between two frames of an animation
-
-
-def run(*command):
-    return subprocess.run(command, capture_output=True, text=True, check=False).stdout
 
 
 def windows(name):

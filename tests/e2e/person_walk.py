@@ -1,27 +1,15 @@
 """One long day with the program, as a person has it: from the first start to the one after the last."""
 
-import re
-import subprocess
 import sys
 import unittest
 
 import dbus
 
 from assistive import accessible, press
-from support import COPIES, DOWNLOADS, HOME, SETTINGS, Application, Desktop, Dunst, entry, history, photo, wait_until
+from support import COPIES, DOWNLOADS, HOME, Application, Desktop, Dunst, entry, history, photo, run, stored, wait_until
 
 PROGRAM = sys.argv.pop()
 OTHER = HOME / "Camera"
-
-
-def run(*command):
-    return subprocess.run(command, capture_output=True, text=True, check=False).stdout
-
-
-def stored(name):
-    text = SETTINGS.read_text(encoding="utf-8") if SETTINGS.exists() else ""
-    found = re.search(rf"^{name}=(.*)$", text, re.MULTILINE)
-    return found and found.group(1)
 
 
 def ready(name):

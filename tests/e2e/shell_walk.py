@@ -10,7 +10,7 @@ import dbus
 
 import support
 from assistive import press
-from support import DOWNLOADS, HOME, SETTINGS, Application, everything_in, history, wait_until
+from support import DOWNLOADS, HOME, SETTINGS, Application, everything_in, history, run, stored, wait_until
 
 PROGRAM = sys.argv.pop()
 ITEM = "org.kde.StatusNotifierItem"
@@ -19,10 +19,6 @@ PROPERTIES = "org.freedesktop.DBus.Properties"
 NAME = "io.lumaport.Lumaport"
 MAIN = "^Lumaport$"
 PANEL = "^Lumaport Quick Panel"
-
-
-def run(*command):
-    return subprocess.run(command, capture_output=True, text=True, check=False).stdout
 
 
 def windows(name):
@@ -72,12 +68,6 @@ def frame(window):
     left, right, top, bottom = map(int, re.findall(r"\d+", run("xprop", "-id", window, "_NET_FRAME_EXTENTS")))
     x, y, width, height = client_area(window)
     return x - left, y - top, width + left + right, height + top + bottom
-
-
-def stored(name):
-    text = SETTINGS.read_text(encoding="utf-8") if SETTINGS.exists() else ""
-    found = re.search(rf"^{name}=(.*)$", text, re.MULTILINE)
-    return found and found.group(1).strip('"')
 
 
 def wait_stored(name, value):

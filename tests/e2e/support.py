@@ -36,6 +36,11 @@ def wait_until(condition, what):
         time.sleep(0.02)
 
 
+def run(*command):
+    """What a command prints, whatever it ends with."""
+    return subprocess.run(command, capture_output=True, text=True, check=False).stdout
+
+
 def picture(path, width=64, height=48):
     """A PNG whose left half is red and whose right half is blue."""
 
@@ -79,6 +84,13 @@ def entry(name):
         if item["sourceName"] == name:
             return item if item["status"] in ("ready", "failed") else None
     return None
+
+
+def stored(name):
+    """A plain value of the settings, as it stands in their file; None without one."""
+    text = SETTINGS.read_text(encoding="utf-8") if SETTINGS.exists() else ""
+    found = re.search(rf"^{name}=(.*)$", text, re.MULTILINE)
+    return found and found.group(1).strip('"')
 
 
 def everything_in(folder):
