@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import Lumaport.Shell
 import Lumaport.Vocabulary
 
 // A menu of the menu bar, wide enough for its longest command with its keys.

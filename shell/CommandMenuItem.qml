@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import Lumaport.Shell
 import Lumaport.Vocabulary
 
 // A command with its keys, which the style's own item would not show. The keys work in every window of the program and

@@ -14,6 +14,8 @@ Rectangle {
 
     Accessible.name: qsTr("Lumaport")
     Accessible.role: Accessible.Pane
+    border.color: LumaportPalette.softLine // it may stand on a window of the same colour
+    border.width: 1
     color: LumaportPalette.panel
     implicitHeight: rows.implicitHeight + 2 * padding
     implicitWidth: 360

@@ -1,5 +1,4 @@
 import QtQuick
-import Lumaport.Shell
 import Lumaport.Vocabulary
 
 // A button that stands out: filled with the accent colour.

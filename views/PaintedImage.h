@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QQuickItem>
+#include <QtQml/qqmlregistration.h>
 
 class QPainter;
 
@@ -9,6 +10,9 @@ class QPainter;
 /// point around.
 class PaintedImage : public QQuickItem
 {
+    Q_OBJECT
+    QML_ANONYMOUS
+
 public:
     explicit PaintedImage(QQuickItem *parent = nullptr);
 

@@ -1,8 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
-import Lumaport.Interaction
 import Lumaport.Vocabulary
 
 // A switch between a few choices, with a pill that slides to the chosen one. For the keyboard it is one stop, where the

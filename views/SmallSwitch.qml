@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Templates as T
-import Lumaport.Interaction
 import Lumaport.Vocabulary
 
 // A small switch with its text before it. The one who uses it takes the wish and sets `checked`.

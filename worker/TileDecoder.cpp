@@ -38,6 +38,17 @@ const AVCodec *decoderOf(Codec codec)
     return avcodec_find_decoder(identifierOf(codec));
 }
 
+/// A decoder copies what a photo says into these fields; C++ does not allow to load values that the type has
+/// no name for.
+template<typename Enumeration>
+unsigned numberOf(const Enumeration &field)
+{
+    unsigned number = 0;
+    static_assert(sizeof(field) == sizeof(number));
+    std::memcpy(&number, &field, sizeof(number));
+    return number;
+}
+
 /// Planes as this program handles them; false for arrangements that no photo has.
 bool describeSamples(const AVFrame &frame, SampleFormat &format)
 {
@@ -65,10 +76,10 @@ bool describeSamples(const AVFrame &frame, SampleFormat &format)
     format.chromaShiftX = descriptor->nb_components == 3 ? descriptor->log2_chroma_w : 0;
     format.chromaShiftY = descriptor->nb_components == 3 ? descriptor->log2_chroma_h : 0;
     format.isRgb = isRgb;
-    format.codePoints.primaries = static_cast<unsigned>(frame.color_primaries);
-    format.codePoints.transfer = static_cast<unsigned>(frame.color_trc);
-    format.codePoints.matrix = static_cast<unsigned>(frame.colorspace);
-    format.codePoints.fullRange = frame.color_range == AVCOL_RANGE_JPEG;
+    format.codePoints.primaries = numberOf(frame.color_primaries);
+    format.codePoints.transfer = numberOf(frame.color_trc);
+    format.codePoints.matrix = numberOf(frame.colorspace);
+    format.codePoints.fullRange = numberOf(frame.color_range) == AVCOL_RANGE_JPEG;
     return depth >= 8 && depth <= 16;
 }
 
