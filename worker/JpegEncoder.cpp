@@ -2,6 +2,8 @@
 
 #include "ColourSpace.h"
 #include "Exif.h"
+#include "OrderedPieces.h"
+#include "Spares.h"
 #include "Vectorised.h"
 #include "Xmp.h"
 
@@ -21,6 +23,8 @@ constexpr std::size_t LongestSegment = 65'533; // what a marker's two bytes of l
 constexpr std::string_view ExifPrefix("Exif\0\0", 6);
 constexpr std::string_view IccPrefix("ICC_PROFILE\0\1\1", 14); // the first of one part
 constexpr double FinestColoursFrom = 0.95;
+constexpr int ChunkHeight =
+    32; // rows; those of the widest picture fit into a restart interval, 65,535 blocks
 
 Bytes profileOfSrgb()
 {
@@ -55,71 +59,97 @@ void layOverWhite(std::uint8_t *rgba, std::size_t width)
     }
 }
 
+struct JpegForm
+{
+    PixelSize size;
+    int quality = 0;        ///< in percent
+    int colourSampling = 1; ///< pixels of brightness for one of colour, along each axis
+};
+
+Bytes segment(std::string_view prefix, const Bytes &content)
+{
+    Bytes bytes;
+    if (!content.empty() && prefix.size() + content.size() <= LongestSegment) {
+        bytes.assign(prefix.begin(), prefix.end());
+        bytes.insert(bytes.end(), content.begin(), content.end());
+    }
+    return bytes;
+}
+
+/// Segments to put into a file, by their markers.
+std::vector<std::pair<int, Bytes>> segmentsOf(const CopyMetadata &metadata)
+{
+    std::vector<std::pair<int, Bytes>> segments;
+    segments.emplace_back(JPEG_APP0 + 1,
+                          segment(ExifPrefix, exifWithin(metadata.exif, LongestSegment - ExifPrefix.size())));
+    for (Bytes &part : xmpSegments(metadata.xmp, LongestSegment)) {
+        segments.emplace_back(JPEG_APP0 + 1, std::move(part));
+    }
+    segments.emplace_back(JPEG_APP0 + 2, segment(IccPrefix, profileOfSrgb()));
+    return segments;
+}
+
+/// Where the first segment with @p marker begins in a stream of our own (ITU-T T.81, B.1.1).
+std::size_t findSegment(const Bytes &stream, std::uint8_t marker)
+{
+    std::size_t position = 2; // behind the start of the image
+    while (stream[position + 1] != marker) {
+        position += 2U + (std::size_t{stream[position + 2]} << 8U) + stream[position + 3];
+    }
+    return position;
+}
+
+/// Encodes chunks of a picture, each as a stream of its own with a restart interval of just its length.
 /// The library reports faults by a jump: a function that sets its goal owns nothing that needs destroying.
-class JpegEncoder : public RowEncoder
+class ChunkEncoder
 {
 public:
-    JpegEncoder(OutputFile &output, PixelSize size, double quality, const CopyMetadata &metadata)
-        : m_output(output)
-        , m_size(size)
-        , m_quality(static_cast<int>(std::lround(std::clamp(quality, 0.0, 1.0) * 100)))
-        , m_colourSampling(quality < FinestColoursFrom ? 2 : 1)
-        , m_exif(segment(ExifPrefix, exifWithin(metadata.exif, LongestSegment - ExifPrefix.size())))
-        , m_xmp(xmpSegments(metadata.xmp, LongestSegment))
-        , m_profile(segment(IccPrefix, profileOfSrgb()))
-        , m_row(static_cast<std::size_t>(size.width) * 4)
+    explicit ChunkEncoder(const JpegForm &form)
+        : m_form(form)
+        , m_row(static_cast<std::size_t>(form.size.width) * 4)
     {
         m_jpeg.err = jpeg_std_error(&m_errors);
         m_jpeg.client_data = this;
         m_errors.error_exit = [](j_common_ptr jpeg) {
-            std::longjmp(static_cast<JpegEncoder *>(jpeg->client_data)->m_fault, 1);
+            std::longjmp(static_cast<ChunkEncoder *>(jpeg->client_data)->m_fault, 1);
         };
         m_errors.output_message = [](j_common_ptr) {};
         m_destination.init_destination = [](j_compress_ptr jpeg) { owner(jpeg).emptyBuffer(); };
         m_destination.empty_output_buffer = [](j_compress_ptr jpeg) -> boolean {
-            return owner(jpeg).flush(BufferLength) ? TRUE : FALSE;
+            owner(jpeg).keep(BufferLength);
+            return TRUE;
         };
         m_destination.term_destination = [](j_compress_ptr jpeg) {
-            owner(jpeg).flush(BufferLength - owner(jpeg).m_destination.free_in_buffer);
+            owner(jpeg).keep(BufferLength - owner(jpeg).m_destination.free_in_buffer);
         };
     }
-    ~JpegEncoder() override { jpeg_destroy_compress(&m_jpeg); }
-    JpegEncoder(const JpegEncoder &) = delete;
-    JpegEncoder &operator=(const JpegEncoder &) = delete;
+    ~ChunkEncoder() { jpeg_destroy_compress(&m_jpeg); }
+    ChunkEncoder(const ChunkEncoder &) = delete;
+    ChunkEncoder &operator=(const ChunkEncoder &) = delete;
 
-    Order order() const override { return Order::OneAfterAnother; }
-    int chunkHeight() const override { return 64; }
-
-    Result<void> begin() override { return start() ? Result<void>() : failed(); }
-
-    Result<void> encodeChunk(int, int top, int height, const RowReader &readRow) override
+    /// The stream of rows @p top to @p top + @p height, with @p segments; empty after a fault.
+    Bytes encode(int top, int height, const RowReader &readRow,
+                 const std::vector<std::pair<int, Bytes>> &segments)
     {
-        for (int y = top; y < top + height; ++y) {
+        m_stream.clear();
+        bool isGood = start(height);
+        for (const auto &[marker, bytes] : segments) {
+            isGood = isGood && writeSegment(marker, bytes);
+        }
+        for (int y = top; isGood && y < top + height; ++y) {
             readRow(y, m_row.data());
             layOverWhite(m_row.data(), m_row.size() / 4);
-            if (!encodeRow()) {
-                return failed();
-            }
+            isGood = encodeRow();
         }
-        return {};
+        return isGood && end() ? std::move(m_stream) : Bytes();
     }
-
-    Result<void> finish() override { return end() ? Result<void>() : failed(); }
 
 private:
     static constexpr std::size_t BufferLength = 65'536;
 
-    static JpegEncoder &owner(j_compress_ptr jpeg) { return *static_cast<JpegEncoder *>(jpeg->client_data); }
-    static tl::unexpected<Fault> failed() { return tl::unexpected(Fault::CannotWrite); }
-
-    static Bytes segment(std::string_view prefix, const Bytes &content)
+    static ChunkEncoder &owner(j_compress_ptr jpeg)
     {
-        Bytes bytes;
-        if (!content.empty() && prefix.size() + content.size() <= LongestSegment) {
-            bytes.assign(prefix.begin(), prefix.end());
-            bytes.insert(bytes.end(), content.begin(), content.end());
-        }
-        return bytes;
+        return *static_cast<ChunkEncoder *>(jpeg->client_data);
     }
 
     void emptyBuffer()
@@ -128,40 +158,43 @@ private:
         m_destination.free_in_buffer = m_buffer.size();
     }
 
-    bool flush(std::size_t length)
+    void keep(std::size_t length)
     {
+        m_stream.insert(m_stream.end(), m_buffer.begin(),
+                        m_buffer.begin() + static_cast<std::ptrdiff_t>(length));
         emptyBuffer();
-        return m_output.write(std::span(m_buffer).first(length));
     }
 
-    void writeSegment(int marker, const Bytes &bytes)
-    {
-        if (!bytes.empty()) {
-            jpeg_write_marker(&m_jpeg, marker, bytes.data(), static_cast<unsigned>(bytes.size()));
-        }
-    }
-
-    bool start()
+    bool start(int height)
     {
         if (setjmp(m_fault) != 0) {
             return false;
         }
-        jpeg_create_compress(&m_jpeg);
-        m_jpeg.dest = &m_destination;
-        m_jpeg.image_width = static_cast<JDIMENSION>(m_size.width);
-        m_jpeg.image_height = static_cast<JDIMENSION>(m_size.height);
-        m_jpeg.input_components = 4;
-        m_jpeg.in_color_space = JCS_EXT_RGBX;
-        jpeg_set_defaults(&m_jpeg);
-        jpeg_set_quality(&m_jpeg, m_quality, TRUE);
-        m_jpeg.comp_info[0].h_samp_factor = m_colourSampling;
-        m_jpeg.comp_info[0].v_samp_factor = m_colourSampling;
-        jpeg_start_compress(&m_jpeg, TRUE);
-        writeSegment(JPEG_APP0 + 1, m_exif);
-        for (const Bytes &part : m_xmp) {
-            writeSegment(JPEG_APP0 + 1, part);
+        if (m_jpeg.mem == nullptr) {
+            jpeg_create_compress(&m_jpeg);
+            m_jpeg.dest = &m_destination;
+            m_jpeg.input_components = 4;
+            m_jpeg.in_color_space = JCS_EXT_RGBX;
+            m_jpeg.image_width = static_cast<JDIMENSION>(m_form.size.width);
+            jpeg_set_defaults(&m_jpeg);
+            jpeg_set_quality(&m_jpeg, m_form.quality, TRUE);
+            m_jpeg.comp_info[0].h_samp_factor = m_form.colourSampling;
+            m_jpeg.comp_info[0].v_samp_factor = m_form.colourSampling;
+            m_jpeg.restart_in_rows = ChunkHeight / (DCTSIZE * m_form.colourSampling);
         }
-        writeSegment(JPEG_APP0 + 2, m_profile);
+        m_jpeg.image_height = static_cast<JDIMENSION>(height);
+        jpeg_start_compress(&m_jpeg, TRUE);
+        return true;
+    }
+
+    bool writeSegment(int marker, const Bytes &bytes)
+    {
+        if (setjmp(m_fault) != 0) {
+            return false;
+        }
+        if (!bytes.empty()) {
+            jpeg_write_marker(&m_jpeg, marker, bytes.data(), static_cast<unsigned>(bytes.size()));
+        }
         return true;
     }
 
@@ -180,22 +213,92 @@ private:
             return false;
         }
         jpeg_finish_compress(&m_jpeg);
-        return !m_output.hasFailed();
+        return true;
     }
 
-    OutputFile &m_output;
-    const PixelSize m_size;
-    const int m_quality;
-    const int m_colourSampling; ///< pixels of brightness for one of colour, along each axis
-    const Bytes m_exif;
-    const std::vector<Bytes> m_xmp;
-    const Bytes m_profile;
+    const JpegForm m_form;
     std::vector<std::uint8_t> m_row;
     std::array<std::uint8_t, BufferLength> m_buffer = {};
+    Bytes m_stream;
     jpeg_compress_struct m_jpeg = {};
     jpeg_error_mgr m_errors = {};
     jpeg_destination_mgr m_destination = {};
     std::jmp_buf m_fault = {};
+};
+
+/// Chunks are encoded on all processors, each as a small picture. What follows the first one's headers are
+/// then restart intervals of one large picture, with a restart marker between them (ITU-T T.81, B.2.1).
+class JpegEncoder : public RowEncoder
+{
+public:
+    JpegEncoder(OutputFile &output, PixelSize size, double quality, const CopyMetadata &metadata)
+        : m_output(output)
+        , m_form{size, static_cast<int>(std::lround(std::clamp(quality, 0.0, 1.0) * 100)),
+                 quality < FinestColoursFrom ? 2 : 1}
+        , m_segments(segmentsOf(metadata))
+    {}
+
+    Order order() const override { return Order::AtOnce; }
+    int chunkHeight() const override { return ChunkHeight; }
+    Result<void> begin() override { return {}; }
+
+    Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
+    {
+        auto encoder = m_encoders.take([this] { return std::make_unique<ChunkEncoder>(m_form); });
+        Bytes stream = encoder->encode(top, height, readRow, chunk == 0 ? m_segments : NoSegments);
+        m_encoders.giveBack(std::move(encoder));
+        if (stream.empty()) {
+            return tl::unexpected(Fault::CannotWrite);
+        }
+        m_pieces.add(chunk, chunk == 0 ? beginning(std::move(stream)) : continuation(chunk, stream),
+                     [this](const Bytes &piece) { m_output.write(piece); });
+        return outcome();
+    }
+
+    Result<void> finish() override
+    {
+        m_output.write(EndOfImage);
+        return outcome();
+    }
+
+private:
+    static constexpr std::uint8_t FrameMarker = 0xC0; // baseline, as with tables of 8 bits
+    static constexpr std::uint8_t ScanMarker = 0xDA;
+    static constexpr std::uint8_t FirstRestartMarker = 0xD0; // of eight
+    static constexpr std::array<std::uint8_t, 2> EndOfImage = {0xFF, 0xD9};
+    static inline const std::vector<std::pair<int, Bytes>> NoSegments;
+
+    /// All of the first chunk's stream up to its end, with the height of the whole picture.
+    Bytes beginning(Bytes stream) const
+    {
+        const std::size_t frame = findSegment(stream, FrameMarker);
+        stream[frame + 5] = static_cast<std::uint8_t>(m_form.size.height >> 8);
+        stream[frame + 6] = static_cast<std::uint8_t>(m_form.size.height);
+        stream.erase(stream.end() - EndOfImage.size(), stream.end());
+        return stream;
+    }
+
+    /// A restart marker and the coded data of a chunk's stream.
+    static Bytes continuation(int chunk, const Bytes &stream)
+    {
+        const std::size_t scan = findSegment(stream, ScanMarker);
+        const std::size_t data = scan + 2U + (std::size_t{stream[scan + 2]} << 8U) + stream[scan + 3];
+        Bytes piece = {0xFF, static_cast<std::uint8_t>(FirstRestartMarker + (chunk - 1) % 8)};
+        piece.insert(piece.end(), stream.begin() + static_cast<std::ptrdiff_t>(data),
+                     stream.end() - EndOfImage.size());
+        return piece;
+    }
+
+    Result<void> outcome() const
+    {
+        return m_output.hasFailed() ? Result<void>(tl::unexpected(Fault::CannotWrite)) : Result<void>();
+    }
+
+    OutputFile &m_output;
+    const JpegForm m_form;
+    const std::vector<std::pair<int, Bytes>> m_segments;
+    Spares<ChunkEncoder> m_encoders;
+    OrderedPieces<Bytes> m_pieces;
 };
 
 } // namespace

@@ -10,7 +10,7 @@ namespace imageworker {
 
 namespace {
 
-constexpr int MaximumWorkers = 16; // beyond, the one JPEG encoder or the memory for tiles is what limits
+constexpr int MaximumWorkers = 16; // beyond, two strips have too few tiles for all
 
 class Schedule
 {
@@ -19,18 +19,20 @@ public:
         : m_source(source)
         , m_encoder(encoder)
     {
-        const int chunkHeight = encoder.chunkHeight();
         for (const Strip &strip : source.strips()) {
-            m_progress.push_back({strip.tileCount, (strip.height + chunkHeight - 1) / chunkHeight});
+            m_progress.push_back({strip.tileCount, 0});
         }
-        passStripsWithoutTiles();
+        // One strip more than a chunk may need: the next can be decoded while the last is read.
+        m_capacity = layOutChunks() + 1;
+        source.hold(static_cast<int>(m_capacity));
+        passWhatIsDecoded();
     }
 
     /// Works until nothing is left to take, as thread number @p worker.
     void work(int worker)
     {
         std::unique_lock lock(m_mutex);
-        while (!m_fault && m_chunkStrip < m_progress.size()) {
+        while (!m_fault && m_nextChunk < m_chunks.size()) {
             if (mayEncode()) {
                 encodeNext(lock);
             } else if (mayDecode()) {
@@ -47,43 +49,75 @@ private:
     struct Progress
     {
         int tilesLeft = 0;
-        int chunksLeft = 0;
+        int chunksLeft = 0; ///< that have rows in the strip
         int tilesTaken = 0;
-        int chunksTaken = 0;
     };
+    struct Chunk
+    {
+        int top = 0;
+        int height = 0;
+        std::size_t firstStrip = 0;
+        std::size_t lastStrip = 0;
+    };
+
+    /// Gives the largest number of strips that one chunk has rows in.
+    std::size_t layOutChunks()
+    {
+        const std::vector<Strip> &strips = m_source.strips();
+        const auto hasRow = [&strips](std::size_t strip, int y) {
+            return y < strips[strip].top + strips[strip].height;
+        };
+        const int height = m_source.size().height;
+        std::size_t most = 1;
+        Chunk chunk;
+        for (; chunk.top < height; chunk.top += chunk.height) {
+            chunk.height = std::min(m_encoder.chunkHeight(), height - chunk.top);
+            while (!hasRow(chunk.lastStrip, chunk.top)) {
+                ++chunk.lastStrip;
+            }
+            chunk.firstStrip = chunk.lastStrip;
+            while (!hasRow(chunk.lastStrip, chunk.top + chunk.height - 1)) {
+                ++chunk.lastStrip;
+            }
+            for (std::size_t strip = chunk.firstStrip; strip <= chunk.lastStrip; ++strip) {
+                ++m_progress[strip].chunksLeft;
+            }
+            m_chunks.push_back(chunk);
+            most = std::max(most, chunk.lastStrip - chunk.firstStrip + 1);
+        }
+        return most;
+    }
 
     bool mayEncode() const
     {
         const bool isFree = m_encoder.order() == RowEncoder::Order::AtOnce || m_encoding == 0;
-        return isFree && m_progress[m_chunkStrip].tilesLeft == 0;
+        return isFree && m_chunks[m_nextChunk].lastStrip < m_decoded;
     }
 
     bool mayDecode() const
     {
-        return m_tileStrip < m_progress.size() &&
-               m_tileStrip < m_released + static_cast<std::size_t>(m_source.capacity());
+        return m_tileStrip < m_progress.size() && m_tileStrip < m_released + m_capacity;
     }
 
     void encodeNext(std::unique_lock<std::mutex> &lock)
     {
-        const std::size_t stripIndex = m_chunkStrip;
-        const Strip &strip = m_source.strips()[stripIndex];
-        Progress &progress = m_progress[stripIndex];
-        const int taken = progress.chunksTaken++;
-        const int chunk = m_nextChunk++;
-        if (taken + 1 == (strip.height + m_encoder.chunkHeight() - 1) / m_encoder.chunkHeight()) {
-            ++m_chunkStrip;
-        }
+        const std::size_t index = m_nextChunk++;
+        const Chunk &chunk = m_chunks[index];
         ++m_encoding;
         lock.unlock();
-        const int top = strip.top + taken * m_encoder.chunkHeight();
-        const int height = std::min(m_encoder.chunkHeight(), strip.top + strip.height - top);
-        const auto result = m_encoder.encodeChunk(chunk, top, height, [&](int y, std::uint8_t *rgba) {
-            m_source.readRow(static_cast<int>(stripIndex), y, rgba);
-        });
+        std::size_t strip = chunk.firstStrip;
+        const auto readRow = [&](int y, std::uint8_t *rgba) {
+            while (y >= m_source.strips()[strip].top + m_source.strips()[strip].height) {
+                ++strip; // rows are read from the top to the bottom
+            }
+            m_source.readRow(static_cast<int>(strip), y, rgba);
+        };
+        const auto result = m_encoder.encodeChunk(static_cast<int>(index), chunk.top, chunk.height, readRow);
         lock.lock();
         --m_encoding;
-        --progress.chunksLeft;
+        for (std::size_t read = chunk.firstStrip; read <= chunk.lastStrip; ++read) {
+            --m_progress[read].chunksLeft;
+        }
         while (m_released < m_progress.size() && m_progress[m_released].chunksLeft == 0) {
             ++m_released;
         }
@@ -97,20 +131,21 @@ private:
         const int tile = progress.tilesTaken++;
         if (progress.tilesTaken == m_source.strips()[stripIndex].tileCount) {
             ++m_tileStrip;
-            passStripsWithoutTiles();
         }
         lock.unlock();
         const auto result = m_source.decodeTile(worker, static_cast<int>(stripIndex), tile);
         lock.lock();
         --progress.tilesLeft;
+        passWhatIsDecoded();
         finishStep(result);
     }
 
-    void passStripsWithoutTiles()
+    void passWhatIsDecoded()
     {
-        while (m_tileStrip < m_progress.size() && m_progress[m_tileStrip].tilesLeft == 0) {
-            ++m_tileStrip;
+        while (m_decoded < m_progress.size() && m_progress[m_decoded].tilesLeft == 0) {
+            ++m_decoded;
         }
+        m_tileStrip = std::max(m_tileStrip, m_decoded); // some strips have no tiles
     }
 
     void finishStep(const Result<void> &result)
@@ -125,11 +160,13 @@ private:
     RowEncoder &m_encoder;
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    std::vector<Progress> m_progress;
-    std::size_t m_tileStrip = 0;  ///< strip of the next tile to decode
-    std::size_t m_chunkStrip = 0; ///< strip of the next chunk to encode
-    std::size_t m_released = 0;   ///< strips before this one are no longer needed
-    int m_nextChunk = 0;
+    std::vector<Progress> m_progress; ///< by strip
+    std::vector<Chunk> m_chunks;
+    std::size_t m_capacity = 0;  ///< strips that are held at once
+    std::size_t m_tileStrip = 0; ///< strip of the next tile to decode
+    std::size_t m_decoded = 0;   ///< strips before this one are decoded
+    std::size_t m_released = 0;  ///< strips before this one are no longer needed
+    std::size_t m_nextChunk = 0;
     int m_encoding = 0;
     std::optional<Fault> m_fault;
 };

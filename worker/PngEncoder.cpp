@@ -1,12 +1,13 @@
 #include "PngEncoder.h"
 
+#include "OrderedPieces.h"
 #include "PngFilter.h"
+#include "Spares.h"
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <isa-l.h>
-#include <map>
-#include <mutex>
 #include <string_view>
 
 namespace imageworker {
@@ -14,7 +15,7 @@ namespace imageworker {
 namespace {
 
 constexpr std::size_t ChunkMemory = std::size_t{1} << 20U; // of unfiltered pixels
-constexpr int TallestChunk = 64;
+constexpr int TallestChunk = 64; // rows; a power of two, which a tile's height is a multiple of
 constexpr std::uint32_t AdlerModulus = 65'521;
 
 void appendNumber(Bytes &bytes, std::uint32_t value)
@@ -108,7 +109,7 @@ public:
         , m_size(size)
         , m_metadata(metadata)
         , m_chunkHeight(static_cast<int>(std::clamp<std::size_t>(
-              ChunkMemory / (static_cast<std::size_t>(size.width) * 4), 8, TallestChunk)))
+              std::bit_floor(ChunkMemory / (static_cast<std::size_t>(size.width) * 4)), 8, TallestChunk)))
     {}
 
     Order order() const override { return Order::AtOnce; }
@@ -141,19 +142,19 @@ public:
 
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
     {
-        std::unique_ptr<ChunkCompressor> compressor = takeCompressor();
+        auto compressor =
+            m_compressors.take([this] { return std::make_unique<ChunkCompressor>(m_size, m_chunkHeight); });
         compressor->filter(top, height, readRow);
         Piece piece;
         if (chunk == 0) {
             piece.data = {0x78, 0x5E}; // a stream of 32 KiB windows, compressed fast (RFC 1950, 2.2)
         }
-        compressor->compress(top + height == m_size.height, piece.data);
+        piece.isLast = top + height == m_size.height;
+        compressor->compress(piece.isLast, piece.data);
         piece.adler = compressor->adler();
         piece.length = compressor->length();
-        const std::lock_guard lock(m_mutex);
-        m_compressors.push_back(std::move(compressor));
-        m_pieces.emplace(chunk, std::move(piece));
-        writeReadyPieces();
+        m_compressors.giveBack(std::move(compressor));
+        m_pieces.add(chunk, std::move(piece), [this](Piece &next) { writePiece(next); });
         return outcome();
     }
 
@@ -169,6 +170,7 @@ private:
         Bytes data;
         std::uint32_t adler = 1;
         std::uint64_t length = 0; ///< before compression
+        bool isLast = false;
     };
 
     Result<void> outcome() const
@@ -176,32 +178,13 @@ private:
         return m_output.hasFailed() ? Result<void>(tl::unexpected(Fault::CannotWrite)) : Result<void>();
     }
 
-    std::unique_ptr<ChunkCompressor> takeCompressor()
+    void writePiece(Piece &piece)
     {
-        const std::lock_guard lock(m_mutex);
-        if (m_compressors.empty()) {
-            return std::make_unique<ChunkCompressor>(m_size, m_chunkHeight);
+        m_adler = joinedAdler(m_adler, piece.adler, piece.length);
+        if (piece.isLast) {
+            appendNumber(piece.data, m_adler);
         }
-        auto compressor = std::move(m_compressors.back());
-        m_compressors.pop_back();
-        return compressor;
-    }
-
-    void writeReadyPieces()
-    {
-        for (auto piece = m_pieces.find(m_nextPiece); piece != m_pieces.end();
-             piece = m_pieces.find(m_nextPiece)) {
-            Bytes &data = piece->second.data;
-            m_adler = joinedAdler(m_adler, piece->second.adler, piece->second.length);
-            m_bytesBefore += piece->second.length;
-            if (m_bytesBefore == (static_cast<std::uint64_t>(m_size.width) * 4 + 1) *
-                                     static_cast<std::uint64_t>(m_size.height)) {
-                appendNumber(data, m_adler);
-            }
-            writePart("IDAT", data);
-            m_pieces.erase(piece);
-            ++m_nextPiece;
-        }
+        writePart("IDAT", piece.data);
     }
 
     /// One chunk of the file (W3C PNG, 5.3).
@@ -223,12 +206,9 @@ private:
     const PixelSize m_size;
     const CopyMetadata m_metadata;
     const int m_chunkHeight;
-    std::mutex m_mutex;
-    std::vector<std::unique_ptr<ChunkCompressor>> m_compressors; ///< not in use just now
-    std::map<int, Piece> m_pieces;                               ///< compressed, waiting for one before them
-    int m_nextPiece = 0;
-    std::uint32_t m_adler = 1;
-    std::uint64_t m_bytesBefore = 0;
+    Spares<ChunkCompressor> m_compressors;
+    OrderedPieces<Piece> m_pieces;
+    std::uint32_t m_adler = 1; ///< of what is written
 };
 
 } // namespace

@@ -50,7 +50,7 @@ public:
 
     PixelSize size() const override { return m_upright.size(); }
     const std::vector<Strip> &strips() const override { return m_strips; }
-    int capacity() const override { return 1; }
+    void hold(int) override {}
     Result<void> decodeTile(int, int, int) override { return {}; }
     void readRow(int strip, int y, std::uint8_t *rgba) const override;
 

@@ -57,7 +57,7 @@ template<typename Sample>
 void TileRows::averagePlanes(int strip, int y, int factor, std::array<std::vector<Sample>, 3> &means) const
 {
     const int top = m_strips[static_cast<std::size_t>(strip)].top;
-    const Slot &slot = m_slots[static_cast<std::size_t>(strip % Capacity)];
+    const Slot &slot = slotOf(strip);
     for (std::size_t plane = 0; plane < static_cast<std::size_t>(m_format.planeCount); ++plane) {
         const int shiftX = plane == 0 ? 0 : m_shiftX;
         const int shiftY = plane == 0 ? 0 : m_shiftY;

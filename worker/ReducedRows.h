@@ -17,7 +17,7 @@ public:
 
     PixelSize size() const override { return m_size; }
     const std::vector<Strip> &strips() const override { return m_strips; }
-    int capacity() const override { return m_rows->capacity(); }
+    void hold(int strips) override { m_rows->hold(strips); }
     Result<void> decodeTile(int worker, int strip, int index) override
     {
         return m_rows->decodeTile(worker, strip, index);

@@ -22,7 +22,7 @@ public:
 
     virtual Order order() const = 0;
 
-    /// Rows in a chunk; the last of a strip may have fewer.
+    /// Rows in each chunk but the last, which may have fewer.
     virtual int chunkHeight() const = 0;
 
     /// Called once before the first chunk.

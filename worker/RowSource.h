@@ -11,11 +11,12 @@ struct Strip
 {
     int top = 0;
     int height = 0;
-    int tileCount = 0; ///< what must be decoded before its rows can be read
+    int tileCount = 0; ///< what must be decoded before its rows can be read; 0 where all is decoded already
 };
 
 /// An upright sRGB picture that comes in strips. Tiles of different strips may be decoded and rows of ready
-/// strips be read on several threads at once; the caller sees to it that only capacity() strips are in use.
+/// strips be read on several threads at once; the caller sees to it that no more strips are in use than it
+/// asked to hold.
 class RowSource
 {
 public:
@@ -24,8 +25,8 @@ public:
     virtual PixelSize size() const = 0;
     virtual const std::vector<Strip> &strips() const = 0;
 
-    /// How many strips can be held at once.
-    virtual int capacity() const = 0;
+    /// Called once, before the first tile: how many consecutive strips must be held at once.
+    virtual void hold(int strips) = 0;
 
     /// Decodes tile @p index of strip @p strip with what belongs to thread @p worker.
     virtual Result<void> decodeTile(int worker, int strip, int index) = 0;

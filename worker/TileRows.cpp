@@ -144,7 +144,7 @@ PlaneView TileRows::slotPlane(int strip, std::size_t plane, PixelRectangle shown
     const int phaseY = plane == 0 ? 0 : m_phaseY;
     PixelRectangle samples = samplesOf(shown, phaseX, phaseY, shiftX, shiftY);
     samples.y -= (m_strips[static_cast<std::size_t>(strip)].top + phaseY) >> shiftY;
-    Bytes &bytes = m_slots[static_cast<std::size_t>(strip % Capacity)].planes[plane];
+    Bytes &bytes = m_slots[static_cast<std::size_t>(strip) % m_slots.size()].planes[plane];
     const PlaneView whole{bytes.data(), m_strides[plane], 0, 0};
     return partOf(whole, samples, m_format.sampleBytes());
 }
@@ -179,7 +179,7 @@ Result<void> TileRows::decodeTile(int worker, int strip, int index)
 void TileRows::readRow(int strip, int y, std::uint8_t *rgba) const
 {
     const int top = m_strips[static_cast<std::size_t>(strip)].top;
-    const Slot &slot = m_slots[static_cast<std::size_t>(strip % Capacity)];
+    const Slot &slot = slotOf(strip);
     SampleRow row;
     row.chromaShift = m_shiftX;
     row.chromaPhase = m_phaseX;

@@ -32,7 +32,7 @@ public:
 
     PixelSize size() const override { return m_size; }
     const std::vector<Strip> &strips() const override { return m_strips; }
-    int capacity() const override { return Capacity; }
+    void hold(int strips) override { m_slots.resize(static_cast<std::size_t>(strips)); }
     Result<void> decodeTile(int worker, int strip, int index) override;
     void readRow(int strip, int y, std::uint8_t *rgba) const override;
 
@@ -41,8 +41,6 @@ public:
     void readReducedRow(int strip, int y, int factor, std::uint8_t *rgba) const;
 
 private:
-    static constexpr int Capacity = 2;
-
     /// Planes of one strip; the colour planes begin at the colour sample of its first row.
     struct Slot
     {
@@ -61,6 +59,7 @@ private:
     /// Settles the format with the first decoded tile; false for a tile that differs from it.
     bool accept(const SampleFormat &format);
     void prepare(const SampleFormat &format);
+    const Slot &slotOf(int strip) const { return m_slots[static_cast<std::size_t>(strip) % m_slots.size()]; }
     PlaneView slotPlane(int strip, std::size_t plane, PixelRectangle shown);
     template<typename Sample>
     void averagePlanes(int strip, int y, int factor, std::array<std::vector<Sample>, 3> &means) const;
@@ -84,7 +83,7 @@ private:
     int m_phaseX = 0; ///< colour sample of pixel x is (x + phase) >> shift
     int m_phaseY = 0;
     std::array<std::ptrdiff_t, 3> m_strides = {};
-    std::array<Slot, Capacity> m_slots;
+    std::vector<Slot> m_slots; ///< taken in turns
     std::unique_ptr<CodeConversion> m_conversion;
     std::unique_ptr<SrgbStage> m_stage;
 };

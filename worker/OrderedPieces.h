@@ -1,0 +1,33 @@
+#pragma once
+
+#include <map>
+#include <mutex>
+#include <utility>
+
+namespace imageworker {
+
+/// Pieces of a file that are made on several threads at once and written in their order.
+template<typename Piece>
+class OrderedPieces
+{
+public:
+    /// Hands @p piece, number @p number from 0, to @p write as soon as all before it were; one at a time.
+    template<typename Write>
+    void add(int number, Piece piece, const Write &write)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waiting.emplace(number, std::move(piece));
+        for (auto next = m_waiting.find(m_next); next != m_waiting.end(); next = m_waiting.find(m_next)) {
+            write(next->second);
+            m_waiting.erase(next);
+            ++m_next;
+        }
+    }
+
+private:
+    std::mutex m_mutex;
+    std::map<int, Piece> m_waiting;
+    int m_next = 0;
+};
+
+} // namespace imageworker
