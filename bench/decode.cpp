@@ -1,5 +1,5 @@
-// decode SOURCE: decodes every tile of a photo on all processors and throws the pictures away: the floor
-// under any conversion.
+// decode SOURCE [COUNT]: decodes every tile of a photo on all processors and throws the pictures away: the
+// floor under any conversion. COUNT times, one after another.
 
 #include "CodecConfiguration.h"
 #include "ItemData.h"
@@ -47,20 +47,9 @@ private:
     std::atomic<bool> m_hasFailed = false;
 };
 
-} // namespace
-
-int main(int argumentCount, char **arguments)
+bool decodeOnce(const Source &source, const TileGrid &grid)
 {
-    const int descriptor =
-        argumentCount == 2 && loadDecoders() ? ::open(arguments[1], O_RDONLY | O_CLOEXEC) : -1;
-    const auto source = sourceOfFile(descriptor);
-    const auto photo = source ? readPhoto(*source) : unreadable();
-    const auto *picture = photo ? std::get_if<Picture>(&photo->picture) : nullptr;
-    const auto *grid = picture != nullptr ? std::get_if<TileGrid>(&picture->content) : nullptr;
-    if (grid == nullptr) {
-        return EXIT_FAILURE;
-    }
-    TileQueue queue(*source, *grid);
+    TileQueue queue(source, grid);
     {
         std::vector<std::jthread> threads;
         threads.reserve(static_cast<std::size_t>(availableWorkers()));
@@ -68,5 +57,27 @@ int main(int argumentCount, char **arguments)
             threads.emplace_back([&queue] { queue.decodeUntilEmpty(); });
         }
     }
-    return queue.hasFailed() ? EXIT_FAILURE : EXIT_SUCCESS;
+    return !queue.hasFailed();
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments)
+{
+    const int descriptor =
+        argumentCount >= 2 && loadDecoders() ? ::open(arguments[1], O_RDONLY | O_CLOEXEC) : -1;
+    const auto source = sourceOfFile(descriptor);
+    const auto photo = source ? readPhoto(*source) : unreadable();
+    const auto *picture = photo ? std::get_if<Picture>(&photo->picture) : nullptr;
+    const auto *grid = picture != nullptr ? std::get_if<TileGrid>(&picture->content) : nullptr;
+    if (grid == nullptr) {
+        return EXIT_FAILURE;
+    }
+    const int count = argumentCount > 2 ? std::atoi(arguments[2]) : 1;
+    for (int done = 0; done < count; ++done) {
+        if (!decodeOnce(*source, *grid)) {
+            return EXIT_FAILURE;
+        }
+    }
+    return EXIT_SUCCESS;
 }

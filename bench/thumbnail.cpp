@@ -1,5 +1,5 @@
-// thumbnail SOURCE: one preview of 240 pixels, as the window shows them, by an image worker of its own. Exit
-// status 1 when there is none.
+// thumbnail SOURCE [COUNT]: a preview of 240 pixels, as the window shows them, by an image worker of its own;
+// COUNT times, one after another. Exit status 1 when there is none.
 
 #include "ImageWorker.h"
 #include "ImageWorkerLauncher.h"
@@ -13,17 +13,21 @@
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    if (argc != 2) {
-        QTextStream(stderr) << "usage: thumbnail SOURCE\n";
+    const QStringList arguments = QCoreApplication::arguments();
+    const int count = arguments.size() == 3 ? arguments[2].toInt() : 1;
+    if (arguments.size() < 2 || count < 1) {
+        QTextStream(stderr) << "usage: thumbnail SOURCE [COUNT]\n";
         return 2;
     }
     const auto launcher = ImageWorkerLauncher::create();
     launcher->prepare();
     const FileDescriptor photo(::open(argv[1], O_RDONLY | O_CLOEXEC));
-    auto worker = launcher->launch();
     constexpr int side = 240;
-    const bool isDone = photo.isOpen() && worker->open(photo) && worker->thumbnail(side);
-    worker.reset();
+    bool isDone = photo.isOpen();
+    for (int made = 0; isDone && made < count; ++made) {
+        const auto worker = launcher->launch();
+        isDone = worker->open(photo) && worker->thumbnail(side);
+    }
     awaitBookingOfWorkers();
     return isDone ? 0 : 1;
 }
