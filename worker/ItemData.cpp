@@ -8,7 +8,7 @@ namespace imageworker {
 
 namespace {
 
-constexpr int MaximumDepth = 8;
+constexpr int MaximumDepth = 2; // items within items: nobody writes more, and they multiply
 
 /// @p part as a part of @p whole; a length of 0 asks for all that follows.
 bool within(std::uint64_t wholeLength, Extent &part)
@@ -40,36 +40,38 @@ void appendPart(const DataLocation &whole, Extent part, DataLocation &location)
     }
 }
 
-Result<DataLocation> locate(const Source &source, const ItemTable &table, const Item &item, int depth)
+Result<DataLocation> locate(const Source &source, const ItemTable &table, const Item &item, int depth);
+
+/// What an extent of @p item points into.
+Result<DataLocation> pointedInto(const Source &source, const ItemTable &table, const Item &item,
+                                 const Extent &extent, int depth)
 {
-    DataLocation whole;
     switch (item.construction) {
     case Construction::FileOffset:
-        whole = {{0, source.size()}};
-        break;
+        return DataLocation{{0, source.size()}};
     case Construction::ItemDataBox:
-        whole = {table.itemData};
-        break;
-    case Construction::ItemOffset: {
-        const auto references = referencesOf(item, fourCharacters("iloc"));
-        const Item *other = references.empty() ? nullptr : table.find(references.front());
-        if (other == nullptr || depth == MaximumDepth) {
-            return unreadable();
-        }
-        auto location = locate(source, table, *other, depth + 1);
-        if (!location) {
-            return unreadable();
-        }
-        whole = std::move(*location);
+        return DataLocation{table.itemData};
+    case Construction::ItemOffset:
         break;
     }
+    const auto references = referencesOf(item, fourCharacters("iloc"));
+    const Item *other =
+        extent.reference < references.size() ? table.find(references[extent.reference]) : nullptr;
+    if (other == nullptr || depth == MaximumDepth) {
+        return unreadable();
     }
+    return locate(source, table, *other, depth + 1);
+}
+
+Result<DataLocation> locate(const Source &source, const ItemTable &table, const Item &item, int depth)
+{
     DataLocation location;
     for (Extent extent : item.extents) {
-        if (!within(lengthOf(whole), extent)) {
+        const auto whole = pointedInto(source, table, item, extent, depth);
+        if (!whole || !within(lengthOf(*whole), extent)) {
             return unreadable();
         }
-        appendPart(whole, extent, location);
+        appendPart(*whole, extent, location);
     }
     // Extents may overlap, so a small file could otherwise ask for any amount.
     if (location.empty() || lengthOf(location) > source.size()) {

@@ -73,13 +73,15 @@ bool readItemLocations(ByteReader reader, ItemTable &table)
         Item &item = table.items[identifier];
         item.construction = static_cast<Construction>(method);
         for (unsigned index = 0; index < extentCount && !reader.failed(); ++index) {
-            reader.number(indexWidth);
+            const std::uint64_t number =
+                reader.number(indexWidth); // counted from 1; not written for one alone
             const std::uint64_t offset = reader.number(offsetWidth);
             const std::uint64_t length = reader.number(lengthWidth);
-            if (offset > UINT64_MAX - base) {
+            if (offset > UINT64_MAX - base || number > MaximumItems) {
                 return false;
             }
-            item.extents.push_back({base + offset, length});
+            const std::uint32_t reference = number == 0 ? 0 : static_cast<std::uint32_t>(number - 1);
+            item.extents.push_back({base + offset, length, reference});
         }
         if (table.items.size() > MaximumItems) {
             return false;

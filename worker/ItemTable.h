@@ -11,7 +11,8 @@ namespace imageworker {
 struct Extent
 {
     std::uint64_t offset = 0;
-    std::uint64_t length = 0; ///< 0: to the end of what the offset points into
+    std::uint64_t length = 0;    ///< 0: to the end of what the offset points into
+    std::uint32_t reference = 0; ///< that of the item's "iloc" references which it points into, where it does
 };
 
 enum class Construction { FileOffset, ItemDataBox, ItemOffset };

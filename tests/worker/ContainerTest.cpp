@@ -1,3 +1,4 @@
+#include "AvcPicture.h"
 #include "ConvertedPhoto.h"
 #include "HeifFile.h"
 #include "MadePhoto.h"
@@ -228,6 +229,22 @@ TEST_F(Container, ShouldReadPicturesOfOtherCodecs)
     ASSERT_TRUE(asItem && asFile);
     constexpr int OtherWayOfEnlargingColour = 8;
     EXPECT_LE(largestDifference(*asItem, *asFile), OtherWayOfEnlargingColour);
+}
+
+TEST_F(Container, ShouldReadAvcWithoutAnyLoss)
+{
+    for (const PixelSize size : {PixelSize{96, 64}, PixelSize{70, 42}}) { // blocks have 16 pixels a side
+        const Raster drawn = cornerColours(size, false);
+        const CodedItem coded = makeAvcItem(drawn);
+        HeifFile file;
+        const auto copy = shown(file.bytes(file.add("avc1", coded.data, coded.properties)));
+        ASSERT_TRUE(copy);
+        Raster grey(size);
+        for (std::size_t index = 0; index < grey.rgba.size(); ++index) {
+            grey.rgba[index] = index % 4 == 3 ? 255 : drawn.rgba[index - index % 4];
+        }
+        EXPECT_EQ(largestDifference(*copy, grey), 0);
+    }
 }
 
 TEST_F(Container, ShouldRefuseWhatDoesNotAddUp)

@@ -106,9 +106,12 @@ unsigned HeifFile::add(std::string_view type, const Bytes &data, Properties prop
         return addItem(type, std::move(properties), place, {{start, data.size()}});
     }
     case Place::Item: {
-        const unsigned other = add("mime", joined({foreign, data, foreign}), {});
-        const unsigned item = addItem(type, std::move(properties), place, {{foreign.size(), data.size()}});
-        refer(item, "iloc", {other});
+        const std::size_t half = data.size() / 2;
+        const unsigned second = add("mime", joined({foreign, part(data, half, data.size()), foreign}), {});
+        const unsigned first = add("mime", joined({foreign, part(data, 0, half)}), {});
+        const unsigned item = addItem(type, std::move(properties), place,
+                                      {{foreign.size(), half, 2}, {foreign.size(), data.size() - half, 1}});
+        refer(item, "iloc", {second, first});
         return item;
     }
     }
@@ -130,8 +133,10 @@ unsigned HeifFile::addItem(std::string_view type, Properties properties, Place p
 Bytes HeifFile::meta(unsigned primary, std::size_t mediaStart) const
 {
     Bytes infos = bigEndian(m_items.size(), 2);
-    Bytes locations =
-        joined({bigEndian(0x4400, 2), bigEndian(m_items.size(), 2)}); // offsets and lengths of 4 bytes
+    // Numbers of other items only where there are any: the independent decoder cannot read them.
+    const bool hasReferences =
+        std::ranges::any_of(m_items, [](const Item &item) { return item.place == Place::Item; });
+    Bytes locations = joined({bigEndian(hasReferences ? 0x4404 : 0x4400, 2), bigEndian(m_items.size(), 2)});
     Bytes properties;
     Bytes associations = bigEndian(m_items.size(), 4);
     unsigned number = 0;
@@ -145,7 +150,8 @@ Bytes HeifFile::meta(unsigned primary, std::size_t mediaStart) const
                             bigEndian(0, 2), bigEndian(item.extents.size(), 2)});
         for (const Extent &extent : item.extents) {
             const std::size_t base = item.place == Place::File ? mediaStart : 0;
-            locations = joined({locations, bigEndian(base + extent.offset, 4), bigEndian(extent.length, 4)});
+            locations = joined({locations, hasReferences ? bigEndian(extent.reference, 4) : Bytes(),
+                                bigEndian(base + extent.offset, 4), bigEndian(extent.length, 4)});
         }
         associations = joined({associations, bigEndian(number, 2), bigEndian(item.properties.size(), 1)});
         for (const Property &property : item.properties) {

@@ -24,7 +24,7 @@ public:
     enum class Place {
         File,     ///< in two pieces of the file, the second of them first
         ItemData, ///< in the box for small data
-        Item,     ///< within another item, behind bytes that are not its own
+        Item,     ///< in two pieces within two other items, behind bytes that are not its own
     };
 
     /// Gives the number of the item.
@@ -39,6 +39,7 @@ private:
     {
         std::size_t offset = 0;
         std::size_t length = 0;
+        unsigned reference = 1; ///< number of the other item it lies in, for Place::Item
     };
     struct Item
     {
