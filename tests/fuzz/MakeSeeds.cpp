@@ -1,5 +1,6 @@
 // MakeSeeds FOLDER: a few small photos of different kinds for the fuzzers to start from.
 
+#include "AvcPicture.h"
 #include "HeifFile.h"
 #include "MadePhoto.h"
 
@@ -29,6 +30,13 @@ Bytes derivedPhoto()
     return file.bytes(identity);
 }
 
+Bytes avcPhoto()
+{
+    HeifFile file;
+    const CodedItem coded = makeAvcItem(cornerColours({64, 48}, false));
+    return file.bytes(file.add("avc1", coded.data, coded.properties));
+}
+
 std::vector<Bytes> photos()
 {
     const PhotoRecipe recipes[] = {
@@ -38,7 +46,7 @@ std::vector<Bytes> photos()
         {.size = {64, 64}, .hasAlpha = true, .exif = {'I', 'I', 42, 0, 8, 0, 0, 0, 0, 0}},
         {.size = {64, 64}, .codec = PhotoRecipe::Codec::Av1},
     };
-    std::vector<Bytes> all = {derivedPhoto()};
+    std::vector<Bytes> all = {derivedPhoto(), avcPhoto()};
     for (const PhotoRecipe &recipe : recipes) {
         all.push_back(makePhoto(recipe));
     }

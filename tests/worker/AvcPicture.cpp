@@ -2,6 +2,7 @@
 
 extern "C" {
 #include <libavcodec/avcodec.h>
+#include <libavutil/log.h>
 #include <libavutil/opt.h>
 }
 
@@ -28,17 +29,19 @@ void require(bool isDone)
 /// The units of a byte stream (ITU-T H.264, annex B).
 std::vector<Bytes> unitsOf(std::span<const std::uint8_t> stream)
 {
-    constexpr std::array<std::uint8_t, 3> StartCode = {0, 0, 1};
+    static constexpr std::array<std::uint8_t, 3> StartCode = {0, 0, 1};
     std::vector<Bytes> units;
-    auto position = std::ranges::search(stream, StartCode).end();
-    while (position != stream.end()) {
-        const auto next = std::search(position, stream.end(), StartCode.begin(), StartCode.end());
-        Bytes unit(position, next);
+    const auto startFrom = [&stream](auto position) {
+        return std::search(position, stream.end(), StartCode.begin(), StartCode.end());
+    };
+    for (auto start = startFrom(stream.begin()); start != stream.end();) {
+        const auto next = startFrom(start + 1);
+        Bytes unit(start + StartCode.size(), next);
         while (!unit.empty() && unit.back() == 0) { // belongs to the next start code
             unit.pop_back();
         }
         units.push_back(std::move(unit));
-        position = next == stream.end() ? next : next + StartCode.size();
+        start = next;
     }
     return units;
 }
@@ -58,6 +61,7 @@ CodedItem makeAvcItem(const Raster &picture)
     const auto freeContext = [](AVCodecContext *context) { avcodec_free_context(&context); };
     const auto freeFrame = [](AVFrame *frame) { av_frame_free(&frame); };
     const auto freePacket = [](AVPacket *packet) { av_packet_free(&packet); };
+    av_log_set_level(AV_LOG_QUIET);
     const AVCodec *codec = avcodec_find_encoder_by_name("libx264");
     require(codec != nullptr);
     const std::unique_ptr<AVCodecContext, decltype(freeContext)> context(avcodec_alloc_context3(codec));
@@ -73,6 +77,7 @@ CodedItem makeAvcItem(const Raster &picture)
     frame->format = context->pix_fmt;
     frame->width = context->width;
     frame->height = context->height;
+    frame->pts = 0;
     require(av_frame_get_buffer(frame.get(), 0) == 0);
     for (int y = 0; y < frame->height; ++y) {
         for (int x = 0; x < frame->width; ++x) {
