@@ -13,6 +13,7 @@
 #include <csetjmp>
 #include <cstdio>
 #include <jpeglib.h>
+#include <span>
 #include <string_view>
 
 namespace imageworker {
@@ -76,16 +77,22 @@ Bytes segment(std::string_view prefix, const Bytes &content)
     return bytes;
 }
 
-/// Segments to put into a file, by their markers.
-std::vector<std::pair<int, Bytes>> segmentsOf(const CopyMetadata &metadata)
+/// What is put into a file behind a marker.
+struct Segment
 {
-    std::vector<std::pair<int, Bytes>> segments;
-    segments.emplace_back(JPEG_APP0 + 1,
-                          segment(ExifPrefix, exifWithin(metadata.exif, LongestSegment - ExifPrefix.size())));
+    int marker = 0;
+    Bytes bytes;
+};
+
+std::vector<Segment> segmentsOf(const CopyMetadata &metadata)
+{
+    std::vector<Segment> segments;
+    segments.push_back(
+        {JPEG_APP0 + 1, segment(ExifPrefix, exifWithin(metadata.exif, LongestSegment - ExifPrefix.size()))});
     for (Bytes &part : xmpSegments(metadata.xmp, LongestSegment)) {
-        segments.emplace_back(JPEG_APP0 + 1, std::move(part));
+        segments.push_back({JPEG_APP0 + 1, std::move(part)});
     }
-    segments.emplace_back(JPEG_APP0 + 2, segment(IccPrefix, profileOfSrgb()));
+    segments.push_back({JPEG_APP0 + 2, segment(IccPrefix, profileOfSrgb())});
     return segments;
 }
 
@@ -128,13 +135,12 @@ public:
     ChunkEncoder &operator=(const ChunkEncoder &) = delete;
 
     /// The stream of rows @p top to @p top + @p height, with @p segments; empty after a fault.
-    Bytes encode(int top, int height, const RowReader &readRow,
-                 const std::vector<std::pair<int, Bytes>> &segments)
+    Bytes encode(int top, int height, const RowReader &readRow, std::span<const Segment> segments)
     {
         m_stream.clear();
         bool isGood = start(height);
-        for (const auto &[marker, bytes] : segments) {
-            isGood = isGood && writeSegment(marker, bytes);
+        for (const Segment &segment : segments) {
+            isGood = isGood && writeSegment(segment);
         }
         for (int y = top; isGood && y < top + height; ++y) {
             readRow(y, m_row.data());
@@ -187,13 +193,14 @@ private:
         return true;
     }
 
-    bool writeSegment(int marker, const Bytes &bytes)
+    bool writeSegment(const Segment &segment)
     {
         if (setjmp(m_fault) != 0) {
             return false;
         }
-        if (!bytes.empty()) {
-            jpeg_write_marker(&m_jpeg, marker, bytes.data(), static_cast<unsigned>(bytes.size()));
+        if (!segment.bytes.empty()) {
+            jpeg_write_marker(&m_jpeg, segment.marker, segment.bytes.data(),
+                              static_cast<unsigned>(segment.bytes.size()));
         }
         return true;
     }
@@ -245,7 +252,8 @@ public:
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
     {
         auto encoder = m_encoders.take([this] { return std::make_unique<ChunkEncoder>(m_form); });
-        Bytes stream = encoder->encode(top, height, readRow, chunk == 0 ? m_segments : NoSegments);
+        const std::span<const Segment> all = m_segments;
+        Bytes stream = encoder->encode(top, height, readRow, chunk == 0 ? all : all.first(0));
         m_encoders.giveBack(std::move(encoder));
         if (stream.empty()) {
             return tl::unexpected(Fault::CannotWrite);
@@ -266,7 +274,6 @@ private:
     static constexpr std::uint8_t ScanMarker = 0xDA;
     static constexpr std::uint8_t FirstRestartMarker = 0xD0; // of eight
     static constexpr std::array<std::uint8_t, 2> EndOfImage = {0xFF, 0xD9};
-    static inline const std::vector<std::pair<int, Bytes>> NoSegments;
 
     /// All of the first chunk's stream up to its end, with the height of the whole picture.
     Bytes beginning(Bytes stream) const
@@ -296,7 +303,7 @@ private:
 
     OutputFile &m_output;
     const JpegForm m_form;
-    const std::vector<std::pair<int, Bytes>> m_segments;
+    const std::vector<Segment> m_segments;
     Spares<ChunkEncoder> m_encoders;
     OrderedPieces<Bytes> m_pieces;
 };
