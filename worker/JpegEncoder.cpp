@@ -247,7 +247,12 @@ public:
 
     Order order() const override { return Order::AtOnce; }
     int chunkHeight() const override { return ChunkHeight; }
-    Result<void> begin() override { return {}; }
+    Result<void> begin() override
+    {
+        // The library looks at the size of a chunk alone, and the frame's header has two bytes for a side.
+        const bool fits = std::max(m_form.size.width, m_form.size.height) <= JPEG_MAX_DIMENSION;
+        return fits ? Result<void>() : tl::unexpected(Fault::CannotWrite);
+    }
 
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
     {

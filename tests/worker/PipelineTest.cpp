@@ -178,6 +178,19 @@ TEST_P(Pipeline, ShouldWriteEveryRowOnceInItsPlace)
     }
 }
 
+TEST(JpegEncoder, ShouldRefusePicturesThatTheFormatCannotHold)
+{
+    for (const PixelSize size : {PixelSize{16, 70'000}, PixelSize{70'000, 16}}) {
+        const MemoryFile file;
+        OutputFile output(file.descriptor());
+        const Raster picture(size);
+        StripSource source(picture, {size.height});
+        const auto written = runPipeline(source, *makeJpegEncoder(output, size, 0.9, {}), 2);
+        ASSERT_FALSE(written);
+        EXPECT_EQ(written.error(), Fault::CannotWrite);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Layouts, Pipeline,
                          testing::Values(Layout{"OneRow", {1}}, Layout{"OneStrip", {300}},
                                          Layout{"Tiles", {64, 64, 64, 17}},
