@@ -26,6 +26,13 @@ PixelSize sizeOfSingle(const CodedPicture &coded, PixelSize extent)
     return fits ? extent : *announced;
 }
 
+/// Whether the tiles together cover the canvas: a hole could not be told from the photo.
+bool isCovered(const TileGrid &grid)
+{
+    return std::int64_t{grid.tile.width} * grid.columns >= grid.canvas.width &&
+           std::int64_t{grid.tile.height} * grid.rows >= grid.canvas.height;
+}
+
 class PictureReader
 {
 public:
@@ -40,7 +47,10 @@ private:
     Result<void> readContent(const Item &item, int depth, Picture &picture);
     Result<CodedPicture> readCoded(const Item &item) const;
     Result<void> readSingle(const Item &item, Picture &picture) const;
-    Result<void> readGrid(const Item &item, Picture &picture) const;
+    Result<void> readGrid(const Item &item, int depth, Picture &picture);
+    Result<void> readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, Picture &picture) const;
+    Result<void> layTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, int depth,
+                          Picture &picture);
     Result<void> readIdentity(const Item &item, int depth, Picture &picture);
     Result<void> readOverlay(const Item &item, int depth, Picture &picture);
     Result<void> readAlpha(std::uint32_t identifier, int depth, Picture &picture);
@@ -91,7 +101,7 @@ Result<void> PictureReader::readContent(const Item &item, int depth, Picture &pi
 {
     switch (item.type) {
     case fourCharacters("grid"):
-        return readGrid(item, picture);
+        return readGrid(item, depth, picture);
     case fourCharacters("iden"):
         return readIdentity(item, depth, picture);
     case fourCharacters("iovl"):
@@ -155,7 +165,7 @@ Result<Bytes> PictureReader::readDerivation(const Item &item) const
 }
 
 /// Grid derivation, ISO/IEC 23008-12, 6.6.2.3.
-Result<void> PictureReader::readGrid(const Item &item, Picture &picture) const
+Result<void> PictureReader::readGrid(const Item &item, int depth, Picture &picture)
 {
     const auto bytes = readDerivation(item);
     if (!bytes) {
@@ -175,26 +185,63 @@ Result<void> PictureReader::readGrid(const Item &item, Picture &picture) const
         return unreadable();
     }
     grid.canvas = {static_cast<int>(canvasWidth), static_cast<int>(canvasHeight)};
-    for (const std::uint32_t input : inputs) {
+    picture.upright = Upright(grid.canvas);
+    const bool areCoded = std::ranges::all_of(inputs, [this](std::uint32_t input) {
         const Item *tile = m_table.find(input);
-        const auto size = tile != nullptr ? spatialExtent(m_table, *tile) : unreadable();
-        auto coded = size ? readCoded(*tile) : unreadable();
+        return tile != nullptr && configurationTypeOf(tile->type) != 0;
+    });
+    return areCoded ? readTiles(inputs, std::move(grid), picture)
+                    : layTiles(inputs, std::move(grid), depth, picture);
+}
+
+Result<void> PictureReader::readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid,
+                                      Picture &picture) const
+{
+    for (const std::uint32_t input : inputs) {
+        const Item &tile = *m_table.find(input);
+        const auto size = spatialExtent(m_table, tile);
+        auto coded = size ? readCoded(tile) : unreadable();
         if (!coded || (!grid.tiles.empty() && *size != grid.tile)) {
             return unreadable();
         }
         if (grid.tiles.empty()) {
             grid.tile = *size;
-            picture.colour = colourOf(m_table, *tile);
+            picture.colour = colourOf(m_table, tile);
         }
         grid.tiles.push_back(std::move(*coded));
     }
-    // The tiles together must cover the canvas: a hole could not be told from the photo.
-    if (std::int64_t{grid.tile.width} * grid.columns < canvasWidth ||
-        std::int64_t{grid.tile.height} * grid.rows < canvasHeight) {
+    if (!isCovered(grid)) {
         return unreadable();
     }
-    picture.upright = Upright(grid.canvas);
     picture.content = std::move(grid);
+    return {};
+}
+
+/// Tiles that are derived pictures themselves: no camera writes them, so they may be decoded whole, as layers
+/// that lie side by side.
+Result<void> PictureReader::layTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, int depth,
+                                     Picture &picture)
+{
+    Overlay overlay;
+    overlay.canvas = grid.canvas;
+    for (const std::uint32_t input : inputs) {
+        auto tile = read(input, depth + 1);
+        if (!tile) {
+            return unreadable();
+        }
+        const PixelSize size = tile->picture.upright.size();
+        const int index = static_cast<int>(overlay.layers.size());
+        grid.tile = index == 0 ? size : grid.tile;
+        if (size != grid.tile) {
+            return unreadable();
+        }
+        overlay.layers.push_back({index % grid.columns * size.width, index / grid.columns * size.height,
+                                  std::make_shared<Picture>(std::move(tile->picture))});
+    }
+    if (!isCovered(grid)) {
+        return unreadable();
+    }
+    picture.content = std::move(overlay);
     return {};
 }
 

@@ -185,6 +185,33 @@ TEST_F(Container, ShouldTurnAnIdentityOfATurnedPicture)
     expectLikeIndependentDecoder(file.bytes(identity));
 }
 
+TEST_F(Container, ShouldPutDerivedTilesOfAGridInTheirPlaces)
+{
+    HeifFile file;
+    const CodedItem coded = codedItemOf(makePhoto({.size = TileSize}));
+    const unsigned plain = file.add("hvc1", coded.data, coded.properties);
+    const auto extents = spatialExtents(64, 64);
+    const unsigned turned = file.add("iden", {}, {extents, rotation(1)});
+    file.refer(turned, "dimg", {plain});
+    const unsigned grid =
+        file.add("grid", gridOf(2, 2, {120, 100}), {spatialExtents(120, 100)}, Place::ItemData);
+    file.refer(grid, "dimg", {turned, plain, plain, turned});
+    const auto copy = shown(file.bytes(grid));
+    const auto tile = shown(file.bytes(plain));
+    const auto turnedTile = shown(file.bytes(turned));
+    ASSERT_TRUE(copy && tile && turnedTile);
+    Raster expected({120, 100});
+    lay(*turnedTile, 0, 0, expected);
+    lay(*tile, 64, 0, expected);
+    lay(*tile, 0, 64, expected);
+    lay(*turnedTile, 64, 64, expected);
+    EXPECT_EQ(largestDifference(*copy, expected), 0);
+    HeifFile sparse = file;
+    const unsigned tooWide = sparse.add("grid", gridOf(2, 2, {129, 100}), {spatialExtents(129, 100)});
+    sparse.refer(tooWide, "dimg", {turned, plain, plain, turned});
+    EXPECT_FALSE(shown(sparse.bytes(tooWide)));
+}
+
 TEST_F(Container, ShouldLayTheLayersOfAnOverlayOverOneAnother)
 {
     const std::vector<Bytes> layers = {makePhoto({}), makePhoto({.size = {128, 64}, .orientation = 6})};
