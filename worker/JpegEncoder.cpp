@@ -2,17 +2,14 @@
 
 #include "ColourSpace.h"
 #include "Exif.h"
+#include "JpegChunkEncoder.h"
 #include "OrderedPieces.h"
 #include "Spares.h"
-#include "Vectorised.h"
 #include "Xmp.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <csetjmp>
-#include <cstdio>
-#include <jpeglib.h>
 #include <span>
 #include <string_view>
 
@@ -24,8 +21,6 @@ constexpr std::size_t LongestSegment = 65'533; // what a marker's two bytes of l
 constexpr std::string_view ExifPrefix("Exif\0\0", 6);
 constexpr std::string_view IccPrefix("ICC_PROFILE\0\1\1", 14); // the first of one part
 constexpr double FinestColoursFrom = 0.95;
-constexpr int ChunkHeight =
-    32; // rows; those of the widest picture fit into a restart interval, 65,535 blocks
 
 Bytes profileOfSrgb()
 {
@@ -37,36 +32,6 @@ Bytes profileOfSrgb()
     return bytes;
 }
 
-LUMAPORT_VECTORISED bool isOpaque(const std::uint8_t *rgba, std::size_t width)
-{
-    unsigned least = 255;
-    for (std::size_t x = 0; x < width; ++x) {
-        least &= rgba[4 * x + 3];
-    }
-    return least == 255;
-}
-
-void layOverWhite(std::uint8_t *rgba, std::size_t width)
-{
-    if (isOpaque(rgba, width)) {
-        return;
-    }
-    for (std::size_t x = 0; x < width; ++x, rgba += 4) {
-        const unsigned opacity = rgba[3];
-        for (std::size_t channel = 0; channel < 3; ++channel) {
-            const unsigned mixed = rgba[channel] * opacity + 255U * (255U - opacity);
-            rgba[channel] = static_cast<std::uint8_t>((mixed + 127) / 255);
-        }
-    }
-}
-
-struct JpegForm
-{
-    PixelSize size;
-    int quality = 0;        ///< in percent
-    int colourSampling = 1; ///< pixels of brightness for one of colour, along each axis
-};
-
 Bytes segment(std::string_view prefix, const Bytes &content)
 {
     Bytes bytes;
@@ -77,16 +42,9 @@ Bytes segment(std::string_view prefix, const Bytes &content)
     return bytes;
 }
 
-/// What is put into a file behind a marker.
-struct Segment
+std::vector<JpegSegment> segmentsOf(const CopyMetadata &metadata)
 {
-    int marker = 0;
-    Bytes bytes;
-};
-
-std::vector<Segment> segmentsOf(const CopyMetadata &metadata)
-{
-    std::vector<Segment> segments;
+    std::vector<JpegSegment> segments;
     segments.push_back(
         {JPEG_APP0 + 1, segment(ExifPrefix, exifWithin(metadata.exif, LongestSegment - ExifPrefix.size()))});
     for (Bytes &part : xmpSegments(metadata.xmp, LongestSegment)) {
@@ -106,133 +64,6 @@ std::size_t findSegment(const Bytes &stream, std::uint8_t marker)
     return position;
 }
 
-/// Encodes chunks of a picture, each as a stream of its own with a restart interval of just its length.
-/// The library reports faults by a jump: a function that sets its goal owns nothing that needs destroying.
-class ChunkEncoder
-{
-public:
-    explicit ChunkEncoder(const JpegForm &form)
-        : m_form(form)
-        , m_row(static_cast<std::size_t>(form.size.width) * 4)
-    {
-        m_jpeg.err = jpeg_std_error(&m_errors);
-        m_jpeg.client_data = this;
-        m_errors.error_exit = [](j_common_ptr jpeg) {
-            std::longjmp(static_cast<ChunkEncoder *>(jpeg->client_data)->m_fault, 1);
-        };
-        m_errors.output_message = [](j_common_ptr) {};
-        m_destination.init_destination = [](j_compress_ptr jpeg) { owner(jpeg).emptyBuffer(); };
-        m_destination.empty_output_buffer = [](j_compress_ptr jpeg) -> boolean {
-            owner(jpeg).keep(BufferLength);
-            return TRUE;
-        };
-        m_destination.term_destination = [](j_compress_ptr jpeg) {
-            owner(jpeg).keep(BufferLength - owner(jpeg).m_destination.free_in_buffer);
-        };
-    }
-    ~ChunkEncoder() { jpeg_destroy_compress(&m_jpeg); }
-    ChunkEncoder(const ChunkEncoder &) = delete;
-    ChunkEncoder &operator=(const ChunkEncoder &) = delete;
-
-    /// The stream of rows @p top to @p top + @p height, with @p segments; empty after a fault.
-    Bytes encode(int top, int height, const RowReader &readRow, std::span<const Segment> segments)
-    {
-        m_stream.clear();
-        bool isGood = start(height);
-        for (const Segment &segment : segments) {
-            isGood = isGood && writeSegment(segment);
-        }
-        for (int y = top; isGood && y < top + height; ++y) {
-            readRow(y, m_row.data());
-            layOverWhite(m_row.data(), m_row.size() / 4);
-            isGood = encodeRow();
-        }
-        return isGood && end() ? std::move(m_stream) : Bytes();
-    }
-
-private:
-    static constexpr std::size_t BufferLength = 65'536;
-
-    static ChunkEncoder &owner(j_compress_ptr jpeg)
-    {
-        return *static_cast<ChunkEncoder *>(jpeg->client_data);
-    }
-
-    void emptyBuffer()
-    {
-        m_destination.next_output_byte = m_buffer.data();
-        m_destination.free_in_buffer = m_buffer.size();
-    }
-
-    void keep(std::size_t length)
-    {
-        m_stream.insert(m_stream.end(), m_buffer.begin(),
-                        m_buffer.begin() + static_cast<std::ptrdiff_t>(length));
-        emptyBuffer();
-    }
-
-    bool start(int height)
-    {
-        if (setjmp(m_fault) != 0) {
-            return false;
-        }
-        if (m_jpeg.mem == nullptr) {
-            jpeg_create_compress(&m_jpeg);
-            m_jpeg.dest = &m_destination;
-            m_jpeg.input_components = 4;
-            m_jpeg.in_color_space = JCS_EXT_RGBX;
-            m_jpeg.image_width = static_cast<JDIMENSION>(m_form.size.width);
-            jpeg_set_defaults(&m_jpeg);
-            jpeg_set_quality(&m_jpeg, m_form.quality, TRUE);
-            m_jpeg.comp_info[0].h_samp_factor = m_form.colourSampling;
-            m_jpeg.comp_info[0].v_samp_factor = m_form.colourSampling;
-            m_jpeg.restart_in_rows = ChunkHeight / (DCTSIZE * m_form.colourSampling);
-        }
-        m_jpeg.image_height = static_cast<JDIMENSION>(height);
-        jpeg_start_compress(&m_jpeg, TRUE);
-        return true;
-    }
-
-    bool writeSegment(const Segment &segment)
-    {
-        if (setjmp(m_fault) != 0) {
-            return false;
-        }
-        if (!segment.bytes.empty()) {
-            jpeg_write_marker(&m_jpeg, segment.marker, segment.bytes.data(),
-                              static_cast<unsigned>(segment.bytes.size()));
-        }
-        return true;
-    }
-
-    bool encodeRow()
-    {
-        if (setjmp(m_fault) != 0) {
-            return false;
-        }
-        JSAMPROW row = m_row.data();
-        return jpeg_write_scanlines(&m_jpeg, &row, 1) == 1;
-    }
-
-    bool end()
-    {
-        if (setjmp(m_fault) != 0) {
-            return false;
-        }
-        jpeg_finish_compress(&m_jpeg);
-        return true;
-    }
-
-    const JpegForm m_form;
-    std::vector<std::uint8_t> m_row;
-    std::array<std::uint8_t, BufferLength> m_buffer = {};
-    Bytes m_stream;
-    jpeg_compress_struct m_jpeg = {};
-    jpeg_error_mgr m_errors = {};
-    jpeg_destination_mgr m_destination = {};
-    std::jmp_buf m_fault = {};
-};
-
 /// Chunks are encoded on all processors, each as a small picture. What follows the first one's headers are
 /// then restart intervals of one large picture, with a restart marker between them (ITU-T T.81, B.2.1).
 class JpegEncoder : public RowEncoder
@@ -246,7 +77,8 @@ public:
     {}
 
     Order order() const override { return Order::AtOnce; }
-    int chunkHeight() const override { return ChunkHeight; }
+    int chunkHeight() const override { return JpegChunkEncoder::ChunkHeight; }
+
     Result<void> begin() override
     {
         // The library looks at the size of a chunk alone, and the frame's header has two bytes for a side.
@@ -256,8 +88,8 @@ public:
 
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
     {
-        auto encoder = m_encoders.take([this] { return std::make_unique<ChunkEncoder>(m_form); });
-        const std::span<const Segment> all = m_segments;
+        auto encoder = m_encoders.take([this] { return std::make_unique<JpegChunkEncoder>(m_form); });
+        const std::span<const JpegSegment> all = m_segments;
         Bytes stream = encoder->encode(top, height, readRow, chunk == 0 ? all : all.first(0));
         m_encoders.giveBack(std::move(encoder));
         if (stream.empty()) {
@@ -308,8 +140,8 @@ private:
 
     OutputFile &m_output;
     const JpegForm m_form;
-    const std::vector<Segment> m_segments;
-    Spares<ChunkEncoder> m_encoders;
+    const std::vector<JpegSegment> m_segments;
+    Spares<JpegChunkEncoder> m_encoders;
     OrderedPieces<Bytes> m_pieces;
 };
 

@@ -2,6 +2,7 @@
 
 #include "Result.h"
 
+#include <atomic>
 #include <span>
 
 namespace imageworker {
@@ -18,11 +19,12 @@ public:
     /// Appends all of @p bytes; false when the file cannot take them.
     bool write(std::span<const std::uint8_t> bytes);
 
+    /// May be asked on any thread.
     bool hasFailed() const { return m_failed; }
 
 private:
     int m_descriptor;
-    bool m_failed = false;
+    std::atomic<bool> m_failed = false;
 };
 
 } // namespace imageworker
