@@ -1,3 +1,4 @@
+#include "AccessibleItems.h"
 #include "BrandAssets.h"
 #include "GraphicsHardware.h"
 #include "LumaportApp.h"
@@ -35,6 +36,7 @@ int main(int argc, char **argv)
     QApplication::setWindowIcon(BrandAssets::icon());
     QApplication::setFont(Typeface::preferred(QApplication::font()));
     chooseRenderer();
+    AccessibleItems::install();
     QQuickStyle::setStyle(QStringLiteral("Basic"));
 
     QList<QUrl> files;

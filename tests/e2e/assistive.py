@@ -5,6 +5,7 @@ import os
 os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
 
 import pyatspi
+from gi.repository import GLib
 
 from support import wait_until
 
@@ -26,6 +27,28 @@ def accessible(name, role="push button"):
         if application is not None and application.name.lower() == "lumaport":
             return search(application)
     return None
+
+
+class UsableChanges:
+    """What a screen reader hears of elements that can be pressed or no longer; use it in a with statement."""
+
+    def __init__(self):
+        self.changes = []
+
+    def __enter__(self):
+        pyatspi.Registry.registerEventListener(self.hear, "object:state-changed:enabled")
+        return self
+
+    def __exit__(self, *_):
+        pyatspi.Registry.deregisterEventListener(self.hear, "object:state-changed:enabled")
+
+    def hear(self, event):
+        self.changes.append((event.source.name, bool(event.detail1)))
+
+    def heard(self, name, usable):
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return (name, usable) in self.changes
 
 
 def press(name, role="push button"):

@@ -2,6 +2,7 @@
 
 import os
 import re
+import signal
 import subprocess
 import sys
 import unittest
@@ -9,7 +10,7 @@ import unittest
 import dbus
 
 import support
-from assistive import press
+from assistive import UsableChanges, accessible, press
 from support import DOWNLOADS, HOME, SETTINGS, Application, everything_in, history, run, stored, wait_until
 
 PROGRAM = sys.argv.pop()
@@ -120,6 +121,10 @@ class Shell(Application):
         panel = one_window(PANEL)
         wait_until(lambda: has_focus(panel), "the panel's focus")
         return panel
+
+    def signal_workers(self, number):
+        for program in wait_until(self.worker_programs, "the worker programs"):
+            os.kill(int(program), number)
 
     def item(self):
         bus = dbus.SessionBus()
@@ -248,6 +253,19 @@ class ShellWalk(unittest.TestCase):
             shell.open_panel()
             press("Quit Lumaport")
             self.assertEqual(shell.process.wait(timeout=support.PATIENCE), 0)
+
+    def test_a_screen_reader_hears_what_cannot_be_pressed_while_photos_are_converted(self):
+        convert = "Convert existing HEIC photos"
+        with Shell(PROGRAM) as shell, UsableChanges() as changes:
+            support.photo(DOWNLOADS, "IMG_1.HEIC")  # the first starts the worker programs
+            wait_until(lambda: support.entry("IMG_1.HEIC"), "the first copy")
+            press("Conversion options")
+            wait_until(lambda: accessible(convert), "the options")
+            shell.signal_workers(signal.SIGSTOP)
+            support.photo(DOWNLOADS, "IMG_2.HEIC")
+            wait_until(lambda: changes.heard(convert, False), "the word that the button cannot be pressed")
+            shell.signal_workers(signal.SIGCONT)
+            wait_until(lambda: changes.heard(convert, True), "the word that it can be pressed again")
 
     def test_a_desktop_panel_that_comes_later_gets_the_item(self):
         bus = dbus.SessionBus()

@@ -1,3 +1,4 @@
+#include "AccessibleItems.h"
 #include "Scene.h"
 
 #include <QAccessible>
@@ -48,11 +49,15 @@ private Q_SLOTS:
 
     void shouldNotBePressedWhileDisabled()
     {
+        AccessibleItems::install();
         Scene scene;
         scene.show(buttons);
         QQuickItem *button = scene.find(QStringLiteral("button"));
         QSignalSpy clicked(button, SIGNAL(clicked()));
+        QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(button);
+        QVERIFY(!spoken->state().disabled);
         button->setEnabled(false);
+        QVERIFY(spoken->state().disabled);
         scene.click(button);
         pressThroughAccessibility(button);
         QCOMPARE(clicked.size(), 0);
