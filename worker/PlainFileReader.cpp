@@ -79,16 +79,13 @@ Result<Raster> decodePlainFile(const Source &source, const PlainFile &file, int 
     if (!bytes) {
         return unreadable();
     }
-    if (file.kind == PlainFile::Kind::Png) {
-        return decodePng(*bytes);
-    }
     unsigned reduction = 1;
     const auto longest = static_cast<unsigned>(std::max(file.stored.width, file.stored.height));
     while (smallestSide > 0 && reduction < 8 &&
            longest / (2 * reduction) >= static_cast<unsigned>(smallestSide)) {
         reduction *= 2;
     }
-    return decodeJpeg(*bytes, reduction);
+    return file.kind == PlainFile::Kind::Png ? decodePng(*bytes, reduction) : decodeJpeg(*bytes, reduction);
 }
 
 } // namespace imageworker

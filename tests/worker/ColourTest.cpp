@@ -177,7 +177,7 @@ TEST(Colour, ShouldFollowTheProfileInAPng)
     }
     Bytes expected(stored.size());
     makeSrgbStage(profile, {}, 255, false)->convert(codes, expected.data());
-    const auto raster = decodePng(pngOf(stored, profile));
+    const auto raster = decodePng(pngOf(stored, profile), 1);
     ASSERT_TRUE(raster);
     for (std::size_t index = 0; index < expected.size(); ++index) {
         ASSERT_EQ(raster->rgba[index], index % 4 == 3 ? stored[index] : expected[index]);
