@@ -1,6 +1,7 @@
 #include "PlainFileReader.h"
 
 #include "Exif.h"
+#include "FileMarks.h"
 #include "JpegDecoder.h"
 #include "PngDecoder.h"
 
@@ -11,7 +12,6 @@ namespace imageworker {
 
 namespace {
 
-constexpr std::array<std::uint8_t, 8> PngSignature = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
 constexpr std::array<std::uint8_t, 3> JpegStart = {0xFF, 0xD8, 0xFF};
 
 Result<Photo> readPng(std::span<const std::uint8_t> file)

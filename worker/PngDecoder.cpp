@@ -1,20 +1,17 @@
 #include "PngDecoder.h"
 
 #include "Boxes.h"
+#include "FileMarks.h"
 #include "PngScanlines.h"
 #include "SrgbStage.h"
 
 #include <algorithm>
 #include <isa-l.h>
 #include <png.h>
-#include <string_view>
 
 namespace imageworker {
 
 namespace {
-
-constexpr std::size_t SignatureLength = 8;
-constexpr std::string_view XmpKeyword("XML:com.adobe.xmp\0\0\0\0\0", 22);
 
 /// W3C PNG, 11.2.1.
 void readImageHeader(ByteReader reader, PngHeader &header)
@@ -70,7 +67,7 @@ Result<PngHeader> readPngHeader(std::span<const std::uint8_t> file)
     bool hasGamma = false;
     bool isSrgb = false; // which then counts, not the gamma
     ByteReader reader(file);
-    reader.take(SignatureLength);
+    reader.take(PngSignature.size());
     while (!reader.atEnd()) {
         const std::uint32_t length = reader.u32();
         const std::uint32_t type = reader.u32();
@@ -91,9 +88,9 @@ Result<PngHeader> readPngHeader(std::span<const std::uint8_t> file)
             isSrgb = true;
         } else if (type == fourCharacters("eXIf")) {
             header.exif.assign(content.begin(), content.end());
-        } else if (type == fourCharacters("iTXt") && content.size() > XmpKeyword.size() &&
-                   std::equal(XmpKeyword.begin(), XmpKeyword.end(), content.begin())) {
-            header.xmp.assign(content.begin() + XmpKeyword.size(), content.end());
+        } else if (type == fourCharacters("iTXt") && content.size() > PngXmpStart.size() &&
+                   std::equal(PngXmpStart.begin(), PngXmpStart.end(), content.begin())) {
+            header.xmp.assign(content.begin() + PngXmpStart.size(), content.end());
         } else if (type == fourCharacters("iCCP")) {
             header.iccProfile = profileOf(ByteReader(content));
         } else if (type == fourCharacters("IEND") && header.size.width > 0) {
