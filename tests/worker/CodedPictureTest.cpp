@@ -33,6 +33,23 @@ TEST_F(CodedPictures, ShouldShowNoColumnThatIsHidden)
     }
 }
 
+TEST_F(CodedPictures, ShouldBeRefusedWhenTheirDecoderNoticesDamage)
+{
+    // It would go on and fill in what it could not read. A wrong byte often makes another sound picture, but
+    // not everywhere.
+    const CodedItem coded = codedItemOf(makePhoto({.size = {128, 128}}));
+    constexpr std::size_t FirstAfterTheHeaders = 12; // damage in these is noticed in any case
+    bool isNoticed = false;
+    for (std::size_t damaged = FirstAfterTheHeaders; !isNoticed && damaged + 1 < coded.data.size();
+         ++damaged) {
+        Bytes data = coded.data;
+        data[damaged] ^= 0xFF;
+        HeifFile file;
+        isNoticed = !shown(file.bytes(file.add("hvc1", data, coded.properties)));
+    }
+    EXPECT_TRUE(isNoticed);
+}
+
 } // namespace
 
 } // namespace imageworker
