@@ -25,6 +25,10 @@ enum Matrix : unsigned {
     MatrixFromPrimaries = 12,
 };
 
+// Tables 2 and 3: with these, codes are shown as they are.
+constexpr unsigned PrimariesBt709 = 1;
+constexpr unsigned TransferSrgb = 13;
+
 struct Weights
 {
     double red;
@@ -128,9 +132,14 @@ CodePoints effectiveCodePoints(const SampleFormat &format, const ColourDescripti
         points.transfer = said.transfer == 2 ? points.transfer : said.transfer;
         points.matrix = said.matrix == MatrixUnspecified ? points.matrix : said.matrix;
     }
+    if (description.isOpacity) {
+        points.primaries = PrimariesBt709;
+        points.transfer = TransferSrgb;
+    }
+    const bool canBeRgb = format.planeCount == 3 && format.chromaShiftX == 0 && format.chromaShiftY == 0;
     if (format.isRgb) {
         points.matrix = MatrixIdentity;
-    } else if (points.matrix == MatrixIdentity || points.matrix == MatrixUnspecified) {
+    } else if ((points.matrix == MatrixIdentity && !canBeRgb) || points.matrix == MatrixUnspecified) {
         points.matrix = MatrixBt601;
     }
     return points;
@@ -151,6 +160,7 @@ CodeConversion::CodeConversion(const SampleFormat &format, const CodePoints &cod
     m_coefficients.offset = narrow(codePoints.fullRange ? 0 : 16 * unit);
     m_coefficients.luma = narrow(luma);
     if (codePoints.matrix == MatrixIdentity) { // planes are green, blue, red; all like brightness
+        m_format.isRgb = m_format.planeCount == 3;
         m_coefficients.middle = 0;
         return;
     }

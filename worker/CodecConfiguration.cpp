@@ -2,6 +2,8 @@
 
 #include "Boxes.h"
 
+#include <algorithm>
+
 namespace imageworker {
 
 std::uint32_t configurationTypeOf(std::uint32_t itemType)
@@ -58,8 +60,43 @@ bool readCodecConfiguration(std::uint32_t itemType, const ItemProperty *record, 
     return picture.lengthWidth != 3;
 }
 
+namespace {
+
+/// Open bitstream units, AV1 Bitstream & Decoding Process Specification, 5.3 and 4.10.5: all of each is
+/// there. No picture ends in a run of zeros, as the data of one end with a bit that is set (its 8.2.4).
+bool hasSoundAv1Units(std::span<const std::uint8_t> bytes)
+{
+    constexpr unsigned HasExtension = 4;
+    constexpr unsigned HasLength = 2;
+    constexpr std::size_t LongestRun = 8;
+    ByteReader reader(bytes);
+    do {
+        const unsigned header = reader.u8();
+        if ((header & HasExtension) != 0) {
+            reader.u8();
+        }
+        std::uint64_t length = reader.rest().size();
+        if ((header & HasLength) != 0) {
+            length = 0;
+            unsigned digit = 0x80;
+            for (unsigned shift = 0; shift < 56 && (digit & 0x80) != 0; shift += 7) {
+                digit = reader.u8();
+                length |= std::uint64_t{digit & 0x7F} << shift;
+            }
+        }
+        reader.take(length);
+    } while (!reader.atEnd() && !reader.failed());
+    const auto end = bytes.last(std::min(bytes.size(), LongestRun));
+    return !reader.failed() && std::ranges::any_of(end, [](std::uint8_t byte) { return byte != 0; });
+}
+
+} // namespace
+
 bool hasSoundUnits(const CodedPicture &picture, std::span<const std::uint8_t> bytes)
 {
+    if (picture.codec == Codec::Av1) {
+        return hasSoundAv1Units(bytes);
+    }
     if (picture.lengthWidth == 0) {
         return !bytes.empty();
     }

@@ -56,7 +56,7 @@ private:
         if (!m_photo) {
             return {Outcome::Unreadable};
         }
-        const PixelSize size = m_photo->uprightSize();
+        const PixelSize size = m_photo->upright().size();
         return {Outcome::Done, size.width, size.height};
     }
 

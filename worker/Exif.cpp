@@ -5,6 +5,7 @@
 #include "TiffWriter.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace imageworker {
 
@@ -16,6 +17,37 @@ void setIfPresent(TiffFields &tiff, const std::vector<TiffField> &fields, TiffTa
 {
     if (const TiffField *field = fieldOf(fields, tag)) {
         tiff.setValue(*field, value);
+    }
+}
+
+bool startsWithTiff(std::span<const std::uint8_t> bytes)
+{
+    constexpr std::string_view LittleEndian("II*\0", 4);
+    constexpr std::string_view BigEndian("MM\0*", 4);
+    const std::string_view start(reinterpret_cast<const char *>(bytes.data()),
+                                 std::min<std::size_t>(bytes.size(), 4));
+    return start == LittleEndian || start == BigEndian;
+}
+
+/// Turns a field that begins with a place in the photo and may go on with a diameter, or a width and a height
+/// (Exif 2.32, 4.6.5, tags 0x9214 and 0xA214). What was cropped away is said to be at the edge.
+void turnPlace(TiffFields &tiff, const TiffField *field, const Upright &upright)
+{
+    if (field == nullptr || field->count < 2) {
+        return;
+    }
+    const PixelRectangle crop = upright.crop();
+    const auto inside = [&](std::size_t index, int start, int length) {
+        return std::clamp(static_cast<int>(tiff.value(*field, index) & 0xFFFF), start, start + length - 1);
+    };
+    const PixelRectangle place =
+        upright.shown({inside(0, crop.x, crop.width), inside(1, crop.y, crop.height), 1, 1});
+    tiff.setValue(*field, static_cast<std::uint32_t>(place.x), 0);
+    tiff.setValue(*field, static_cast<std::uint32_t>(place.y), 1);
+    if (field->count == 4 && upright.turn().transposed) {
+        const std::uint32_t width = tiff.value(*field, 2);
+        tiff.setValue(*field, tiff.value(*field, 3), 2);
+        tiff.setValue(*field, width, 3);
     }
 }
 
@@ -52,7 +84,17 @@ Bytes tiffOfExifItem(std::span<const std::uint8_t> item)
 {
     ByteReader reader(item);
     reader.take(reader.u32());
-    return {reader.rest().begin(), reader.rest().end()};
+    if (startsWithTiff(reader.rest())) {
+        return {reader.rest().begin(), reader.rest().end()};
+    }
+    // Some writers leave the distance out or count it wrong.
+    constexpr std::size_t FurthestStart = 16;
+    for (std::size_t start = 0; start <= std::min(FurthestStart, item.size()); ++start) {
+        if (const auto tiff = item.subspan(start); startsWithTiff(tiff)) {
+            return {tiff.begin(), tiff.end()};
+        }
+    }
+    return {};
 }
 
 unsigned exifOrientation(std::span<const std::uint8_t> tiff)
@@ -68,15 +110,15 @@ unsigned exifOrientation(std::span<const std::uint8_t> tiff)
     return orientation >= 1 && orientation <= 8 ? orientation : 1;
 }
 
-void describeCopy(Bytes &tiff, PixelSize size)
+void describeCopy(Bytes &tiff, const Upright &upright)
 {
     auto structure = TiffFields::of(tiff);
     if (!structure) {
         tiff.clear();
         return;
     }
-    const auto width = static_cast<std::uint32_t>(size.width);
-    const auto height = static_cast<std::uint32_t>(size.height);
+    const auto width = static_cast<std::uint32_t>(upright.size().width);
+    const auto height = static_cast<std::uint32_t>(upright.size().height);
     const auto fields = structure->fields(structure->firstDirectory());
     setIfPresent(*structure, fields, TiffTag::Orientation, 1);
     setIfPresent(*structure, fields, TiffTag::ImageWidth, width);
@@ -86,6 +128,8 @@ void describeCopy(Bytes &tiff, PixelSize size)
         setIfPresent(*structure, details, TiffTag::ColourSpace, StandardRgb);
         setIfPresent(*structure, details, TiffTag::PixelWidth, width);
         setIfPresent(*structure, details, TiffTag::PixelHeight, height);
+        turnPlace(*structure, fieldOf(details, TiffTag::SubjectArea), upright);
+        turnPlace(*structure, fieldOf(details, TiffTag::SubjectLocation), upright);
     }
     tiff.resize(removePreview(*structure));
 }

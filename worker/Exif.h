@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Result.h"
+#include "Upright.h"
 
 #include <span>
 
@@ -13,10 +13,10 @@ Bytes tiffOfExifItem(std::span<const std::uint8_t> item);
 /// Orientation, 1 to 8 (Exif 2.32, 4.6.4, tag 0x0112); 1 when it is missing or senseless.
 unsigned exifOrientation(std::span<const std::uint8_t> tiff);
 
-/// Makes @p tiff true of an upright sRGB copy of @p size: orientation 1, its dimensions, its colour space;
-/// the embedded preview, which shows the photo as it was, is taken out. What is no TIFF structure becomes
-/// empty.
-void describeCopy(Bytes &tiff, PixelSize size);
+/// Makes @p tiff true of an sRGB copy turned and cropped as @p upright: orientation 1, its dimensions, its
+/// colour space, where its subject is; the embedded preview, which shows the photo as it was, is taken out.
+/// What is no TIFF structure becomes empty.
+void describeCopy(Bytes &tiff, const Upright &upright);
 
 /// @p tiff within @p limit bytes: without the maker note, then without its largest values, but never dropped
 /// whole. Call after describeCopy(). Empty only when nothing of it could be understood.

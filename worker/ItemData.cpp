@@ -8,7 +8,9 @@ namespace imageworker {
 
 namespace {
 
-constexpr int MaximumDepth = 2; // items within items: nobody writes more, and they multiply
+// Items within items, and in how many places one lies: nobody writes more, and they multiply.
+constexpr int MaximumDepth = 2;
+constexpr std::size_t MaximumPieces = 256;
 
 /// @p part as a part of @p whole; a length of 0 asks for all that follows.
 bool within(std::uint64_t wholeLength, Extent &part)
@@ -72,6 +74,9 @@ Result<DataLocation> locate(const Source &source, const ItemTable &table, const 
             return unreadable();
         }
         appendPart(*whole, extent, location);
+        if (location.size() > MaximumPieces) {
+            return unreadable();
+        }
     }
     // Extents may overlap, so a small file could otherwise ask for any amount.
     if (location.empty() || lengthOf(location) > source.size()) {

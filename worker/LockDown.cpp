@@ -36,8 +36,8 @@ bool limitResources()
            limit(RLIMIT_CPU, ProcessorSeconds) && limit(RLIMIT_NOFILE, Descriptors) && limit(RLIMIT_CORE, 0);
 }
 
-/// Landlock with every right handled and none granted. A kernel without it leaves the rest to the filter of
-/// calls.
+/// Landlock with every right of its first version handled and none granted. A kernel without it leaves the
+/// rest to the filter of calls.
 bool closeFileSystem()
 {
     constexpr std::uint64_t AllRightsOfFirstVersion = (LANDLOCK_ACCESS_FS_MAKE_SYM << 1) - 1;
@@ -146,9 +146,12 @@ public:
             m_sound = m_sound && seccomp_rule_add(m_filter, action, call, 0) == 0;
         }
     }
-    void add(std::uint32_t action, int call, scmp_arg_cmp condition)
+    /// For calls of which all of @p conditions are true.
+    template<typename... Conditions>
+    void add(std::uint32_t action, int call, Conditions... conditions)
     {
-        m_sound = m_sound && seccomp_rule_add_array(m_filter, action, call, 1, &condition) == 0;
+        const std::array<scmp_arg_cmp, sizeof...(conditions)> all = {conditions...};
+        m_sound = m_sound && seccomp_rule_add_array(m_filter, action, call, all.size(), all.data()) == 0;
     }
     bool load() { return m_sound && seccomp_load(m_filter) == 0; }
 
@@ -163,9 +166,14 @@ scmp_arg_cmp bits(unsigned argument, scmp_datum_t mask, scmp_datum_t value)
     return {argument, SCMP_CMP_MASKED_EQ, mask, value};
 }
 
+scmp_arg_cmp is(unsigned argument, scmp_datum_t value)
+{
+    return {argument, SCMP_CMP_EQ, value, 0};
+}
+
 scmp_arg_cmp isZero(unsigned argument)
 {
-    return {argument, SCMP_CMP_EQ, 0, 0};
+    return is(argument, 0);
 }
 
 bool filterCalls()
@@ -194,12 +202,10 @@ bool filterCalls()
     filter.add(SCMP_ACT_ERRNO(ENOENT), SYS_open, bits(1, O_ACCMODE, O_RDONLY));
     filter.add(SCMP_ACT_KILL_PROCESS, SYS_open, bits(1, O_WRONLY, O_WRONLY));
     filter.add(SCMP_ACT_KILL_PROCESS, SYS_open, bits(1, O_RDWR, O_RDWR));
-    // fstat() of newer C libraries; with a name it would look at files.
-    filter.add(SCMP_ACT_ALLOW, SYS_newfstatat, bits(3, AT_EMPTY_PATH, AT_EMPTY_PATH));
-    // Of limits only those of this process itself may be asked for; a thumbnail's work steps back behind all
-    // other.
-    filter.add(SCMP_ACT_ALLOW, SYS_prlimit64, isZero(2));
-    filter.add(SCMP_ACT_ALLOW, SYS_setpriority, isZero(1));
+    // Of limits only those of this process itself may be asked for, and only asked for.
+    filter.add(SCMP_ACT_ALLOW, SYS_prlimit64, isZero(0), isZero(2));
+    // A thumbnail's work steps back behind all other, by itself alone.
+    filter.add(SCMP_ACT_ALLOW, SYS_setpriority, is(0, PRIO_PROCESS), isZero(1));
     return filter.load();
 }
 

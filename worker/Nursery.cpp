@@ -30,17 +30,23 @@ void raiseWorkers(int socket, void (*work)(int socket))
 {
     ::signal(SIGCHLD, takeEnded);
     const pid_t self = ::getpid();
+    sigset_t endings;
+    sigemptyset(&endings);
+    sigaddset(&endings, SIGCHLD);
     while (const auto asked = receiveWithDescriptor<Birth>(socket)) {
+        // A worker that ends at once must not be taken before it could be opened.
+        ::sigprocmask(SIG_BLOCK, &endings, nullptr);
         const pid_t worker = ::fork();
         if (worker == 0) {
+            ::sigprocmask(SIG_UNBLOCK, &endings, nullptr);
             ::close(socket);
             if (tieToParent(self)) {
                 work(asked->descriptor.number());
             }
             std::_Exit(EXIT_SUCCESS);
         }
-        // Numbers are given out in turn: even if the worker has gone already, this one is not another's yet.
         const FileDescriptor process(static_cast<int>(::syscall(SYS_pidfd_open, worker, 0)));
+        ::sigprocmask(SIG_UNBLOCK, &endings, nullptr);
         if (worker < 0 || !process.isOpen() || !sendWithDescriptor(socket, Birth{}, process.number())) {
             return;
         }

@@ -11,7 +11,7 @@ bool OutputFile::write(std::span<const std::uint8_t> bytes)
         const ssize_t count = ::write(m_descriptor, bytes.data(), bytes.size());
         if (count > 0) {
             bytes = bytes.subspan(static_cast<std::size_t>(count));
-        } else if (errno != EINTR) {
+        } else if (count == 0 || errno != EINTR) {
             m_failed = true;
         }
     }

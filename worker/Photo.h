@@ -36,7 +36,8 @@ struct CodePoints
 struct ColourDescription
 {
     std::optional<CodePoints> codePoints;
-    Bytes iccProfile; ///< empty when there is none
+    Bytes iccProfile;       ///< empty when there is none
+    bool isOpacity = false; ///< its samples are no light: of the code points only range and matrix count
 };
 
 /// Equal tiles in rows; the canvas cuts what the last ones have too much. A single picture is a grid of one.
@@ -91,7 +92,7 @@ struct Photo
     Bytes exif; ///< from its TIFF header on; empty when there is none
     Bytes xmp;  ///< a packet of text; empty when there is none
 
-    PixelSize uprightSize() const;
+    const Upright &upright() const;
 };
 
 } // namespace imageworker

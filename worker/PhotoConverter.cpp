@@ -19,7 +19,7 @@ Result<void> writeCopy(const Source &source, const Photo &photo, int output, Cop
     }
     const PixelSize size = (*rows)->size();
     CopyMetadata metadata{photo.exif, photo.xmp};
-    describeCopy(metadata.exif, size);
+    describeCopy(metadata.exif, photo.upright());
     describeCopyInXmp(metadata.xmp, size);
     OutputFile file(output);
     const auto encoder = format == CopyFormat::Png ? makePngEncoder(file, size, metadata)

@@ -15,22 +15,42 @@ namespace {
 
 constexpr std::uint64_t MaximumMetadata = std::uint64_t{32} << 20U;
 
-/// Whether a metadata item tells of the primary item (ISO/IEC 23008-12, A.3.3); one that refers to nothing
-/// tells of it, too.
-bool describesPrimary(const ItemTable &table, const Item &item)
+/// The primary item, and where it only shows another one again, that one, too.
+std::vector<std::uint32_t> shownItems(const ItemTable &table)
+{
+    constexpr std::size_t LongestChain = 8;
+    std::vector<std::uint32_t> shown = {table.primary};
+    while (shown.size() < LongestChain) {
+        const Item *last = table.find(shown.back());
+        const bool showsAnother =
+            last != nullptr && (last->type == fourCharacters("iden") || last->type == fourCharacters("tmap"));
+        const auto inputs =
+            showsAnother ? referencesOf(*last, fourCharacters("dimg")) : std::vector<std::uint32_t>();
+        if (inputs.empty()) {
+            break;
+        }
+        shown.push_back(inputs.front());
+    }
+    return shown;
+}
+
+/// Whether a metadata item tells of one of @p shown (ISO/IEC 23008-12, A.3.3); one that refers to nothing
+/// does, too.
+bool describes(const Item &item, const std::vector<std::uint32_t> &shown)
 {
     const auto described = referencesOf(item, fourCharacters("cdsc"));
-    return described.empty() || std::ranges::find(described, table.primary) != described.end();
+    return described.empty() || std::ranges::find_first_of(described, shown) != described.end();
 }
 
 /// Reads the Exif and XMP items. Bytes that lie outside the file mean that the file was cut.
 Result<void> readMetadata(const Source &source, const ItemTable &table, Photo &photo)
 {
+    const auto shown = shownItems(table);
     for (const auto &[identifier, item] : table.items) {
         const bool isExif = item.type == fourCharacters("Exif");
         const bool isXmp = item.type == fourCharacters("mime") && item.contentType == "application/rdf+xml";
         Bytes &metadata = isExif ? photo.exif : photo.xmp;
-        if ((!isExif && !isXmp) || !metadata.empty() || !describesPrimary(table, item)) {
+        if ((!isExif && !isXmp) || !metadata.empty() || !describes(item, shown)) {
             continue;
         }
         if (item.extents.size() == 1 && item.extents.front().length == 0) {
@@ -92,7 +112,7 @@ Result<Photo> readPhoto(const Source &source)
             return readPrimaryItem(source, *table);
         }
     }
-    auto picture = readFirstPictureOfTrack(source, boxes->movie);
+    auto picture = readFirstPictureOfTrack(boxes->movie);
     if (!picture) {
         return unreadable();
     }

@@ -8,35 +8,6 @@
 
 namespace imageworker {
 
-namespace {
-
-/// Clean aperture: a size and the distance of its centre from the picture's, all as fractions.
-Result<void> applyCleanAperture(ByteReader reader, Upright &upright)
-{
-    const auto fraction = [&reader] {
-        const auto numerator = static_cast<std::int32_t>(reader.u32());
-        const auto denominator = static_cast<std::int32_t>(reader.u32());
-        return denominator == 0 ? std::nan("") : double{1} * numerator / denominator;
-    };
-    const double width = fraction();
-    const double height = fraction();
-    const double horizontal = fraction();
-    const double vertical = fraction();
-    const PixelSize size = upright.size();
-    const double left = horizontal + (size.width - width) / 2;
-    const double top = vertical + (size.height - height) / 2;
-    constexpr double Farthest = 1e6; // keeps the numbers well inside those that convert
-    const auto isSane = [](double value) { return std::abs(value) < Farthest; }; // false for a NaN, too
-    if (reader.failed() || !isSane(width) || !isSane(height) || !isSane(left) || !isSane(top) || width < 1 ||
-        height < 1 ||
-        !upright.cropTo(std::lround(left), std::lround(top), std::lround(width), std::lround(height))) {
-        return unreadable();
-    }
-    return {};
-}
-
-} // namespace
-
 Result<PixelSize> spatialExtent(const ItemTable &table, const Item &item)
 {
     const ItemProperty *property = table.property(item, fourCharacters("ispe"));
@@ -88,6 +59,30 @@ ColourDescription colourOf(const ItemTable &table, const Item &item)
     return colour;
 }
 
+Result<void> applyCleanAperture(ByteReader reader, Upright &upright)
+{
+    const auto fraction = [&reader] {
+        const auto numerator = static_cast<std::int32_t>(reader.u32());
+        const auto denominator = static_cast<std::int32_t>(reader.u32());
+        return denominator == 0 ? std::nan("") : double{1} * numerator / denominator;
+    };
+    const double width = fraction();
+    const double height = fraction();
+    const double horizontal = fraction();
+    const double vertical = fraction();
+    const PixelSize size = upright.size();
+    const double left = horizontal + (size.width - width) / 2;
+    const double top = vertical + (size.height - height) / 2;
+    constexpr double Farthest = 1e6; // keeps the numbers well inside those that convert
+    const auto isSane = [](double value) { return std::abs(value) < Farthest; }; // false for a NaN, too
+    if (reader.failed() || !isSane(width) || !isSane(height) || !isSane(left) || !isSane(top) || width < 1 ||
+        height < 1 ||
+        !upright.cropTo(std::lround(left), std::lround(top), std::lround(width), std::lround(height))) {
+        return unreadable();
+    }
+    return {};
+}
+
 Result<bool> applyTransformations(const ItemTable &table, const Item &item, Upright &upright)
 {
     bool turns = false;
@@ -119,6 +114,13 @@ Result<bool> applyTransformations(const ItemTable &table, const Item &item, Upri
         }
     }
     return turns;
+}
+
+bool isTransformed(const ItemTable &table, const Item &item)
+{
+    return table.property(item, fourCharacters("irot")) != nullptr ||
+           table.property(item, fourCharacters("imir")) != nullptr ||
+           table.property(item, fourCharacters("clap")) != nullptr;
 }
 
 bool isAlpha(const ItemTable &table, const Item &item)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ByteReader.h"
 #include "ItemTable.h"
 #include "Photo.h"
 
@@ -11,10 +12,17 @@ Result<PixelSize> spatialExtent(const ItemTable &table, const Item &item);
 /// All "colr" properties together, ISO/IEC 14496-12, 12.1.5: an item may have code points and a profile.
 ColourDescription colourOf(const ItemTable &table, const Item &item);
 
+/// A "clap" box's payload: a size and the distance of its centre from the picture's, all as fractions
+/// (ISO/IEC 14496-12, 12.1.4). Unreadable when it leaves nothing.
+Result<void> applyCleanAperture(ByteReader payload, Upright &upright);
+
 /// "irot", "imir" and "clap" in the order of the item's properties, ISO/IEC 23008-12, 6.5.10, 6.5.12 and
 /// ISO/IEC 14496-12, 12.1.4. Gives whether there was an "irot" or "imir"; Unreadable when a crop leaves
 /// nothing.
 Result<bool> applyTransformations(const ItemTable &table, const Item &item, Upright &upright);
+
+/// Whether the item has any of these.
+bool isTransformed(const ItemTable &table, const Item &item);
 
 /// Whether "auxC" says that the item is an alpha plane, ISO/IEC 23008-12, 6.5.8.
 bool isAlpha(const ItemTable &table, const Item &item);

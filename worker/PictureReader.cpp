@@ -44,14 +44,15 @@ public:
     Result<ReadPicture> read(std::uint32_t identifier, int depth);
 
 private:
-    Result<void> readContent(const Item &item, int depth, Picture &picture);
+    Result<void> readContent(const Item &item, int depth, ReadPicture &result);
     Result<CodedPicture> readCoded(const Item &item) const;
     Result<void> readSingle(const Item &item, Picture &picture) const;
     Result<void> readGrid(const Item &item, int depth, Picture &picture);
+    bool canJoin(const Item *tile, const TileGrid &grid) const;
     Result<void> readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, Picture &picture) const;
     Result<void> layTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, int depth,
                           Picture &picture);
-    Result<void> readIdentity(const Item &item, int depth, Picture &picture);
+    Result<void> readIdentity(const Item &item, int depth, ReadPicture &result);
     Result<void> readOverlay(const Item &item, int depth, Picture &picture);
     Result<void> readAlpha(std::uint32_t identifier, int depth, Picture &picture);
     Result<Bytes> readDerivation(const Item &item) const;
@@ -69,10 +70,12 @@ Result<ReadPicture> PictureReader::read(std::uint32_t identifier, int depth)
     }
     ReadPicture result;
     Picture &picture = result.picture;
-    if (!readContent(*item, depth, picture)) {
+    if (!readContent(*item, depth, result)) {
         return unreadable();
     }
-    ColourDescription colour = colourOf(m_table, *item);
+    // A tone map describes what it would make of its base, which is shown as it is.
+    ColourDescription colour =
+        item->type == fourCharacters("tmap") ? ColourDescription{} : colourOf(m_table, *item);
     if (colour.codePoints) {
         picture.colour.codePoints = colour.codePoints;
     }
@@ -93,17 +96,18 @@ Result<ReadPicture> PictureReader::read(std::uint32_t identifier, int depth)
     if (!readAlpha(identifier, depth, picture)) {
         return unreadable();
     }
-    result.turnsItself = *turned;
+    result.turnsItself = result.turnsItself || *turned;
     return result;
 }
 
-Result<void> PictureReader::readContent(const Item &item, int depth, Picture &picture)
+Result<void> PictureReader::readContent(const Item &item, int depth, ReadPicture &result)
 {
+    Picture &picture = result.picture;
     switch (item.type) {
     case fourCharacters("grid"):
         return readGrid(item, depth, picture);
     case fourCharacters("iden"):
-        return readIdentity(item, depth, picture);
+        return readIdentity(item, depth, result);
     case fourCharacters("iovl"):
         return readOverlay(item, depth, picture);
     case fourCharacters("tmap"): { // the first input is the picture, the second its gain map
@@ -112,7 +116,7 @@ Result<void> PictureReader::readContent(const Item &item, int depth, Picture &pi
         if (base == nullptr || base->type == item.type) {
             return unreadable();
         }
-        return readIdentity(item, depth, picture);
+        return readIdentity(item, depth, result);
     }
     default:
         return readSingle(item, picture);
@@ -128,10 +132,6 @@ Result<CodedPicture> PictureReader::readCoded(const Item &item) const
     }
     auto location = locateItem(m_source, m_table, item);
     if (!location) {
-        return unreadable();
-    }
-    const auto bytes = readAll(m_source, *location);
-    if (!bytes || !hasSoundUnits(coded, *bytes)) {
         return unreadable();
     }
     coded.data = std::move(*location);
@@ -186,12 +186,19 @@ Result<void> PictureReader::readGrid(const Item &item, int depth, Picture &pictu
     }
     grid.canvas = {static_cast<int>(canvasWidth), static_cast<int>(canvasHeight)};
     picture.upright = Upright(grid.canvas);
-    const bool areCoded = std::ranges::all_of(inputs, [this](std::uint32_t input) {
-        const Item *tile = m_table.find(input);
-        return tile != nullptr && configurationTypeOf(tile->type) != 0;
-    });
-    return areCoded ? readTiles(inputs, std::move(grid), picture)
-                    : layTiles(inputs, std::move(grid), depth, picture);
+    const bool join = std::ranges::all_of(
+        inputs, [this, &grid](std::uint32_t input) { return canJoin(m_table.find(input), grid); });
+    return join ? readTiles(inputs, std::move(grid), picture)
+                : layTiles(inputs, std::move(grid), depth, picture);
+}
+
+/// Whether planes of @p tile can be put side by side: it is coded and shown as it is, and no colour sample
+/// belongs to two tiles.
+bool PictureReader::canJoin(const Item *tile, const TileGrid &grid) const
+{
+    const auto size = tile != nullptr ? spatialExtent(m_table, *tile) : unreadable();
+    return size && configurationTypeOf(tile->type) != 0 && !isTransformed(m_table, *tile) &&
+           (grid.columns == 1 || size->width % 2 == 0) && (grid.rows == 1 || size->height % 2 == 0);
 }
 
 Result<void> PictureReader::readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid,
@@ -217,8 +224,8 @@ Result<void> PictureReader::readTiles(const std::vector<std::uint32_t> &inputs, 
     return {};
 }
 
-/// Tiles that are derived pictures themselves: no camera writes them, so they may be decoded whole, as layers
-/// that lie side by side.
+/// Tiles that are more than coded planes: no camera writes them, so they may be decoded whole, as layers that
+/// lie side by side.
 Result<void> PictureReader::layTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, int depth,
                                      Picture &picture)
 {
@@ -246,14 +253,14 @@ Result<void> PictureReader::layTiles(const std::vector<std::uint32_t> &inputs, T
 }
 
 /// Identity derivation, ISO/IEC 23008-12, 6.6.2.1: the input as it is shown, ready to be turned once more.
-Result<void> PictureReader::readIdentity(const Item &item, int depth, Picture &picture)
+Result<void> PictureReader::readIdentity(const Item &item, int depth, ReadPicture &result)
 {
     const auto inputs = referencesOf(item, fourCharacters("dimg"));
     auto input = inputs.empty() ? unreadable() : read(inputs.front(), depth + 1);
     if (!input) {
         return unreadable();
     }
-    picture = std::move(input->picture);
+    result = std::move(*input);
     return {};
 }
 
@@ -298,7 +305,7 @@ Result<void> PictureReader::readOverlay(const Item &item, int depth, Picture &pi
     return {};
 }
 
-/// An auxiliary picture that gives the opacity, ISO/IEC 23008-12, 7.5.3.
+/// An auxiliary picture that gives the opacity, ISO/IEC 23008-12, 6.4.5.
 Result<void> PictureReader::readAlpha(std::uint32_t identifier, int depth, Picture &picture)
 {
     for (const auto &[auxiliary, item] : m_table.items) {
@@ -311,6 +318,8 @@ Result<void> PictureReader::readAlpha(std::uint32_t identifier, int depth, Pictu
             !std::holds_alternative<TileGrid>(alpha->picture.content)) {
             return unreadable();
         }
+        alpha->picture.colour.iccProfile.clear();
+        alpha->picture.colour.isOpacity = true;
         picture.alpha = std::make_shared<Picture>(std::move(alpha->picture));
         const Item *master = m_table.find(identifier);
         const auto premultipliedBy = referencesOf(*master, fourCharacters("prem"));
@@ -327,9 +336,9 @@ Result<ReadPicture> readPicture(const Source &source, const ItemTable &table, st
     return PictureReader(source, table).read(identifier, 0);
 }
 
-PixelSize Photo::uprightSize() const
+const Upright &Photo::upright() const
 {
-    return std::visit([](const auto &content) { return content.upright.size(); }, picture);
+    return std::visit([](const auto &content) -> const Upright & { return content.upright; }, picture);
 }
 
 } // namespace imageworker

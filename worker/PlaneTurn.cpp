@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <libyuv.h>
+#include <utility>
 
 namespace imageworker {
 
@@ -56,13 +57,19 @@ void copyWords(const PlaneView &source, Turn turn, const PlaneView &target)
 
 } // namespace
 
-void copyTurned(const PlaneView &source, Turn turn, const PlaneView &target, std::size_t sampleBytes)
+bool copyTurned(const PlaneView &source, Turn turn, const PlaneView &target, std::size_t sampleBytes)
 {
+    const auto [width, height] =
+        turn.transposed ? std::pair(source.height, source.width) : std::pair(source.width, source.height);
+    if (target.width != width || target.height != height) {
+        return false;
+    }
     if (sampleBytes == 1) {
         copyBytes(source, turn, target);
     } else {
         copyWords(source, turn, target);
     }
+    return true;
 }
 
 PlaneView partOf(const PlaneView &plane, PixelRectangle part, std::size_t sampleBytes)

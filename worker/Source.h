@@ -25,7 +25,7 @@ protected:
     virtual bool fill(std::uint64_t offset, std::span<std::uint8_t> bytes) const = 0;
 };
 
-/// A file by its descriptor, which stays the caller's. Null when it is not a regular file.
+/// A file by its descriptor, which stays the caller's. Null when it has no length, as a pipe.
 std::unique_ptr<Source> sourceOfFile(int descriptor);
 
 /// Bytes that lie in memory and stay the caller's.

@@ -37,7 +37,7 @@ Result<void> writeThumbnail(const Source &source, const Photo &photo, int output
     if (!rows) {
         return unreadable();
     }
-    const PixelSize size = sizeWithin(photo.uprightSize(), maximumSide);
+    const PixelSize size = sizeWithin(photo.upright().size(), maximumSide);
     AreaAverager averager((*rows)->size(), size);
     if (!runPipeline(**rows, averager, workers)) {
         return unreadable();

@@ -86,14 +86,16 @@ std::size_t TiffFields::linkPosition(std::size_t position) const
     return position >= HeaderLength && link + 4 <= m_bytes.size() ? link : 0;
 }
 
-std::uint32_t TiffFields::value(const TiffField &field) const
+std::uint32_t TiffFields::value(const TiffField &field, std::size_t index) const
 {
-    return number(field.valuePosition, field.type == Short ? 2 : 4);
+    const std::size_t width = field.type == Short ? 2 : 4;
+    return number(field.valuePosition + index * width, width);
 }
 
-void TiffFields::setValue(const TiffField &field, std::uint32_t value)
+void TiffFields::setValue(const TiffField &field, std::uint32_t value, std::size_t index)
 {
-    setNumber(field.valuePosition, field.type == Short ? 2 : 4, value);
+    const std::size_t width = field.type == Short ? 2 : 4;
+    setNumber(field.valuePosition + index * width, width, value);
 }
 
 const TiffField *fieldOf(const std::vector<TiffField> &fields, TiffTag tag)

@@ -16,10 +16,12 @@ enum class TiffTag : std::uint16_t {
     PreviewLength = 0x0202,
     ExifDirectory = 0x8769,
     PositionDirectory = 0x8825,
+    SubjectArea = 0x9214,
     MakerNote = 0x927C,
     ColourSpace = 0xA001,
     PixelWidth = 0xA002,
     PixelHeight = 0xA003,
+    SubjectLocation = 0xA214,
     InteroperabilityDirectory = 0xA005,
 };
 
@@ -48,15 +50,14 @@ public:
     /// Where the directory that follows the one at @p position is linked, or 0.
     std::size_t linkPosition(std::size_t position) const;
 
-    /// The value of a field of one whole number.
-    std::uint32_t value(const TiffField &field) const;
-    void setValue(const TiffField &field, std::uint32_t value);
+    /// Number @p index of a field of whole numbers.
+    std::uint32_t value(const TiffField &field, std::size_t index = 0) const;
+    void setValue(const TiffField &field, std::uint32_t value, std::size_t index = 0);
 
     /// A number of 2 or 4 bytes; 0 outside the structure.
     std::uint32_t number(std::size_t position, std::size_t width) const;
     void setNumber(std::size_t position, std::size_t width, std::uint32_t value);
 
-    bool isLittleEndian() const { return m_littleEndian; }
     std::span<std::uint8_t> bytes() const { return m_bytes; }
 
 private:

@@ -74,24 +74,29 @@ std::vector<Directory> readDirectories(const TiffFields &tiff)
     return directories;
 }
 
-/// Takes out the largest value that lies apart; false when none is left.
-bool removeLargest(std::vector<Directory> &directories)
+/// Takes out the largest values that lie apart until the rest fits into @p limit; false when it never does.
+bool removeLargest(std::vector<Directory> &directories, std::size_t limit)
 {
-    Directory *owner = nullptr;
-    std::vector<TiffField>::iterator largest;
+    std::vector<TiffField *> byLength;
     for (Directory &directory : directories) {
-        for (auto field = directory.fields.begin(); field != directory.fields.end(); ++field) {
-            if (outlyingLength(*field) > (owner == nullptr ? 0 : outlyingLength(*largest))) {
-                owner = &directory;
-                largest = field;
-            }
+        for (TiffField &field : directory.fields) {
+            byLength.push_back(&field);
         }
     }
-    if (owner == nullptr) {
-        return false;
+    std::ranges::stable_sort(byLength, std::ranges::greater{},
+                             [](const TiffField *field) { return outlyingLength(*field); });
+    std::size_t length = lengthOf(directories);
+    for (TiffField *field : byLength) {
+        if (length <= limit || outlyingLength(*field) == 0) {
+            break;
+        }
+        length -= outlyingLength(*field) + FieldLength;
+        field->valueLength = 0; // which no field has that was read
     }
-    owner->fields.erase(largest);
-    return true;
+    for (Directory &directory : directories) {
+        std::erase_if(directory.fields, [](const TiffField &field) { return field.valueLength == 0; });
+    }
+    return length <= limit;
 }
 
 Bytes write(const TiffFields &source, const std::vector<Directory> &directories)
@@ -143,12 +148,7 @@ Bytes write(const TiffFields &source, const std::vector<Directory> &directories)
 Bytes rewrittenWithin(const TiffFields &tiff, std::size_t limit)
 {
     std::vector<Directory> directories = readDirectories(tiff);
-    while (lengthOf(directories) > limit) {
-        if (!removeLargest(directories)) {
-            return {};
-        }
-    }
-    return write(tiff, directories);
+    return removeLargest(directories, limit) ? write(tiff, directories) : Bytes();
 }
 
 } // namespace imageworker

@@ -80,7 +80,7 @@ bool describeSamples(const AVFrame &frame, SampleFormat &format)
     format.codePoints.transfer = numberOf(frame.color_trc);
     format.codePoints.matrix = numberOf(frame.colorspace);
     format.codePoints.fullRange = numberOf(frame.color_range) == AVCOL_RANGE_JPEG;
-    return depth >= 8 && depth <= 16;
+    return depth >= 8 && depth <= 16 && format.chromaShiftX <= 1 && format.chromaShiftY <= 1;
 }
 
 } // namespace

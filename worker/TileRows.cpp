@@ -154,7 +154,7 @@ Result<void> TileRows::decodeTile(int worker, int strip, int index)
     const Tile &tile = m_tiles[static_cast<std::size_t>(strip)][static_cast<std::size_t>(index)];
     const CodedPicture &coded = m_grid.tiles[static_cast<std::size_t>(tile.index)];
     const auto bytes = readAll(m_source, coded.data);
-    if (!bytes || !hasSoundUnits(coded, *bytes)) { // looked at again: the file may have changed since
+    if (!bytes || !hasSoundUnits(coded, *bytes)) {
         return unreadable();
     }
     auto &decoder = m_decoders[static_cast<std::size_t>(worker)];
@@ -170,8 +170,10 @@ Result<void> TileRows::decodeTile(int worker, int strip, int index)
         const int shiftY = plane == 0 ? 0 : m_format.chromaShiftY;
         const PixelRectangle samples = samplesOf(tile.stored, 0, 0, shiftX, shiftY);
         const PlaneView target = slotPlane(strip, plane, tile.shown);
-        copyTurned(partOf(picture->planes[plane], samples, m_format.sampleBytes()), m_upright.turn(), target,
-                   m_format.sampleBytes());
+        if (!copyTurned(partOf(picture->planes[plane], samples, m_format.sampleBytes()), m_upright.turn(),
+                        target, m_format.sampleBytes())) {
+            return unreadable();
+        }
     }
     return {};
 }

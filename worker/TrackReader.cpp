@@ -2,10 +2,7 @@
 
 #include "Boxes.h"
 #include "CodecConfiguration.h"
-#include "ItemData.h"
 #include "PictureProperties.h"
-
-#include <functional>
 
 namespace imageworker {
 
@@ -20,6 +17,8 @@ struct Track
     PixelSize size;
     ItemProperty configuration;
     ColourDescription colour;
+    Bytes cleanAperture;
+    unsigned quarterTurns = 0; ///< anticlockwise
     Extent sample;
 };
 
@@ -36,6 +35,8 @@ bool readSampleEntry(std::uint32_t codingName, ByteReader reader, Track &track)
             track.configuration = {type, Bytes(payload.rest().begin(), payload.rest().end())};
         } else if (type == fourCharacters("colr")) {
             readColour(payload.rest(), track.colour);
+        } else if (type == fourCharacters("clap")) {
+            track.cleanAperture.assign(payload.rest().begin(), payload.rest().end());
         } else if (type == fourCharacters("auxi")) {
             track.isAuxiliary = true;
         }
@@ -78,31 +79,55 @@ bool readSampleTableChild(std::uint32_t type, ByteReader payload, Track &track)
     }
 }
 
-bool readTrackChild(std::uint32_t type, ByteReader payload, Track &track)
+/// Track header box, ISO/IEC 14496-12, 8.3.2: of its matrix only what turns by quarters.
+bool readTrackHeader(ByteReader reader, Track &track)
 {
-    const auto descend = [&track](std::uint32_t childType, ByteReader child) {
-        return readTrackChild(childType, child, track);
+    constexpr std::int32_t One = 0x10000;
+    const unsigned version = readFullBoxHeader(reader).version;
+    reader.take(version == 1 ? 32 : 20); // times, number, duration
+    reader.take(16);                     // reserved, layer, group, volume
+    const auto a = static_cast<std::int32_t>(reader.u32());
+    const auto b = static_cast<std::int32_t>(reader.u32());
+    if (a == 0 && b != 0) {
+        track.quarterTurns = b == One ? 3 : 1;
+    } else if (a == -One) {
+        track.quarterTurns = 2;
+    }
+    return !reader.failed();
+}
+
+/// Reads the boxes of a track from "trak" down, each kind only inside its own parent: @p type is that of the
+/// box, @p parent that of the box around it.
+bool readTrackBox(std::uint32_t parent, std::uint32_t type, ByteReader payload, Track &track)
+{
+    const auto descend = [&track, type](std::uint32_t childType, ByteReader child) {
+        return readTrackBox(type, childType, child, track);
     };
-    switch (type) {
-    case fourCharacters("mdia"):
-    case fourCharacters("minf"):
-        return forEachBox(payload, descend);
-    case fourCharacters("stbl"):
-        return forEachBox(payload, [&track](std::uint32_t childType, ByteReader child) {
-            return readSampleTableChild(childType, child, track);
-        });
-    case fourCharacters("hdlr"):
-        payload.take(8); // version, flags, pre-defined
-        if (track.handler == 0) {
-            track.handler = payload.u32();
+    switch (parent) {
+    case fourCharacters("moov"):
+        return type != fourCharacters("trak") || forEachBox(payload, descend);
+    case fourCharacters("trak"):
+        if (type == fourCharacters("tkhd")) {
+            return readTrackHeader(payload, track);
         }
-        return !payload.failed();
+        return type != fourCharacters("mdia") || forEachBox(payload, descend);
+    case fourCharacters("mdia"):
+        if (type == fourCharacters("hdlr")) {
+            payload.take(8); // version, flags, pre-defined
+            track.handler = payload.u32();
+            return !payload.failed();
+        }
+        return type != fourCharacters("minf") || forEachBox(payload, descend);
+    case fourCharacters("minf"):
+        return type != fourCharacters("stbl") || forEachBox(payload, descend);
+    case fourCharacters("stbl"):
+        return readSampleTableChild(type, payload, track);
     default:
         return true;
     }
 }
 
-Result<Picture> pictureOf(const Source &source, const Track &track)
+Result<Picture> pictureOf(const Track &track)
 {
     CodedPicture coded;
     if (!isAcceptable(track.size.width, track.size.height) ||
@@ -110,16 +135,17 @@ Result<Picture> pictureOf(const Source &source, const Track &track)
         return unreadable();
     }
     coded.data = {track.sample};
-    const auto bytes = readAll(source, coded.data);
-    if (!bytes || !hasSoundUnits(coded, *bytes)) {
-        return unreadable();
-    }
     TileGrid grid;
     grid.tile = track.size;
     grid.canvas = track.size;
     grid.tiles.push_back(std::move(coded));
     Picture picture;
     picture.upright = Upright(track.size);
+    if (!track.cleanAperture.empty() &&
+        !applyCleanAperture(ByteReader(track.cleanAperture), picture.upright)) {
+        return unreadable();
+    }
+    picture.upright.rotateAnticlockwise(track.quarterTurns);
     picture.colour = track.colour;
     picture.content = std::move(grid);
     return picture;
@@ -127,25 +153,23 @@ Result<Picture> pictureOf(const Source &source, const Track &track)
 
 } // namespace
 
-Result<Picture> readFirstPictureOfTrack(const Source &source, const LoadedBox &movie)
+Result<Picture> readFirstPictureOfTrack(const LoadedBox &movie)
 {
     Result<Picture> picture = unreadable();
-    const bool sound = forEachBox(ByteReader(movie.payload), [&](std::uint32_t type, ByteReader payload) {
+    const bool areSound = forEachBox(ByteReader(movie.payload), [&](std::uint32_t type, ByteReader payload) {
         if (type != fourCharacters("trak") || picture) {
             return true;
         }
         Track track;
-        const bool trackIsSound = forEachBox(payload, [&track](std::uint32_t childType, ByteReader child) {
-            return readTrackChild(childType, child, track);
-        });
+        const bool isSound = readTrackBox(fourCharacters("moov"), type, payload, track);
         const bool showsPictures =
             track.handler == fourCharacters("pict") || track.handler == fourCharacters("vide");
-        if (trackIsSound && showsPictures && !track.isAuxiliary) {
-            picture = pictureOf(source, track);
+        if (isSound && showsPictures && !track.isAuxiliary) {
+            picture = pictureOf(track);
         }
-        return trackIsSound;
+        return isSound || !showsPictures;
     });
-    return sound ? std::move(picture) : unreadable();
+    return areSound ? std::move(picture) : unreadable();
 }
 
 } // namespace imageworker

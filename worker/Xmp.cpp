@@ -6,6 +6,7 @@ extern "C" {
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -60,52 +61,97 @@ std::string bigEndian(std::size_t value)
     return bytes;
 }
 
-/// Replaces every value of @p property, which may be an attribute (name="6") or an element (<name>6</name>).
-void replaceValue(std::string &text, std::string_view property, std::string_view value)
+/// A property of a packet: an attribute (name="6") with the blank before it, or an element (<name>6</name>).
+struct Property
+{
+    std::size_t start = 0;
+    std::size_t valueStart = 0;
+    std::size_t valueEnd = 0;
+    std::size_t end = 0;
+    bool hasValue = true; ///< unlike <name/>
+};
+
+Property element(std::string_view text, std::string_view name, std::size_t start)
+{
+    const std::size_t tagEnd = text.find('>', start);
+    if (tagEnd == std::string_view::npos || text[tagEnd - 1] == '/') {
+        return {start, tagEnd, tagEnd, tagEnd + 1, false};
+    }
+    const std::size_t closing = text.find("</" + std::string(name), tagEnd);
+    return {start, tagEnd + 1, closing, text.find('>', closing) + 1};
+}
+
+Property attribute(std::string_view text, std::size_t start, std::size_t assignment)
+{
+    const std::size_t quote = text.find_first_of("\"'", assignment);
+    const std::size_t end = quote == std::string_view::npos ? quote : text.find(text[quote], quote + 1);
+    return {start, quote + 1, end, end + 1};
+}
+
+/// The first property of @p name from @p position on; nothing when there is none or the packet breaks off in
+/// it.
+std::optional<Property> findProperty(std::string_view text, std::string_view name, std::size_t position)
 {
     constexpr std::string_view Blank = " \t\r\n";
-    for (std::size_t found = text.find(property); found != std::string::npos;
-         found = text.find(property, found)) {
-        const bool isElement = found > 0 && text[found - 1] == '<';
-        found += property.size();
-        std::size_t start = text.find_first_not_of(Blank, found);
-        if (start == std::string::npos) {
-            return;
+    for (std::size_t found = text.find(name, std::max<std::size_t>(position, 1));
+         found != std::string_view::npos; found = text.find(name, found + name.size())) {
+        const std::size_t after = found + name.size();
+        const std::size_t next = std::min(text.find_first_not_of(Blank, after), text.size() - 1);
+        std::optional<Property> property;
+        if (text[found - 1] == '<' && (next > after || text[next] == '>' || text[next] == '/')) {
+            property = element(text, name, found - 1);
+        } else if (Blank.find(text[found - 1]) != std::string_view::npos && text[next] == '=') {
+            property = attribute(text, found - 1, next);
         }
-        char last = '<';
-        if (isElement && text[start] == '>') {
-            ++start;
-        } else if (!isElement && text[start] == '=') {
-            start = text.find_first_of("\"'", start);
-            if (start == std::string::npos) {
-                return;
-            }
-            last = text[start++];
-        } else {
-            continue;
+        if (property) {
+            return property->valueEnd == std::string_view::npos ? std::nullopt : property;
         }
-        const std::size_t end = text.find(last, start);
-        if (end == std::string::npos) {
-            return;
-        }
-        text.replace(start, end - start, value);
-        found = start;
     }
+    return std::nullopt;
+}
+
+/// @p text with @p value for every property of @p name, or without them.
+std::string edited(std::string_view text, std::string_view name, std::optional<std::string_view> value)
+{
+    std::string result;
+    std::size_t copied = 0;
+    while (const auto property = findProperty(text, name, copied)) {
+        const bool isKept = value && property->hasValue;
+        result.append(text, copied, (isKept ? property->valueStart : property->start) - copied);
+        result.append(isKept ? *value : "");
+        copied = isKept ? property->valueEnd : property->end;
+    }
+    return result.append(text, copied);
 }
 
 } // namespace
 
 void describeCopyInXmp(Bytes &xmp, PixelSize size)
 {
-    std::string text(xmp.begin(), xmp.end());
+    // Other pictures and videos in the photo's file, which the copy does not have.
+    constexpr std::array Removed = {"Container:Directory",
+                                    "GCamera:MicroVideo",
+                                    "GCamera:MicroVideoOffset",
+                                    "GCamera:MicroVideoPresentationTimestampUs",
+                                    "GCamera:MicroVideoVersion",
+                                    "GCamera:MotionPhoto",
+                                    "GCamera:MotionPhotoPresentationTimestampUs",
+                                    "GCamera:MotionPhotoVersion",
+                                    "hdrgm:Version"};
     const std::string width = std::to_string(size.width);
     const std::string height = std::to_string(size.height);
-    replaceValue(text, "tiff:Orientation", "1");
-    replaceValue(text, "tiff:ImageWidth", width);
-    replaceValue(text, "tiff:ImageLength", height);
-    replaceValue(text, "exif:PixelXDimension", width);
-    replaceValue(text, "exif:PixelYDimension", height);
-    replaceValue(text, "exif:ColorSpace", "1");
+    std::string text(xmp.begin(), xmp.end());
+    for (const auto &[name, value] : {std::pair<const char *, std::string_view>("tiff:Orientation", "1"),
+                                      {"tiff:ImageWidth", width},
+                                      {"tiff:ImageLength", height},
+                                      {"exif:PixelXDimension", width},
+                                      {"exif:PixelYDimension", height},
+                                      {"exif:ColorSpace", "1"}}) {
+        text = edited(text, name, value);
+    }
+    for (const char *name : Removed) {
+        text = edited(text, name, std::nullopt);
+    }
     xmp.assign(text.begin(), text.end());
 }
 

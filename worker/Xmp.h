@@ -5,7 +5,7 @@
 namespace imageworker {
 
 /// Makes the packet @p xmp true of an upright copy of @p size: its orientation 1, its dimensions, its colour
-/// space. Changes nothing else but the length of these values.
+/// space, no word of gain maps and videos. Changes nothing else.
 void describeCopyInXmp(Bytes &xmp, PixelSize size);
 
 /// The contents of the APP1 segments of a JPEG that hold the packet @p xmp, each at most @p longest bytes. A

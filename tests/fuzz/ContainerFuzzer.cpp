@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (!photo) {
         return 0;
     }
-    const PixelSize shown = photo->uprightSize();
+    const PixelSize shown = photo->upright().size();
     if (!isAcceptable(shown.width, shown.height)) {
         std::abort();
     }

@@ -94,7 +94,7 @@ TEST(Exif, ShouldDescribeTheUprightCopyInBothByteOrders)
         Bytes exif = CameraExif(littleEndian, 100, 500).bytes();
         const std::size_t before = exif.size();
         EXPECT_EQ(exifOrientation(exif), 6U);
-        describeCopy(exif, {3024, 4032});
+        describeCopy(exif, Upright({3024, 4032}));
         EXPECT_EQ(exifOrientation(exif), 1U);
         EXPECT_EQ(detail(exif, TiffTag::PixelWidth), 3024U);
         EXPECT_EQ(detail(exif, TiffTag::PixelHeight), 4032U);
@@ -110,7 +110,7 @@ TEST(Exif, ShouldCutByValueAndKeepDateAndCamera)
     for (const bool littleEndian : {true, false}) {
         SCOPED_TRACE(littleEndian);
         Bytes exif = CameraExif(littleEndian, 150'000, 20'000).bytes();
-        describeCopy(exif, {3024, 4032});
+        describeCopy(exif, Upright({3024, 4032}));
         Bytes cut = exifWithin(exif, Limit);
         EXPECT_LE(cut.size(), Limit);
         EXPECT_TRUE(contains(cut, "2024:05:06 07:08:09"));
@@ -126,11 +126,11 @@ TEST(Exif, ShouldSurviveEveryCutAndEveryDamagedByte)
     const Bytes whole = CameraExif(true, 20, 20).bytes();
     for (std::size_t length = 0; length < whole.size(); ++length) {
         Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
-        describeCopy(cut, {1, 1});
+        describeCopy(cut, Upright({1, 1}));
         EXPECT_LE(exifWithin(cut, 60).size(), 60U);
         Bytes damaged = whole;
         damaged[length] = 0xFF;
-        describeCopy(damaged, {1, 1});
+        describeCopy(damaged, Upright({1, 1}));
         EXPECT_LE(exifWithin(damaged, 60).size(), 60U);
     }
 }
