@@ -4,7 +4,9 @@
 #include "Vectorised.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstring>
 
 namespace imageworker {
 
@@ -80,24 +82,36 @@ std::pair<float, float> limitsOfSums(const LinearTables &tables)
     return {std::min({lowest[0], lowest[1], lowest[2]}), std::max({highest[0], highest[1], highest[2]})};
 }
 
-/// @p tables: one for each channel. @p srgb: codes by the sums.
+/// @p tables: one for each channel. @p srgb: codes by the sums. In blocks: the sums of a whole block are on
+/// their way to memory before the first of them is needed as an index.
 LUMAPORT_VECTORISED void convertPixels(const CodeRow &codes,
                                        const std::array<const LinearColour *, 3> &tables,
                                        const std::uint8_t *__restrict srgb, std::uint8_t *__restrict rgba)
 {
     typedef std::int32_t Steps __attribute__((vector_size(16)));
+    constexpr std::size_t Block = 16;
+    constexpr std::uint32_t Opaque = 0xFF000000;
+    static_assert(std::endian::native == std::endian::little);
     const std::uint16_t *red = codes.red.data();
     const std::uint16_t *green = codes.green.data();
     const std::uint16_t *blue = codes.blue.data();
     const auto [byRed, byGreen, byBlue] = tables;
     const std::size_t width = codes.red.size();
-    for (std::size_t x = 0; x < width; ++x) {
-        const LinearColour sum = byRed[red[x]] + byGreen[green[x]] + byBlue[blue[x]];
-        const Steps steps = __builtin_convertvector(sum, Steps);
-        rgba[4 * x] = srgb[steps[0]];
-        rgba[4 * x + 1] = srgb[steps[1]];
-        rgba[4 * x + 2] = srgb[steps[2]];
-        rgba[4 * x + 3] = 255;
+    alignas(Steps) std::array<std::int32_t, 4 * Block> steps;
+    for (std::size_t start = 0; start < width; start += Block) {
+        const std::size_t end = std::min(start + Block, width);
+        std::int32_t *next = steps.data();
+        for (std::size_t x = start; x < end; ++x, next += 4) {
+            const LinearColour sum = byRed[red[x]] + byGreen[green[x]] + byBlue[blue[x]];
+            const Steps rounded = __builtin_convertvector(sum, Steps);
+            std::memcpy(next, &rounded, sizeof(rounded));
+        }
+        const std::int32_t *step = steps.data();
+        for (std::size_t x = start; x < end; ++x, step += 4) {
+            const std::uint32_t pixel = srgb[step[0]] | static_cast<std::uint32_t>(srgb[step[1]]) << 8 |
+                                        static_cast<std::uint32_t>(srgb[step[2]]) << 16 | Opaque;
+            std::memcpy(rgba + 4 * x, &pixel, sizeof(pixel));
+        }
     }
 }
 

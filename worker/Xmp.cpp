@@ -77,8 +77,9 @@ Property element(std::string_view text, std::string_view name, std::size_t start
     if (tagEnd == std::string_view::npos || text[tagEnd - 1] == '/') {
         return {start, tagEnd, tagEnd, tagEnd + 1, false};
     }
-    const std::size_t closing = text.find("</" + std::string(name), tagEnd);
-    return {start, tagEnd + 1, closing, text.find('>', closing) + 1};
+    const std::string closing = "</" + std::string(name) + '>';
+    const std::size_t valueEnd = text.find(closing, tagEnd);
+    return {start, tagEnd + 1, valueEnd, valueEnd + closing.size()};
 }
 
 Property attribute(std::string_view text, std::size_t start, std::size_t assignment)
