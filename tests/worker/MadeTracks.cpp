@@ -14,7 +14,8 @@ Bytes sampleDescription(const MadeTrack &track)
 {
     Bytes children;
     for (const HeifFile::Property &property : track.picture.properties) {
-        if (property.type == "colr" || property.type == track.picture.properties.front().type) {
+        if (property.type == "colr" || property.type == "clap" ||
+            property.type == track.picture.properties.front().type) {
             children = joined({children, box(property.type, property.payload)});
         }
     }
@@ -28,6 +29,20 @@ Bytes sampleDescription(const MadeTrack &track)
     return fullBox("stsd", 0, joined({bigEndian(1, 4), box(track.codingName, entry)}));
 }
 
+/// ISO/IEC 14496-12, 8.3.2.
+Bytes trackHeader(unsigned clockwiseQuarters)
+{
+    constexpr std::int32_t One = 0x10000;
+    constexpr std::int32_t Sines[] = {0, One, 0, -One};
+    const std::int32_t sine = Sines[clockwiseQuarters % 4];
+    const std::int32_t cosine = Sines[(clockwiseQuarters + 1) % 4];
+    Bytes matrix;
+    for (const std::int32_t number : {cosine, sine, 0, -sine, cosine, 0, 0, 0, 0x40000000}) {
+        matrix = joined({matrix, bigEndian(static_cast<std::uint32_t>(number), 4)});
+    }
+    return fullBox("tkhd", 0, joined({Bytes(36), matrix, Bytes(8)}));
+}
+
 Bytes trackBox(const MadeTrack &track, std::size_t offset)
 {
     const std::size_t length = track.picture.data.size();
@@ -39,7 +54,8 @@ Bytes trackBox(const MadeTrack &track, std::size_t offset)
     const Bytes samples = box("stbl", joined({sampleDescription(track), fullBox("stsz", 0, sizes),
                                               fullBox(isLong ? "co64" : "stco", 0, offsets)}));
     const Bytes handler = fullBox("hdlr", 0, joined({Bytes(4), bytesOf(track.handler), Bytes(13)}));
-    return box("trak", box("mdia", joined({handler, box("minf", samples)})));
+    return box("trak", joined({trackHeader(track.clockwiseQuarters),
+                               box("mdia", joined({handler, box("minf", samples)}))}));
 }
 
 Bytes movie(const std::vector<MadeTrack> &tracks, std::size_t offset)

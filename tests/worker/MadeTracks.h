@@ -16,6 +16,7 @@ struct MadeTrack
     unsigned height = 0;
     std::string handler = "pict";
     bool isAuxiliary = false;
+    unsigned clockwiseQuarters = 0; ///< by which the header turns it
     Offsets offsets = Offsets::Short;
     Sizes sizes = Sizes::Listed;
 };

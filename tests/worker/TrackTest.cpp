@@ -78,6 +78,26 @@ TEST_F(Tracks, ShouldFollowTheirColours)
     }
 }
 
+TEST_F(Tracks, ShouldBeCroppedAndTurned)
+{
+    const auto number = [](unsigned value) { return bigEndian(value, 4); };
+    const HeifFile::Property crop = {"clap", joined({number(50), number(1), number(30), number(1), number(6),
+                                                     number(1), number(3), number(1)})};
+    for (unsigned quarters = 1; quarters < 4; ++quarters) {
+        SCOPED_TRACE(quarters);
+        MadeTrack track = trackOf(makePhoto({.size = {128, 64}}), {128, 64});
+        track.picture.properties.push_back(crop);
+        track.clockwiseQuarters = quarters;
+        const auto copy = shown(fileOfTracks({track}));
+        HeifFile file; // an item's turn is anticlockwise
+        track.picture.properties.push_back({"irot", {static_cast<std::uint8_t>(4 - quarters)}});
+        const auto reference =
+            decodeIndependently(file.bytes(file.add("hvc1", track.picture.data, track.picture.properties)));
+        ASSERT_TRUE(copy && reference);
+        EXPECT_LE(largestDifference(*copy, *reference), 2);
+    }
+}
+
 } // namespace
 
 } // namespace imageworker
