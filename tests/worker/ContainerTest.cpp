@@ -73,12 +73,6 @@ Bytes gridOf(unsigned rows, unsigned columns, PixelSize canvas)
                    bigEndian(static_cast<unsigned>(canvas.height), 2)});
 }
 
-std::optional<Raster> shown(const Bytes &photo)
-{
-    const auto copy = convert(photo, CopyFormat::Png);
-    return copy ? readPng(*copy) : std::nullopt;
-}
-
 class Container : public testing::Test
 {
 protected:

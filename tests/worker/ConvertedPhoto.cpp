@@ -1,5 +1,6 @@
 #include "ConvertedPhoto.h"
 
+#include "MadePhoto.h"
 #include "PhotoReader.h"
 
 #include <algorithm>
@@ -40,6 +41,12 @@ Result<Bytes> convert(const Bytes &photo, CopyFormat format)
         return tl::unexpected(written.error());
     }
     return output.bytes();
+}
+
+std::optional<Raster> shown(const Bytes &photo)
+{
+    const auto copy = convert(photo, CopyFormat::Png);
+    return copy ? readPng(*copy) : std::nullopt;
 }
 
 int largestDifference(const Raster &a, const Raster &b)

@@ -3,6 +3,8 @@
 #include "PhotoConverter.h"
 #include "Raster.h"
 
+#include <optional>
+
 namespace imageworker {
 
 /// A file without a name to write into.
@@ -23,6 +25,9 @@ private:
 
 /// The copy of @p photo, a whole file.
 Result<Bytes> convert(const Bytes &photo, CopyFormat format);
+
+/// The pixels of its PNG; nothing when it is refused.
+std::optional<Raster> shown(const Bytes &photo);
 
 /// Largest difference of two values at the same place; that of black and white for pictures of other sizes.
 int largestDifference(const Raster &a, const Raster &b);

@@ -12,17 +12,6 @@ Bytes bytesOf(std::string_view text)
     return {text.begin(), text.end()};
 }
 
-Bytes box(std::string_view type, const Bytes &payload)
-{
-    constexpr std::size_t Header = 8;
-    return joined({bigEndian(Header + payload.size(), 4), bytesOf(type), payload});
-}
-
-Bytes fullBox(std::string_view type, unsigned version, const Bytes &payload)
-{
-    return box(type, joined({bigEndian(version, 1), bigEndian(0, 3), payload}));
-}
-
 std::size_t numberAt(const Bytes &bytes, std::size_t position)
 {
     std::size_t number = 0;
@@ -69,9 +58,26 @@ Bytes joined(const std::vector<Bytes> &parts)
     return bytes;
 }
 
+Bytes box(std::string_view type, const Bytes &payload)
+{
+    constexpr std::size_t Header = 8;
+    return joined({bigEndian(Header + payload.size(), 4), bytesOf(type), payload});
+}
+
+Bytes fullBox(std::string_view type, unsigned version, const Bytes &payload)
+{
+    return box(type, joined({bigEndian(version, 1), bigEndian(0, 3), payload}));
+}
+
 HeifFile::Property spatialExtents(unsigned width, unsigned height)
 {
     return {"ispe", joined({bigEndian(0, 4), bigEndian(width, 4), bigEndian(height, 4)})};
+}
+
+HeifFile::Property codePoints(unsigned primaries, unsigned transfer, unsigned matrix, bool fullRange)
+{
+    return {"colr", joined({bytesOf("nclx"), bigEndian(primaries, 2), bigEndian(transfer, 2),
+                            bigEndian(matrix, 2), bigEndian(fullRange ? 0x80 : 0, 1)})};
 }
 
 CodedItem codedItemOf(const Bytes &file)

@@ -79,6 +79,11 @@ CodedItem codedItemOf(const Bytes &file);
 Bytes bigEndian(std::uint64_t value, unsigned width);
 Bytes joined(const std::vector<Bytes> &parts);
 
+Bytes box(std::string_view type, const Bytes &payload);
+Bytes fullBox(std::string_view type, unsigned version, const Bytes &payload);
+
 HeifFile::Property spatialExtents(unsigned width, unsigned height);
+/// Colour as code points of ITU-T H.273.
+HeifFile::Property codePoints(unsigned primaries, unsigned transfer, unsigned matrix, bool fullRange);
 
 } // namespace imageworker

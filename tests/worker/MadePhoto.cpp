@@ -20,26 +20,41 @@ void check(const heif_error &error)
     }
 }
 
+heif_chroma arrangementOf(const PhotoRecipe &recipe)
+{
+    if (recipe.chroma == PhotoRecipe::Chroma::None) {
+        return heif_chroma_monochrome;
+    }
+    if (recipe.depth > 8) {
+        return heif_chroma_interleaved_RRGGBB_LE;
+    }
+    return recipe.hasAlpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB;
+}
+
 Image imageOf(const Raster &raster, const PhotoRecipe &recipe)
 {
     const bool isGrey = recipe.chroma == PhotoRecipe::Chroma::None;
     heif_image *made = nullptr;
     check(heif_image_create(raster.size.width, raster.size.height,
-                            isGrey ? heif_colorspace_monochrome : heif_colorspace_RGB,
-                            isGrey            ? heif_chroma_monochrome
-                            : recipe.hasAlpha ? heif_chroma_interleaved_RGBA
-                                              : heif_chroma_interleaved_RGB,
+                            isGrey ? heif_colorspace_monochrome : heif_colorspace_RGB, arrangementOf(recipe),
                             &made));
     Image image(made, &heif_image_release);
     const heif_channel channel = isGrey ? heif_channel_Y : heif_channel_interleaved;
-    check(heif_image_add_plane(image.get(), channel, raster.size.width, raster.size.height, 8));
+    check(heif_image_add_plane(image.get(), channel, raster.size.width, raster.size.height, recipe.depth));
     int stride = 0;
     std::uint8_t *plane = heif_image_get_plane(image.get(), channel, &stride);
     const int samples = isGrey ? 1 : recipe.hasAlpha ? 4 : 3;
+    const int sampleBytes = recipe.depth > 8 ? 2 : 1;
     for (int y = 0; y < raster.size.height; ++y) {
+        std::uint8_t *next = plane + std::ptrdiff_t{y} * stride;
         for (int x = 0; x < raster.size.width; ++x) {
-            std::memcpy(plane + std::ptrdiff_t{y} * stride + std::ptrdiff_t{x} * samples,
-                        raster.row(y) + std::ptrdiff_t{4} * x, static_cast<std::size_t>(samples));
+            for (int sample = 0; sample < samples; ++sample, next += sampleBytes) {
+                const int value = raster.row(y)[std::ptrdiff_t{4} * x + sample];
+                const int code = value * ((1 << recipe.depth) - 1) / 255;
+                for (int byte = 0; byte < sampleBytes; ++byte) {
+                    next[byte] = static_cast<std::uint8_t>(code >> (8 * byte));
+                }
+            }
         }
     }
     if (!recipe.iccProfile.empty()) {

@@ -14,6 +14,7 @@ struct PhotoRecipe
 
     PixelSize size{96, 64};
     Chroma chroma = Chroma::Quarter;
+    int depth = 8; ///< of 8 bits, or of 10 without opacity
     bool hasAlpha = false;
     unsigned orientation = 1; ///< as for Exif; written into the container
     Bytes iccProfile;

@@ -1,7 +1,9 @@
 #include "ConvertedPhoto.h"
+#include "MadeExif.h"
 #include "MadePhoto.h"
 #include "TileDecoder.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -101,6 +103,35 @@ TEST_F(Metadata, ShouldReachTheCopyAndDescribeIt)
                 EXPECT_TRUE(says("ProfileDescription: sRGB")) << found;
             }
         }
+    }
+}
+
+TEST_F(Metadata, ShouldKeepWhatWasShotWhereAndWhenInAJpegThatCannotHoldAll)
+{
+    const MemoryFile copy;
+    ASSERT_NO_FATAL_FAILURE(
+        write(makePhoto({.exif = makeExif({.makerNoteLength = 70'000})}), CopyFormat::Jpeg, copy));
+    const std::string found = readWith("exiftool -a -G1 -S -n", copy);
+    for (const std::string line :
+         {"[IFD0] Make: Lens\n", "[ExifIFD] DateTimeOriginal: 2024:05:06 07:08:09\n",
+          "[GPS] GPSLatitudeRef: N\n", "[GPS] GPSLatitude: 54.5\n", "[GPS] GPSLongitudeRef: E\n",
+          "[GPS] GPSLongitude: 10.25\n", "[InteropIFD] InteropIndex: R98\n"}) {
+        EXPECT_NE(found.find(line), std::string::npos) << line << found;
+    }
+}
+
+TEST_F(Metadata, ShouldNotShowThePhotoAsItWas)
+{
+    const Bytes photo = makePhoto({.exif = makeExif({.previewLength = 300})});
+    const Bytes preview(20, 'P');
+    const auto hasPreview = [&preview](const Bytes &file) {
+        return std::search(file.begin(), file.end(), preview.begin(), preview.end()) != file.end();
+    };
+    ASSERT_TRUE(hasPreview(photo));
+    for (const CopyFormat format : {CopyFormat::Jpeg, CopyFormat::Png}) {
+        const auto copy = convert(photo, format);
+        ASSERT_TRUE(copy);
+        EXPECT_FALSE(hasPreview(*copy));
     }
 }
 

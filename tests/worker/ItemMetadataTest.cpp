@@ -1,0 +1,93 @@
+#include "AvcPicture.h"
+#include "ConvertedPhoto.h"
+#include "MadeExif.h"
+#include "MadePhoto.h"
+#include "PhotoReader.h"
+#include "TileDecoder.h"
+
+#include <cstring>
+#include <gtest/gtest.h>
+
+namespace imageworker {
+
+namespace {
+
+/// The payload of an "Exif" item.
+Bytes exifItem(const Bytes &tiff)
+{
+    return joined({Bytes(4), tiff});
+}
+
+/// As photos with orientation 6 are shown.
+Raster turnedClockwise(const Raster &stored)
+{
+    Raster turned({stored.size.height, stored.size.width});
+    for (int y = 0; y < turned.size.height; ++y) {
+        for (int x = 0; x < turned.size.width; ++x) {
+            std::memcpy(turned.row(y) + std::ptrdiff_t{4} * x,
+                        stored.row(stored.size.height - 1 - x) + std::ptrdiff_t{4} * y, 4);
+        }
+    }
+    return turned;
+}
+
+class ItemMetadata : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
+};
+
+TEST_F(ItemMetadata, ShouldTurnAPictureThatDoesNotTurnItself)
+{
+    const Raster picture = cornerColours({96, 64}, false);
+    const CodedItem coded = makeAvcItem(picture);
+    CodedItem alpha = makeAvcItem(picture);
+    const std::string_view name = "urn:mpeg:mpegB:cicp:systems:auxiliary:alpha";
+    alpha.properties.push_back({"auxC", joined({Bytes(4), Bytes(name.begin(), name.end()), {0}})});
+    for (const bool turnsItself : {false, true}) {
+        SCOPED_TRACE(turnsItself);
+        HeifFile::Properties properties = coded.properties;
+        if (turnsItself) {
+            properties.push_back({"irot", {3}});
+            alpha.properties.push_back({"irot", {3}});
+        }
+        HeifFile file;
+        const unsigned primary = file.add("avc1", coded.data, properties);
+        file.refer(file.add("avc1", alpha.data, alpha.properties), "auxl", {primary});
+        const Bytes exif = makeExif({.orientation = turnsItself ? 3U : 6U});
+        file.refer(file.add("Exif", exifItem(exif), {}), "cdsc", {primary});
+        const auto copy = shown(file.bytes(primary));
+        ASSERT_TRUE(copy);
+        Raster expected = turnedClockwise(picture); // its red is all channels and the opacity
+        for (std::size_t index = 0; index < expected.rgba.size(); ++index) {
+            expected.rgba[index] = expected.rgba[index - index % 4];
+        }
+        EXPECT_EQ(largestDifference(*copy, expected), 0);
+    }
+}
+
+TEST_F(ItemMetadata, ShouldBeThePrimaryItemsOwn)
+{
+    const CodedItem coded = makeAvcItem(cornerColours({64, 48}, false));
+    const Bytes own = makeExif({.orientation = 3});
+    const Bytes foreign = makeExif({.orientation = 6});
+    const auto exifOf = [&](bool namesItsPicture) {
+        HeifFile file;
+        const unsigned other = file.add("avc1", coded.data, coded.properties);
+        const unsigned primary = file.add("avc1", coded.data, coded.properties);
+        file.refer(file.add("Exif", exifItem(foreign), {}), "cdsc", {other});
+        const unsigned item = file.add("Exif", exifItem(own), {});
+        if (namesItsPicture) {
+            file.refer(item, "cdsc", {other, primary});
+        }
+        const Bytes bytes = file.bytes(primary);
+        const auto photo = readPhoto(*sourceOfBytes(bytes));
+        return photo ? photo->exif : Bytes();
+    };
+    EXPECT_EQ(exifOf(true), own);
+    EXPECT_EQ(exifOf(false), own);
+}
+
+} // namespace
+
+} // namespace imageworker
