@@ -100,6 +100,29 @@ private Q_SLOTS:
         QCOMPARE(scene.window.grabWindow(), without);
     }
 
+    void shouldPaintNothingOfTheGradientAroundAPicture()
+    {
+        ModelScene scene;
+        const ConversionItem photo = scene.item(QStringLiteral("a.heic"), ConversionStatus::ready, "orange");
+        const QQuickItem *thumbnail =
+            scene.show("import Lumaport.Views\nPhotoThumbnail { width: 52; height: 52; cornerRadius: 11 }");
+        scene.find({})->setProperty("url", photo.sourceURL);
+        QTRY_VERIFY(thumbnail->property("loaded").toBool());
+        const QImage picture = scene.window.grabWindow();
+        for (int y = 0; y < 52; ++y) {
+            for (int x = 0; x < 52; ++x) {
+                QVERIFY2(picture.pixelColor(x, y).red() > 252, "orange and white have all of their red");
+            }
+        }
+    }
+
+    void shouldLeaveOutAPlaceholderThatIsTooSmallToBeSeen()
+    {
+        ModelScene scene;
+        scene.show("import Lumaport.Views\nPhotoThumbnail { width: 42; height: 42 }");
+        QVERIFY(scene.window.grabWindow().pixelColor(21, 21).red() < 130); // of the gradient, not white
+    }
+
     void shouldOfferTheOneActionOfEachRow()
     {
         ModelScene scene;
