@@ -190,7 +190,15 @@ private Q_SLOTS:
         picker->forceActiveFocus(Qt::TabFocusReason);
         scene.press(Qt::Key_Return);
         QTRY_VERIFY(picker->property("down").toBool());
+        const auto *menu =
+            picker->property("popup").value<QObject *>()->property("contentItem").value<QQuickItem *>();
+        const auto isSaidToBeChosen = [menu] {
+            auto *entry = menu->property("currentItem").value<QQuickItem *>();
+            return QAccessible::queryAccessibleInterface(entry)->state().selected;
+        };
+        QVERIFY(isSaidToBeChosen());
         scene.press(Qt::Key_Up);
+        QVERIFY(!isSaidToBeChosen());
         scene.press(Qt::Key_Return);
         QCOMPARE(scene.model.settings().outputLocation, OutputLocation::alongside);
         QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(picker);
@@ -230,6 +238,21 @@ private Q_SLOTS:
         QVERIFY(close->mapToItem(item, QPointF()).y() >= 0);
         scene.press(Qt::Key_Return);
         QCOMPARE(item->property("closings").toInt(), 1);
+    }
+
+    void shouldShowHowFarItIsScrolledOnDarkGroundToo()
+    {
+        ModelScene scene;
+        scene.appearance.force(SystemAppearance::ColorScheme::Dark);
+        scene.show(panel);
+        QTest::mouseMove(&scene.window, QPoint(100, 300));
+        const auto bar = [&] { return scene.window.grabWindow().pixelColor(258 - 5, 40).lightness(); };
+        const int ground = bar();
+        QWheelEvent wheel(QPointF(100, 300), QPointF(100, 300), {}, QPoint(0, -120), Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&scene.window, &wheel);
+        QTRY_VERIFY(bar() > ground + 60);
+        QTRY_COMPARE(bar(), ground);
     }
 
     void shouldWrapALongPathAndStayUsableWhileBusy()
