@@ -55,10 +55,18 @@ Rectangle {
                 y: 2
 
                 contentItem: Item {
-                    PhotoLandingStage {
+                    // What overlaps on the stage fades as one picture, which has room for the glow.
+                    Item {
                         anchors.centerIn: parent
-                        controller: workspace.controller.stage
+                        height: 222 + 80
+                        layer.enabled: workspace.opacity < 1
                         scale: workspace.stageHeight / 222
+                        width: 330 + 40
+
+                        PhotoLandingStage {
+                            anchors.centerIn: parent
+                            controller: workspace.controller.stage
+                        }
                     }
                 }
 
