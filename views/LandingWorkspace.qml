@@ -55,18 +55,10 @@ Rectangle {
                 y: 2
 
                 contentItem: Item {
-                    // What overlaps on the stage fades as one picture, which has room for the glow.
-                    Item {
+                    PhotoLandingStage {
                         anchors.centerIn: parent
-                        height: 222 + 80
-                        layer.enabled: workspace.opacity < 1
+                        controller: workspace.controller.stage
                         scale: workspace.stageHeight / 222
-                        width: 330 + 40
-
-                        PhotoLandingStage {
-                            anchors.centerIn: parent
-                            controller: workspace.controller.stage
-                        }
                     }
                 }
 

@@ -22,7 +22,8 @@ Column {
         width: parent.width
     }
 
-    // One workspace fades into the other. There is room for both until one is gone.
+    // One workspace fades into the other, and there is room for both meanwhile. The landing workspace is covered rather
+    // than made transparent: what overlaps on its stage would show through.
     Item {
         height: Math.max(landing.visible ? landing.height : 0, history.visible ? history.height : 0)
         width: parent.width
@@ -41,10 +42,16 @@ Column {
             compact: column.compact
             controller: column.controller
             enabled: !column.controller.showingHistory
-            opacity: 1 - switching.value
             stageHeight: column.stageHeight
-            visible: opacity > 0
+            visible: switching.value < 1
             width: parent.width
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            color: LumaportPalette.night
+            opacity: switching.value
+            visible: landing.visible
         }
 
         Loader {

@@ -105,6 +105,21 @@ private Q_SLOTS:
         QCOMPARE(place(), before);
     }
 
+    void shouldNotShowOneCardThroughTheOtherWhileItSwitches()
+    {
+        m_scene->appearance.setMotion(SystemAppearance::Motion::Full);
+        show();
+        QTest::mouseMove(&m_scene->window, QPoint(300, 30));
+        const QPoint edge = m_scene->find(QStringLiteral("card2"))->mapToScene(QPointF(3, 60)).toPoint();
+        const auto isBright = [&] { return m_scene->window.grabWindow().pixelColor(edge).red() > 240; };
+        QVERIFY(isBright());
+        m_controller->setShowingHistory(true);
+        while (m_scene->find(QStringLiteral("headline"))) {
+            QVERIFY(isBright()); // between a card's white and the window's ground
+            QCoreApplication::processEvents();
+        }
+    }
+
     void shouldSwitchItsWorkspacesByPointerKeysAndAssistiveInterface()
     {
         show();
