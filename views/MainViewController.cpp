@@ -1,7 +1,9 @@
 #include "MainViewController.h"
 
 #include "AppModel.h"
+#include "ConversionItemTexts.h"
 #include "DefaultsStore.h"
+#include "OptionTexts.h"
 #include "PhotoFileName.h"
 #include "PhotoLandingStageController.h"
 
@@ -135,7 +137,7 @@ QString MainViewController::workspaceDetail() const
 
 QString MainViewController::readyText() const
 {
-    return tr("%1 ready").arg(m_model.readyCount());
+    return ConversionItemTexts::readyText(m_model.readyCount());
 }
 
 bool MainViewController::isBusy() const
@@ -165,7 +167,7 @@ QString MainViewController::openFolderLabel() const
 
 QString MainViewController::outputLocationText() const
 {
-    return rawValue(m_model.settings().outputLocation);
+    return optionText(m_model.settings().outputLocation);
 }
 
 bool MainViewController::dragEntered(const QList<QUrl> &urls)
