@@ -169,7 +169,7 @@ int AppModel::readyCount() const
 void AppModel::reveal(const ConversionItem &item)
 {
     if (item.outputURL) {
-        m_services.workspace->reveal(*item.outputURL);
+        m_services.workspace->reveal(*item.outputURL, QString());
     }
 }
 
