@@ -72,6 +72,12 @@ std::error_code lastError()
     return {errno, std::generic_category()};
 }
 
+QString pathIn(const QString &folder, const QString &name)
+{
+    // No two slashes at the start: in a URL the second part would be a host.
+    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
+}
+
 bool exists(const QString &path)
 {
     struct stat status = {};
