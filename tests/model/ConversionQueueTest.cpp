@@ -195,6 +195,13 @@ private Q_SLOTS:
         ModelFixture::turn();
         QCOMPARE(counting->histories, 2); // queued, then converting
         QCOMPARE(m_fixture->engine->running.size(), std::size_t{30});
+
+        for (int index = 30; index < 60; ++index) { // the same of those that the scan finds
+            m_fixture->write(QStringLiteral("%1.heic").arg(index));
+        }
+        m_fixture->settle();
+        QCOMPARE(counting->histories, 4);
+        QCOMPARE(m_fixture->engine->running.size(), std::size_t{60});
     }
 
     void shouldUseTheSettingsOfTheMomentOfArrival()
