@@ -165,5 +165,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ArrivalsListTest)
+QTEST_MAIN(ArrivalsListTest)
 #include "ArrivalsListTest.moc"
