@@ -62,16 +62,25 @@ void runAnotherProgram()
 }
 
 /// What the filter of calls ends the process for: whoever comes back from it has found a hole, even if
-/// something else refused the call.
-const std::map<std::string_view, void (*)()> Deadly = {
-    {"create", [] { ::open("/tmp/disobedient", O_WRONLY | O_CREAT, 0600); }},
-    {"socket", [] { ::socket(AF_INET, SOCK_STREAM, 0); }},
-    {"exec", runAnotherProgram},
-    {"clone", [] { ::fork(); }}, // which the C library does by clone()
-    {"fork", [] { ::syscall(SYS_fork); }},
-    {"vfork", [] { ::syscall(SYS_vfork); }},
-    {"ptrace", [] { ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr); }},
-};
+/// something else refused the call. False for other orders, which are left to do.
+bool didWhatIsDeadly(std::string_view order)
+{
+    static const std::map<std::string_view, void (*)()> orders = {
+        {"create", [] { ::open("/tmp/disobedient", O_WRONLY | O_CREAT, 0600); }},
+        {"socket", [] { ::socket(AF_INET, SOCK_STREAM, 0); }},
+        {"exec", runAnotherProgram},
+        {"clone", [] { ::fork(); }}, // which the C library does by clone()
+        {"fork", [] { ::syscall(SYS_fork); }},
+        {"vfork", [] { ::syscall(SYS_vfork); }},
+        {"ptrace", [] { ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr); }},
+    };
+    const auto found = orders.find(order);
+    if (found == orders.end()) {
+        return false;
+    }
+    found->second();
+    return true;
+}
 
 /// True when memory of four gibibytes can be had.
 bool allocates()
@@ -143,8 +152,7 @@ bool succeeded(std::string_view order, int source)
 
 void obey(std::string_view order, int source)
 {
-    if (const auto deadly = Deadly.find(order); deadly != Deadly.end()) {
-        deadly->second();
+    if (didWhatIsDeadly(order)) {
         answer({Outcome::Done, 1, 1});
     } else if (order == "crash") {
         std::abort();

@@ -141,7 +141,8 @@ TEST_F(Opacity, ShouldShowInThumbnails)
         for (int x = 2; x < 30; x += 5) {
             const int expected = opacity.row(8 * y)[4L * 8 * x];
             ASSERT_EQ(thumbnail->row(y)[4L * x + 3], expected) << x << ", " << y;
-            ASSERT_NEAR(thumbnail->row(y)[4L * x], 200, 255 / (2 * expected) + 1) << x << ", " << y;
+            const int halfAStored = 255 / (2 * expected) + 1;
+            ASSERT_NEAR(thumbnail->row(y)[4L * x], 200, halfAStored) << x << ", " << y;
         }
     }
 }

@@ -54,7 +54,7 @@ Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata)
     }
     jpeg_finish_compress(&jpeg);
     jpeg_destroy_compress(&jpeg);
-    const Bytes file(stream, stream + length);
+    Bytes file(stream, stream + length);
     std::free(stream);
     return file;
 }

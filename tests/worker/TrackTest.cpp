@@ -16,8 +16,9 @@ MadeTrack trackOf(const Bytes &photo, PixelSize size)
 {
     MadeTrack track;
     track.picture = codedItemOf(photo);
-    std::ranges::stable_partition(track.picture.properties,
-                                  [](const HeifFile::Property &property) { return property.type == "hvcC"; });
+    auto &properties = track.picture.properties;
+    std::stable_partition(properties.begin(), properties.end(),
+                          [](const HeifFile::Property &property) { return property.type == "hvcC"; });
     track.width = static_cast<unsigned>(size.width);
     track.height = static_cast<unsigned>(size.height);
     return track;
