@@ -64,5 +64,7 @@ int main(int argc, char **argv)
     if (!files.isEmpty()) {
         Q_EMIT instance.opened(files);
     }
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    AccessibleItems::fallSilent();
+    return status;
 }
