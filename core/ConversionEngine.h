@@ -17,8 +17,6 @@ struct ConversionResult
 {
     QUrl sourceURL; ///< exactly as handed to the engine, also when the source was moved to `Originals`
     QUrl outputURL; ///< the converted file
-
-    bool operator==(const ConversionResult &) const = default;
 };
 
 using ConversionOutcome = tl::expected<ConversionResult, ConversionFailure>;
@@ -30,8 +28,8 @@ class ConversionEngine
 public:
     virtual ~ConversionEngine() = default;
 
-    /// Takes the photo and returns at once. `done` is called on the engine's own thread, the main one, when
-    /// the photo's turn is over; not at all when `receiver` or the engine is gone by then.
+    /// Takes the photo and returns at once. `done` is called on the thread that the engine lives in, the main
+    /// one, when the photo's turn is over; not at all when `receiver` or the engine is gone by then.
     virtual void convert(const QUrl &sourceURL, const ConversionSettings &settings, QObject *receiver,
                          std::function<void(const ConversionOutcome &)> done) = 0;
 

@@ -1,11 +1,13 @@
 #include "FolderListing.h"
 
+#include "FileOperations.h"
 #include "PhotoFileName.h"
 
 #include <QCollator>
 #include <QFile>
 
 #include <algorithm>
+#include <cerrno>
 #include <dirent.h>
 #include <memory>
 #include <vector>
@@ -24,8 +26,13 @@ QStringList photoNames(const QByteArray &path)
     if (!directory) {
         return names;
     }
-    // readdir is safe on a stream that no other thread has.
-    while (const dirent *entry = ::readdir(directory.get())) { // NOLINT(concurrency-mt-unsafe)
+    for (;;) {
+        errno = 0;
+        // readdir is safe on a stream that no other thread has.
+        const dirent *entry = ::readdir(directory.get()); // NOLINT(concurrency-mt-unsafe)
+        if (!entry) {
+            return errno == 0 ? names : QStringList(); // half a list would pass for the whole folder
+        }
         const QByteArrayView bytes(&entry->d_name[0]);
         if (bytes.startsWith('.') || bytes.size() < 6 || bytes[bytes.size() - 5] != '.') {
             continue; // tens of thousands of other names pass here: look before decoding
@@ -35,7 +42,6 @@ QStringList photoNames(const QByteArray &path)
             names.append(name);
         }
     }
-    return names;
 }
 
 void sortAsInFileManager(QStringList &names)
@@ -64,11 +70,10 @@ QList<QUrl> FolderListing::photos(const QUrl &folder)
     const QString path = folder.toLocalFile();
     QStringList names = photoNames(QFile::encodeName(path));
     sortAsInFileManager(names);
-    const QString prefix = path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
     QList<QUrl> urls;
     urls.reserve(names.size());
     for (const QString &name : names) {
-        urls.append(QUrl::fromLocalFile(prefix + name));
+        urls.append(QUrl::fromLocalFile(FileOperations::pathIn(path, name)));
     }
     return urls;
 }

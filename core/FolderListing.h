@@ -7,7 +7,7 @@
 namespace FolderListing {
 
 /// The photos by name (HEIC or HEIF, not hidden), in the order of a file manager: letter case apart, numbers
-/// by value. One pass over the names. Empty when the folder is missing or may not be read.
+/// by value. One pass over the names. Empty when the folder is missing or cannot be read to its end.
 QList<QUrl> photos(const QUrl &folder);
 
 } // namespace FolderListing

@@ -16,22 +16,31 @@ bool FolderMonitor::start(const QUrl &at, std::function<void()> onChange)
     stop();
     const QByteArray path = QFile::encodeName(at.toLocalFile());
     auto source = FolderWatch::open(path, std::move(onChange));
-    if (!source) {
+    if (!source && source.error() != std::errc::resource_unavailable_try_again) {
         return false;
     }
-    m_mayMissChanges = !FolderWatch::seesEveryChange(path);
     const std::lock_guard guard(m_lock);
-    m_source = std::move(source);
+    m_mayMissChanges = !source || !FolderWatch::seesEveryChange(path);
+    if (source) {
+        m_source = std::move(*source);
+        m_source->resume(); // not before it is stored: its first report may stop it
+    }
     return true;
 }
 
 void FolderMonitor::stop()
 {
-    m_mayMissChanges = false;
     std::unique_ptr<FolderWatch> source;
     {
         const std::lock_guard guard(m_lock);
+        m_mayMissChanges = false;
         source = std::move(m_source);
     }
     // Ends here, outside the lock: ending waits for a report that is being delivered.
+}
+
+bool FolderMonitor::mayMissChanges() const
+{
+    const std::lock_guard guard(m_lock);
+    return m_mayMissChanges;
 }

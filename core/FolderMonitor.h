@@ -21,17 +21,18 @@ public:
     FolderMonitor &operator=(const FolderMonitor &) = delete;
 
     /// Ends any earlier watch, then watches the folder `at`. False when it cannot be opened; nothing is
-    /// watched then. `onChange` is called on a background thread of the watch; reports that arrive while it
+    /// watched then. A folder that the kernel has no watch left for counts as watched, but may miss changes.
+    /// `onChange` is called on a background thread of the watch; reports that arrive while it
     /// runs become one call.
     virtual bool start(const QUrl &at, std::function<void()> onChange);
 
     virtual void stop();
 
     /// Whether the watched folder may change without a report, as folders of other machines do.
-    virtual bool mayMissChanges() const { return m_mayMissChanges; }
+    virtual bool mayMissChanges() const;
 
 private:
-    std::mutex m_lock; ///< guards m_source
+    mutable std::mutex m_lock; ///< guards the two below
     std::unique_ptr<FolderWatch> m_source;
     bool m_mayMissChanges = false;
 };

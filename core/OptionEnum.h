@@ -7,7 +7,8 @@
 #include <optional>
 #include <utility>
 
-/// One case of a closed set and its text, which is both what the user reads and what is stored.
+/// One case of a closed set and its text, which is what is stored; where the user has the choice, it is also
+/// what the user reads.
 template<typename Option>
 struct OptionCase
 {
@@ -15,8 +16,8 @@ struct OptionCase
     const char *rawValue;
 };
 
-/// The cases of an enumeration, in the order of the choices in its control. Each enumeration specialises
-/// `cases`.
+/// The cases of an enumeration, in the order of the choices in its control if it has one. Each enumeration
+/// specialises this.
 template<typename Option>
 struct OptionCases;
 

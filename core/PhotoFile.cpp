@@ -1,10 +1,17 @@
 #include "PhotoFile.h"
 
+#include "PhotoFileName.h"
+
 #include <QFile>
 #include <QUrl>
 
 #include <fcntl.h>
 #include <sys/stat.h>
+
+bool isPhotoFile(const QUrl &url)
+{
+    return url.isLocalFile() && PhotoFileName::isHeic(url.fileName());
+}
 
 FileDescriptor openPhoto(const QUrl &file)
 {

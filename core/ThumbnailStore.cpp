@@ -76,6 +76,9 @@ std::unique_ptr<ThumbnailRequest> ThumbnailStore::image(const QUrl &url, Thumbna
     }
     auto request = std::make_unique<ThumbnailRequest>(std::move(answer));
     m_readers.start([this, url, waiting = std::weak_ptr(request->m_answer)] {
+        if (waiting.expired()) {
+            return; // given up before its turn: those that are still wanted come sooner
+        }
         const QByteArray png = readThumbnail(*m_launcher, url);
         QMetaObject::invokeMethod(
             this, [this, url, waiting, png] { finish(url, waiting, png); }, Qt::QueuedConnection);

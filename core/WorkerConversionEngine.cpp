@@ -7,8 +7,6 @@
 #include "PhotoFileName.h"
 #include "ScratchFile.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -46,7 +44,7 @@ tl::expected<QString, std::error_code> useFirstFreeName(const QString &folder, c
                                                         const QString &extension, Use use)
 {
     for (int number = 1;; ++number) {
-        const QString path = QDir(folder).filePath(numberedName(base, extension, number));
+        const QString path = FileOperations::pathIn(folder, numberedName(base, extension, number));
         if (FileOperations::exists(path)) {
             continue;
         }
@@ -58,6 +56,20 @@ tl::expected<QString, std::error_code> useFirstFreeName(const QString &folder, c
             return tl::unexpected(error);
         }
     }
+}
+
+/// The folder that the output goes into, made when it is missing; else the file system's error.
+tl::expected<QString, std::error_code> makeOutputDirectory(const QUrl &sourceURL, OutputLocation location)
+{
+    const QString sourceFolder = folderOf(sourceURL);
+    if (location == OutputLocation::alongside) {
+        return sourceFolder;
+    }
+    const QString folder = FileOperations::pathIn(sourceFolder, QStringLiteral("Lumaport"));
+    if (const std::error_code error = FileOperations::createFolder(folder)) {
+        return tl::unexpected(error);
+    }
+    return folder;
 }
 
 ConversionFailure failureOf(ImageWorkerFault fault)
@@ -75,17 +87,15 @@ ConversionFailure failureOf(ImageWorkerFault fault)
 
 bool archive(const QUrl &source)
 {
-    const QString originals = QDir(folderOf(source)).filePath(QStringLiteral("Originals"));
+    const QString originals = FileOperations::pathIn(folderOf(source), QStringLiteral("Originals"));
     if (FileOperations::createFolder(originals)) {
         return false;
     }
-    std::error_code error;
-    do {
-        const QUrl destination =
-            WorkerConversionEngine::uniqueSourceURL(QUrl::fromLocalFile(originals), source);
-        error = FileOperations::move(source.toLocalFile(), destination.toLocalFile());
-    } while (error == std::errc::file_exists);
-    return !error;
+    const QString fileName = source.fileName();
+    return useFirstFreeName(
+               originals, PhotoFileName::base(fileName), PhotoFileName::extension(fileName),
+               [&source](const QString &path) { return FileOperations::move(source.toLocalFile(), path); })
+        .has_value();
 }
 
 } // namespace
@@ -99,7 +109,6 @@ WorkerConversionEngine::WorkerConversionEngine(std::shared_ptr<ImageWorkerLaunch
     : m_launcher(std::move(launcher))
 {
     m_executor.setMaxThreadCount(1);
-    m_executor.setExpiryTimeout(-1);
 }
 
 WorkerConversionEngine::~WorkerConversionEngine()
@@ -185,31 +194,4 @@ WorkerConversionEngine::render(const QUrl &sourceURL, const ConversionSettings &
         return tl::unexpected(failureOf(written.error()));
     }
     return std::move(*scratch);
-}
-
-tl::expected<QString, std::error_code> WorkerConversionEngine::makeOutputDirectory(const QUrl &sourceURL,
-                                                                                   OutputLocation location)
-{
-    const QString sourceFolder = folderOf(sourceURL);
-    if (location == OutputLocation::alongside) {
-        return sourceFolder;
-    }
-    const QString folder = QDir(sourceFolder).filePath(QStringLiteral("Lumaport"));
-    if (const std::error_code error = FileOperations::createFolder(folder)) {
-        return tl::unexpected(error);
-    }
-    return folder;
-}
-
-QUrl WorkerConversionEngine::uniqueSourceURL(const QUrl &directory, const QUrl &source)
-{
-    const QString fileName = source.fileName();
-    const QString base = PhotoFileName::base(fileName);
-    const QString extension = PhotoFileName::extension(fileName);
-    for (int number = 1;; ++number) {
-        const QString path = QDir(directory.toLocalFile()).filePath(numberedName(base, extension, number));
-        if (!FileOperations::exists(path)) {
-            return QUrl::fromLocalFile(path);
-        }
-    }
 }

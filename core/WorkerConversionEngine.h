@@ -7,7 +7,6 @@
 
 #include <atomic>
 #include <memory>
-#include <system_error>
 
 class ScratchFile;
 
@@ -30,12 +29,6 @@ public:
                  std::function<void(const ConversionOutcome &)> done) override;
     void prepare() override;
 
-    /// The folder that the output goes into, made when it is missing; else the file system's error.
-    static tl::expected<QString, std::error_code> makeOutputDirectory(const QUrl &sourceURL,
-                                                                      OutputLocation location);
-    /// A free name in `directory` for the archived original.
-    static QUrl uniqueSourceURL(const QUrl &directory, const QUrl &source);
-
 private:
     ConversionOutcome convertNow(const QUrl &sourceURL, const ConversionSettings &settings);
     tl::expected<ScratchFile, ConversionFailure> render(const QUrl &sourceURL,
@@ -43,5 +36,5 @@ private:
 
     std::shared_ptr<ImageWorkerLauncher> m_launcher;
     std::atomic<int> m_waiting = 0; ///< accepted conversions that have not started
-    QThreadPool m_executor;         ///< one thread, kept: a worker ends with the thread that started it
+    QThreadPool m_executor;         ///< of one thread, so that conversions never overlap
 };

@@ -141,15 +141,14 @@ private:
 
     // The conversion queue: AppModelQueue.cpp
     void enqueue(const QList<QUrl> &urls);
-    void startConversion(const QUuid &id, const QUrl &sourceURL, const ConversionSettings &settings);
+    void startConversions(const QList<ConversionItem> &accepted, const ConversionSettings &settings);
     void finishConversion(const QUuid &id, const QUrl &sourceURL, const ConversionSettings &settings,
                           const QUrl &outputURL);
     void failConversion(const QUuid &id, const QUrl &sourceURL, const QString &errorMessage);
     void endConversion(const QUrl &sourceURL, ConversionStatus outcome, std::chrono::seconds shownFor);
     ConversionItem *find(const QUuid &id);
     void trimAndSaveItems();
-    void showStatus(std::optional<ConversionStatus> status,
-                    std::optional<std::chrono::milliseconds> clearAfter = {});
+    void showStatus(ConversionStatus status, std::optional<std::chrono::milliseconds> clearAfter = {});
     void setActiveStatus(std::optional<ConversionStatus> status);
 
     // Watching and scanning: AppModelWatching.cpp

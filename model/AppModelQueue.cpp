@@ -6,7 +6,7 @@
 #include "ModelTexts.h"
 #include "NotificationManager.h"
 #include "OpenPanel.h"
-#include "PhotoFileName.h"
+#include "PhotoFile.h"
 #include "WallClock.h"
 #include "Workspace.h"
 
@@ -25,8 +25,7 @@ constexpr auto failureShownFor = 6s;
 void AppModel::convertManually(const QList<QUrl> &urls)
 {
     QList<QUrl> photos;
-    std::copy_if(urls.begin(), urls.end(), std::back_inserter(photos),
-                 [](const QUrl &url) { return PhotoFileName::isHeic(url.fileName()); });
+    std::copy_if(urls.begin(), urls.end(), std::back_inserter(photos), isPhotoFile);
     if (photos.isEmpty()) {
         setLastEventText(ModelTexts::dropPhotosHere());
         return;
@@ -36,40 +35,49 @@ void AppModel::convertManually(const QList<QUrl> &urls)
 
 void AppModel::enqueue(const QList<QUrl> &urls)
 {
+    QList<ConversionItem> accepted;
     for (const QUrl &url : urls) {
         if (m_processingPaths.contains(url.toLocalFile())) {
             continue;
         }
         m_processingPaths.insert(url.toLocalFile());
-        const auto item =
-            ConversionItem::queuedFor(url, ReferenceDate::fromSystemTime(m_services.clock->now()));
-        m_items.prepend(item);
-        trimAndSaveItems();
-        setLastEventText(ModelTexts::landed(url.fileName()));
-        showStatus(ConversionStatus::queued);
-        m_services.engine->prepare();
-        QMetaObject::invokeMethod(
-            this, [this, id = item.id, url, settings = m_settings] { startConversion(id, url, settings); },
-            Qt::QueuedConnection);
+        accepted.append(
+            ConversionItem::queuedFor(url, ReferenceDate::fromSystemTime(m_services.clock->now())));
+        m_items.prepend(accepted.last());
     }
+    if (accepted.isEmpty()) {
+        return;
+    }
+    trimAndSaveItems(); // once for all of a burst: each time may wait for the disk
+    setLastEventText(ModelTexts::landed(accepted.last().sourceName));
+    showStatus(ConversionStatus::queued);
+    m_services.engine->prepare();
+    QMetaObject::invokeMethod(
+        this, [this, accepted, settings = m_settings] { startConversions(accepted, settings); },
+        Qt::QueuedConnection);
 }
 
-void AppModel::startConversion(const QUuid &id, const QUrl &sourceURL, const ConversionSettings &settings)
+void AppModel::startConversions(const QList<ConversionItem> &accepted, const ConversionSettings &settings)
 {
-    if (ConversionItem *item = find(id)) {
-        item->status = ConversionStatus::converting;
-        saveItems();
-        Q_EMIT itemsChanged();
+    for (const ConversionItem &each : accepted) {
+        if (ConversionItem *item = find(each.id)) {
+            item->status = ConversionStatus::converting;
+        }
     }
+    saveItems();
+    Q_EMIT itemsChanged();
     showStatus(ConversionStatus::converting);
-    m_services.engine->convert(sourceURL, settings, this,
-                               [this, id, sourceURL, settings](const ConversionOutcome &outcome) {
-                                   if (outcome) {
-                                       finishConversion(id, sourceURL, settings, outcome->outputURL);
-                                   } else {
-                                       failConversion(id, sourceURL, description(outcome.error()));
-                                   }
-                               });
+    for (const ConversionItem &each : accepted) {
+        m_services.engine->convert(
+            each.sourceURL, settings, this,
+            [this, id = each.id, sourceURL = each.sourceURL, settings](const ConversionOutcome &outcome) {
+                if (outcome) {
+                    finishConversion(id, sourceURL, settings, outcome->outputURL);
+                } else {
+                    failConversion(id, sourceURL, description(outcome.error()));
+                }
+            });
+    }
 }
 
 void AppModel::finishConversion(const QUuid &id, const QUrl &sourceURL, const ConversionSettings &settings,
@@ -133,8 +141,7 @@ void AppModel::trimAndSaveItems()
     Q_EMIT itemsChanged();
 }
 
-void AppModel::showStatus(std::optional<ConversionStatus> status,
-                          std::optional<std::chrono::milliseconds> clearAfter)
+void AppModel::showStatus(ConversionStatus status, std::optional<std::chrono::milliseconds> clearAfter)
 {
     m_statusClearTask.reset();
     setActiveStatus(status);
@@ -169,7 +176,7 @@ int AppModel::readyCount() const
 void AppModel::reveal(const ConversionItem &item)
 {
     if (item.outputURL) {
-        m_services.workspace->reveal(*item.outputURL);
+        m_services.workspace->reveal(*item.outputURL, QString());
     }
 }
 

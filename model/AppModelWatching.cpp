@@ -77,6 +77,7 @@ void AppModel::scanForNewFiles()
     m_knownFiles.removeIf(isGone);
     m_candidates.removeIf(isGone);
 
+    QList<QUrl> settled;
     bool needsSettleCheck = false;
     for (const QUrl &file : files) {
         const QString path = file.toLocalFile();
@@ -89,12 +90,13 @@ void AppModel::scanForNewFiles()
         }
         if (m_candidates.contains(path) && m_candidates.value(path) == *current) {
             m_candidates.remove(path);
-            enqueue({file});
+            settled.append(file);
         } else {
             m_candidates.insert(path, *current);
             needsSettleCheck = true;
         }
     }
+    enqueue(settled);
     if (needsSettleCheck) {
         m_services.engine->prepare();
         scheduleScan(settleCheck);
@@ -133,6 +135,9 @@ void AppModel::chooseWatchFolder()
                                 .prompt = tr("Watch this folder"),
                                 .folder = m_watchFolder},
                                [this](const QList<QUrl> &chosen) {
+                                   if (!chosen.first().isLocalFile()) {
+                                       return; // a folder of another machine, in a panel that offers them
+                                   }
                                    setWatchFolder(chosen.first());
                                    seedKnownFiles();
                                    startMonitoringFolder();

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// The sentences of the status line and of the monitoring control.
+/// The sentences of the status line.
 namespace ModelTexts {
 
 QString waiting();

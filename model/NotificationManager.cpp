@@ -77,7 +77,7 @@ void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
                    .categoryIdentifier = categoryIdentifier(),
                    .payload = {{outputPathKey(), outputURL.toLocalFile()}},
                    .soundName = QStringLiteral("LumaportArrival.wav"),
-                   .imagePath = outputURL.toLocalFile(),
+                   .image = outputURL,
                    .delay = announceDelay});
 }
 
@@ -89,6 +89,6 @@ void NotificationManager::didReceive(const NotificationResponse &response) const
     }
     const QVariant path = response.payload.value(outputPathKey());
     if (path.typeId() == QMetaType::QString) {
-        m_workspace->reveal(QUrl::fromLocalFile(path.toString()));
+        m_workspace->reveal(QUrl::fromLocalFile(path.toString()), response.activationToken);
     }
 }

@@ -41,6 +41,10 @@ public:
 private:
     void storeVariant(const QString &key, const QVariant &value)
     {
+        // After a write that failed the file may hold less than the memory does.
+        if (m_settings.status() == QSettings::NoError && m_settings.value(key) == value) {
+            return;
+        }
         m_settings.setValue(key, value);
         m_settings.sync();
     }

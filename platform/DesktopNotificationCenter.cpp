@@ -6,8 +6,10 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -45,6 +47,12 @@ DesktopNotificationCenter::DesktopNotificationCenter(const QDBusConnection &bus,
                   SLOT(actionInvoked(uint, QString)));
     m_bus.connect(service(), objectPath(), service(), QStringLiteral("NotificationClosed"), this,
                   SLOT(notificationClosed(uint, uint)));
+    m_bus.connect(service(), objectPath(), service(), QStringLiteral("ActivationToken"), this,
+                  SLOT(activationToken(uint, QString)));
+    const auto *watcher =
+        new QDBusServiceWatcher(service(), m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            &DesktopNotificationCenter::forgetService);
 }
 
 DesktopNotificationCenter::~DesktopNotificationCenter() = default;
@@ -64,13 +72,22 @@ void DesktopNotificationCenter::add(const NotificationRequest &request)
     if (!m_bus.isConnected()) {
         return;
     }
-    if (!m_capabilities) {
-        askForCapabilities(); // answered long before the delay is over
-    }
     m_waiting.insert(request.identifier, m_jobs->after(request.delay, [this, request] {
         m_waiting.remove(request.identifier);
-        post(request);
+        postWhenCapabilitiesAreKnown(request);
     }));
+}
+
+void DesktopNotificationCenter::postWhenCapabilitiesAreKnown(const NotificationRequest &request)
+{
+    if (m_capabilities) {
+        post(request);
+        return;
+    }
+    m_due.append(request);
+    if (m_due.size() == 1) {
+        askForCapabilities();
+    }
 }
 
 void DesktopNotificationCenter::askForCapabilities()
@@ -82,6 +99,9 @@ void DesktopNotificationCenter::askForCapabilities()
         if (reply.isValid()) {
             m_capabilities = reply.value();
         }
+        for (const NotificationRequest &request : std::exchange(m_due, {})) {
+            post(request);
+        }
         watcher->deleteLater();
     });
 }
@@ -92,7 +112,7 @@ void DesktopNotificationCenter::post(const NotificationRequest &request)
     const QVariantMap hints{
         {QStringLiteral("desktop-entry"), QStringLiteral("io.lumaport.Lumaport")},
         {QStringLiteral("category"), QStringLiteral("transfer.complete")},
-        {QStringLiteral("image-path"), request.imagePath},
+        {QStringLiteral("image-path"), QString::fromLatin1(request.image.toEncoded())},
         {QStringLiteral("urgency"), QVariant::fromValue<uchar>(1)},
         {QStringLiteral("suppress-sound"), true},
     };
@@ -104,7 +124,7 @@ void DesktopNotificationCenter::post(const NotificationRequest &request)
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request] {
         const QDBusPendingReply<uint> reply = *watcher;
         if (reply.isValid()) {
-            m_shown.insert(reply.value(), request.payload);
+            m_shown.insert(reply.value(), {.payload = request.payload});
             m_chime->play(request.soundName);
         }
         watcher->deleteLater();
@@ -137,13 +157,31 @@ QString DesktopNotificationCenter::bodyOf(const NotificationRequest &request) co
 
 void DesktopNotificationCenter::actionInvoked(uint id, const QString &action)
 {
-    const auto payload = m_shown.constFind(id);
-    if (payload != m_shown.constEnd() && m_handler) {
-        m_handler({.actionIdentifier = action, .payload = *payload});
+    const auto shown = m_shown.constFind(id);
+    if (shown != m_shown.constEnd() && m_handler) {
+        NotificationResponse response = *shown;
+        response.actionIdentifier = action;
+        m_handler(response);
+    }
+}
+
+void DesktopNotificationCenter::activationToken(uint id, const QString &token)
+{
+    // Comes just before the action.
+    const auto shown = m_shown.find(id);
+    if (shown != m_shown.end()) {
+        shown->activationToken = token;
     }
 }
 
 void DesktopNotificationCenter::notificationClosed(uint id, uint /*reason*/)
 {
     m_shown.remove(id);
+}
+
+void DesktopNotificationCenter::forgetService()
+{
+    // The next one counts anew, and may be another program.
+    m_shown.clear();
+    m_capabilities.reset();
 }

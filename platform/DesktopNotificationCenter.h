@@ -31,8 +31,11 @@ public:
 private Q_SLOTS:
     void actionInvoked(uint id, const QString &action);
     void notificationClosed(uint id, uint reason);
+    void activationToken(uint id, const QString &token);
+    void forgetService();
 
 private:
+    void postWhenCapabilitiesAreKnown(const NotificationRequest &request);
     void askForCapabilities();
     void post(const NotificationRequest &request);
     QStringList actionsOf(const QString &categoryIdentifier) const;
@@ -45,5 +48,6 @@ private:
     std::function<void(const NotificationResponse &)> m_handler;
     std::optional<QStringList> m_capabilities;
     QHash<QString, std::shared_ptr<ScheduledJob>> m_waiting; ///< by request identifier
-    QHash<uint, QVariantMap> m_shown;                        ///< payloads by the service's own number
+    QList<NotificationRequest> m_due;                        ///< waiting for the capabilities only
+    QHash<uint, NotificationResponse> m_shown;               ///< what a click gives, by the service's number
 };

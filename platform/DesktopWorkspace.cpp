@@ -1,5 +1,6 @@
 #include "DesktopWorkspace.h"
 
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -7,9 +8,14 @@
 
 namespace {
 
-/// A file manager that has to be started first takes its time; one that hangs must not take the click with
-/// it.
-constexpr int replyTimeoutMilliseconds = 5000;
+/// Whether the answer says that nothing was shown. One that is missing does not: a slow file manager may
+/// still open its window, and a second window would be one too many.
+bool isRefusal(const QDBusError &error)
+{
+    const QList<QDBusError::ErrorType> missing{QDBusError::NoReply, QDBusError::Timeout,
+                                               QDBusError::TimedOut};
+    return error.isValid() && !missing.contains(error.type());
+}
 
 } // namespace
 
@@ -22,7 +28,7 @@ DesktopWorkspace::DesktopWorkspace(const QDBusConnection &bus)
     : m_bus(bus)
 {}
 
-void DesktopWorkspace::reveal(const QUrl &file)
+void DesktopWorkspace::reveal(const QUrl &file, const QString &activationToken)
 {
     if (!m_bus.isConnected()) {
         open(file.adjusted(QUrl::RemoveFilename)); // a call on no bus would never be answered
@@ -31,11 +37,11 @@ void DesktopWorkspace::reveal(const QUrl &file)
     const QString interface = QStringLiteral("org.freedesktop.FileManager1");
     QDBusMessage message = QDBusMessage::createMethodCall(
         interface, QStringLiteral("/org/freedesktop/FileManager1"), interface, QStringLiteral("ShowItems"));
-    message << QStringList{QString::fromLatin1(file.toEncoded())} << QString();
+    message << QStringList{QString::fromLatin1(file.toEncoded())} << activationToken;
 
-    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, replyTimeoutMilliseconds), this);
+    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, file] {
-        if (watcher->isError()) {
+        if (isRefusal(watcher->error())) {
             open(file.adjusted(QUrl::RemoveFilename));
         }
         watcher->deleteLater();

@@ -14,7 +14,7 @@ class DesktopWorkspace : public QObject, public Workspace
 public:
     explicit DesktopWorkspace(const QDBusConnection &bus);
 
-    void reveal(const QUrl &file) override;
+    void reveal(const QUrl &file, const QString &activationToken) override;
     void open(const QUrl &folder) override;
 
 private:

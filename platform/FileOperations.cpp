@@ -36,6 +36,14 @@ std::error_code renameOverReservation(const QByteArray &from, const QByteArray &
     return {};
 }
 
+/// As far as the file system of the copy knows modes and times.
+void keepModeAndTimes(const struct stat &original, const FileDescriptor &copy)
+{
+    const std::array times{original.st_atim, original.st_mtim};
+    ::fchmod(copy.number(), original.st_mode & 07777);
+    ::futimens(copy.number(), times.data());
+}
+
 std::error_code moveAcrossFileSystems(const QString &from, const QString &to)
 {
     const QByteArray source = QFile::encodeName(from);
@@ -51,14 +59,13 @@ std::error_code moveAcrossFileSystems(const QString &from, const QString &to)
     if (const auto error = FileOperations::copyContents(input.number(), copy->descriptor().number())) {
         return error;
     }
-    const std::array times{status.st_atim, status.st_mtim};
-    if (::fchmod(copy->descriptor().number(), status.st_mode & 07777) != 0 ||
-        ::futimens(copy->descriptor().number(), times.data()) != 0) {
-        return FileOperations::lastError();
-    }
+    keepModeAndTimes(status, copy->descriptor());
     if (const auto error = copy->placeAs(to)) {
         return error;
     }
+    // Once more: where the name could not be given by a link, it is borne by a copy of the copy.
+    const QByteArray target = QFile::encodeName(to);
+    keepModeAndTimes(status, FileDescriptor(::open(target.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC)));
     // The photo is whole in both places now; only a failure here would leave it so.
     return ::unlink(source.constData()) == 0 ? std::error_code() : FileOperations::lastError();
 }
@@ -70,6 +77,12 @@ namespace FileOperations {
 std::error_code lastError()
 {
     return {errno, std::generic_category()};
+}
+
+QString pathIn(const QString &folder, const QString &name)
+{
+    // No two slashes at the start: in a URL the second part would be a host.
+    return folder.endsWith(QLatin1Char('/')) ? folder + name : folder + QLatin1Char('/') + name;
 }
 
 bool exists(const QString &path)

@@ -7,6 +7,9 @@
 /// What the engine does with files and folders besides reading photos. Nothing here ever replaces a file.
 namespace FileOperations {
 
+/// The path of `name` in `folder`, whatever the name: QDir takes one that begins with a colon for a resource.
+QString pathIn(const QString &folder, const QString &name);
+
 /// Anything bears this name, a broken link too.
 bool exists(const QString &path);
 

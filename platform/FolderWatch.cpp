@@ -24,6 +24,13 @@ constexpr std::array<std::uint32_t, 11> servedFileSystems = {
     NFS_SUPER_MAGIC, SMB_SUPER_MAGIC, SMB2_SUPER_MAGIC, CIFS_SUPER_MAGIC, FUSE_SUPER_MAGIC, V9FS_MAGIC,
     AFS_SUPER_MAGIC, AFS_FS_MAGIC,    CODA_SUPER_MAGIC, CEPH_SUPER_MAGIC, virtualBoxShare};
 
+/// The last system call's error; one and the same for every limit that may be reached.
+std::error_code lastError()
+{
+    const bool isLimit = errno == EMFILE || errno == ENFILE || errno == ENOSPC || errno == ENOMEM;
+    return {isLimit ? EAGAIN : errno, std::generic_category()};
+}
+
 /// IN_ATTRIB is also sent for the folder's entries; those carry a name, the folder itself does not.
 bool concernsFolder(const inotify_event &event)
 {
@@ -59,16 +66,22 @@ struct FolderWatch::State
     FileDescriptor queue;
     FileDescriptor ending;
     std::function<void()> onChange;
+    bool hasEndedItself = false; ///< from within a report, which was the last one then
 };
 
-std::unique_ptr<FolderWatch> FolderWatch::open(const QByteArray &path, std::function<void()> onChange)
+tl::expected<std::unique_ptr<FolderWatch>, std::error_code> FolderWatch::open(const QByteArray &path,
+                                                                              std::function<void()> onChange)
 {
+    // The slash: a folder, and nothing else, may be read by this path.
+    if (::access((path + '/').constData(), R_OK) != 0) {
+        return tl::unexpected(lastError());
+    }
     FileDescriptor queue(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC));
     FileDescriptor ending(::eventfd(0, EFD_CLOEXEC));
     if (!queue.isOpen() || !ending.isOpen() ||
         ::inotify_add_watch(queue.number(), path.constData(), entryChanges | folderChanges | IN_ONLYDIR) <
             0) {
-        return nullptr;
+        return tl::unexpected(lastError());
     }
     return std::unique_ptr<FolderWatch>(new FolderWatch(std::make_shared<State>(
         State{.queue = std::move(queue), .ending = std::move(ending), .onChange = std::move(onChange)})));
@@ -84,8 +97,11 @@ bool FolderWatch::seesEveryChange(const QByteArray &path)
 
 FolderWatch::FolderWatch(std::shared_ptr<State> state)
     : m_state(std::move(state))
-    , m_thread([state = m_state] { deliverReports(*state); })
+{}
+
+void FolderWatch::resume()
 {
+    m_thread = std::thread([state = m_state] { deliverReports(*state); });
     ::pthread_setname_np(m_thread.native_handle(), "folder-monitor");
 }
 
@@ -93,13 +109,14 @@ FolderWatch::~FolderWatch()
 {
     ::eventfd_write(m_state->ending.number(), 1);
     if (m_thread.get_id() == std::this_thread::get_id()) {
+        m_state->hasEndedItself = true;
         m_thread.detach(); // called from within a report: the thread ends, and closes, by itself
-    } else {
+    } else if (m_thread.joinable()) {
         m_thread.join();
     }
 }
 
-void FolderWatch::deliverReports(const State &state)
+void FolderWatch::deliverReports(State &state)
 {
     std::array<pollfd, 2> waiting{{{.fd = state.queue.number(), .events = POLLIN, .revents = 0},
                                    {.fd = state.ending.number(), .events = POLLIN, .revents = 0}}};
@@ -113,7 +130,7 @@ void FolderWatch::deliverReports(const State &state)
         if (drain(state.queue)) {
             state.onChange();
         }
-        if (waiting[1].revents != 0) {
+        if (state.hasEndedItself || waiting[1].revents != 0) {
             return;
         }
     }

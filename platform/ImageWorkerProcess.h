@@ -26,7 +26,8 @@ private:
 
     /// Waits until the worker has said that it is locked down; only then it may be handed anything.
     tl::expected<void, ImageWorkerFault> awaitLockDown();
-    /// Asks and waits; a child that answers nonsense, nothing or too late is ended, and the photo Unreadable.
+    /// Asks and waits. A child whose answer is no record, or does not come within `limit`, is ended, and the
+    /// photo is Unreadable.
     tl::expected<Reply, ImageWorkerFault> ask(const imageworkerwire::Request &request,
                                               const FileDescriptor &file, std::chrono::milliseconds limit);
     std::chrono::milliseconds writeLimit() const;

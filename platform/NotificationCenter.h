@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QUrl>
 #include <QVariantMap>
 
 #include <chrono>
@@ -30,7 +31,7 @@ struct NotificationRequest
     QString categoryIdentifier;
     QVariantMap payload; ///< comes back with the response
     QString soundName;   ///< a sound file shipped with the application
-    QString imagePath;   ///< a picture for the notification, where the desktop shows one
+    QUrl image;          ///< a picture for the notification, where the desktop shows one
     std::chrono::milliseconds delay{};
 };
 
@@ -39,6 +40,7 @@ struct NotificationResponse
 {
     QString actionIdentifier; ///< `NotificationCenter::defaultAction` for the notification itself
     QVariantMap payload;
+    QString activationToken; ///< lets the window that the click opens come to the front; may be empty
 };
 
 /// The desktop's notifications. Everything here is silent where there is no notification service or no sound.

@@ -24,6 +24,7 @@ public:
         m_dialog = new QFileDialog(nullptr, request.title);
         m_dialog->setAttribute(Qt::WA_DeleteOnClose);
         m_dialog->setWindowModality(Qt::ApplicationModal);
+        m_dialog->setSupportedSchemes({QStringLiteral("file")});
         m_dialog->setLabelText(QFileDialog::Accept, request.prompt);
         if (request.choice == OpenPanelRequest::Choice::oneFolder) {
             m_dialog->setFileMode(QFileDialog::Directory);

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -31,12 +32,26 @@ std::error_code giveName(const FileDescriptor &file, const QByteArray &path)
     return linked == 0 ? std::error_code() : FileOperations::lastError();
 }
 
+bool bearsName(const FileDescriptor &file, const QByteArray &path)
+{
+    struct stat opened = {};
+    struct stat named = {};
+    return ::fstat(file.number(), &opened) == 0 && ::lstat(path.constData(), &named) == 0 &&
+           opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
+}
+
 /// A hidden file for the while of copying. What an end of the process left under this name is taken over.
 tl::expected<FileDescriptor, std::error_code> openPart(const QByteArray &path)
 {
-    FileDescriptor part(::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666));
-    if (!part.isOpen() || ::flock(part.number(), LOCK_EX | LOCK_NB) != 0 ||
-        ::ftruncate(part.number(), 0) != 0) {
+    FileDescriptor part;
+    do {
+        part = FileDescriptor(::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666));
+        if (!part.isOpen() || ::flock(part.number(), LOCK_EX | LOCK_NB) != 0) {
+            return tl::unexpected(FileOperations::lastError());
+        }
+        // Before the lock was taken, another process may have finished this very file and renamed it.
+    } while (!bearsName(part, path));
+    if (::ftruncate(part.number(), 0) != 0) {
         return tl::unexpected(FileOperations::lastError());
     }
     return part;

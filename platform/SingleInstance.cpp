@@ -50,7 +50,7 @@ bool SingleInstance::claim()
     return m_isClaimed;
 }
 
-void SingleInstance::forward(const QList<QUrl> &files) const
+bool SingleInstance::forward(const QList<QUrl> &files) const
 {
     const QString method = files.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open");
     QDBusMessage message = QDBusMessage::createMethodCall(
@@ -69,7 +69,7 @@ void SingleInstance::forward(const QList<QUrl> &files) const
         platformData.insert(QStringLiteral("activation-token"), token);
     }
     message << platformData;
-    m_bus.call(message);
+    return m_bus.call(message).type() == QDBusMessage::ReplyMessage;
 }
 
 void SingleInstance::Activate(const QVariantMap &platformData)

@@ -20,8 +20,9 @@ public:
     /// True when this process is the first, or when there is no bus to ask.
     bool claim();
 
-    /// Asks the first process to show its window, with the files that this one was given; waits until it has.
-    void forward(const QList<QUrl> &files) const;
+    /// Asks the first process to show its window, with the files that this one was given, and waits until it
+    /// has. False when it did not: it may have been on its way out.
+    bool forward(const QList<QUrl> &files) const;
 
     // NOLINTBEGIN(readability-identifier-naming): the names on the bus.
 public Q_SLOTS:

@@ -29,6 +29,13 @@ struct StatusMenuEntry
     bool isEnabled = true;
     std::optional<bool> isChecked; ///< one choice of several, marked while it holds
     std::function<void()> action;
+
+    /// Equal in all but the action, which does not show.
+    bool looksLike(const StatusMenuEntry &other) const
+    {
+        return kind == other.kind && title == other.title && isEnabled == other.isEnabled &&
+               isChecked == other.isChecked;
+    }
 };
 
 /// The application's icon in the desktop's panel. Without any tray it shows nowhere, until one comes.

@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 
-#include <algorithm>
+#include <numeric>
 
 namespace {
 
@@ -53,7 +53,7 @@ StatusNotifierMenuProperties
 StatusNotifierMenu::GetGroupProperties(const QList<int> &ids, const QStringList & /*propertyNames*/) const
 {
     StatusNotifierMenuProperties properties;
-    for (const int id : ids) {
+    for (const int id : ids.isEmpty() ? allIds() : ids) {
         if (id == rootId || find(id) != nullptr) {
             properties.append({.id = id, .properties = propertiesOf(id)});
         }
@@ -98,6 +98,13 @@ QList<int> StatusNotifierMenu::AboutToShowGroup(const QList<int> & /*ids*/, QLis
 {
     idErrors.clear();
     return {};
+}
+
+QList<int> StatusNotifierMenu::allIds() const
+{
+    QList<int> ids(m_entries.size() + 1);
+    std::iota(ids.begin(), ids.end(), rootId);
+    return ids;
 }
 
 const StatusMenuEntry *StatusNotifierMenu::find(int id) const

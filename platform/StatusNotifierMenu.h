@@ -34,6 +34,7 @@ public:
 public Q_SLOTS:
     uint GetLayout(int parentId, int recursionDepth, const QStringList &propertyNames,
                    StatusNotifierMenuNode &layout) const;
+    /// Of all entries, when `ids` is empty.
     StatusNotifierMenuProperties GetGroupProperties(const QList<int> &ids,
                                                     const QStringList &propertyNames) const;
     QDBusVariant GetProperty(int id, const QString &name) const;
@@ -47,6 +48,7 @@ Q_SIGNALS:
     // NOLINTEND(readability-identifier-naming)
 
 private:
+    QList<int> allIds() const;
     const StatusMenuEntry *find(int id) const;
     StatusNotifierMenuNode nodeOf(int id) const;
     QVariantMap propertiesOf(int id) const;

@@ -23,8 +23,11 @@ void applyWidgetPalette(SystemAppearance::ColorScheme scheme)
     const QColor darkWindow(0x17, 0x1C, 0x30);
     const QColor lightButton(0xFF, 0xFF, 0xFF);
     const QColor lightWindow(0xF5, 0xF8, 0xFF);
-    QGuiApplication::setPalette(wantsDark ? QPalette(darkButton, darkWindow)
-                                          : QPalette(lightButton, lightWindow));
+    QPalette palette = wantsDark ? QPalette(darkButton, darkWindow) : QPalette(lightButton, lightWindow);
+    // Qt derives every colour but those of tool tips, which it leaves yellow.
+    palette.setColor(QPalette::ToolTipBase, palette.color(QPalette::Window));
+    palette.setColor(QPalette::ToolTipText, palette.color(QPalette::WindowText));
+    QGuiApplication::setPalette(palette);
 }
 
 } // namespace
@@ -53,10 +56,9 @@ void SystemAppearance::force(std::optional<ColorScheme> scheme)
 void SystemAppearance::update()
 {
     const ColorScheme effective = m_forced.value_or(m_system);
-    if (m_effective == effective) {
-        return;
+    applyWidgetPalette(effective); // also when it stays: the desktop's own palette may be another
+    if (m_effective != effective) {
+        m_effective = effective;
+        Q_EMIT darkChanged();
     }
-    m_effective = effective;
-    applyWidgetPalette(effective);
-    Q_EMIT darkChanged();
 }

@@ -8,8 +8,7 @@
 ///
 /// It starts light and with full motion, which is also what holds where no desktop says anything. Whoever
 /// knows the desktop's wishes hands them in (see SettingsPortal); a forced scheme goes before them.
-/// Every change of the effective scheme also sets the application's widget palette, so that
-/// file dialogs and menus follow.
+/// The application's widget palette is set with it, so that file dialogs and menus follow.
 class SystemAppearance : public QObject
 {
     Q_OBJECT

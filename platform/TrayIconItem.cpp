@@ -1,5 +1,6 @@
 #include "TrayIconItem.h"
 
+#include <QActionGroup>
 #include <QIcon>
 #include <QMenu>
 #include <QPixmap>
@@ -8,6 +9,7 @@
 TrayIconItem::TrayIconItem(QObject *parent)
     : StatusItem(parent)
     , m_menu(std::make_unique<QMenu>())
+    , m_choices(std::make_unique<QActionGroup>(nullptr))
     , m_icon(std::make_unique<QSystemTrayIcon>())
 {
     m_icon->setContextMenu(m_menu.get());
@@ -35,18 +37,37 @@ void TrayIconItem::setLook(const StatusItemLook &look)
 
 void TrayIconItem::setMenu(const QList<StatusMenuEntry> &entries)
 {
-    m_menu->clear();
-    for (const StatusMenuEntry &entry : entries) {
-        if (entry.kind == StatusMenuEntry::Kind::separator) {
-            m_menu->addSeparator();
-        } else {
-            QAction *action = m_menu->addAction(entry.title);
-            action->setEnabled(entry.isEnabled);
-            action->setCheckable(entry.isChecked.has_value());
-            action->setChecked(entry.isChecked.value_or(false));
-            connect(action, &QAction::triggered, this, entry.action);
-        }
+    m_entries = entries;
+    // The menu may be open: its lines change in place.
+    while (m_menu->actions().size() > entries.size()) {
+        delete m_menu->actions().constLast();
     }
+    while (m_menu->actions().size() < entries.size()) {
+        addLine();
+    }
+    for (qsizetype line = 0; line < entries.size(); ++line) {
+        show(entries.at(line), *m_menu->actions().at(line));
+    }
+}
+
+void TrayIconItem::addLine()
+{
+    const qsizetype line = m_menu->actions().size();
+    connect(m_menu->addAction(QString()), &QAction::triggered, this, [this, line] {
+        if (const auto action = m_entries.at(line).action) { // a copy: it may change the entries
+            action();
+        }
+    });
+}
+
+void TrayIconItem::show(const StatusMenuEntry &entry, QAction &line)
+{
+    line.setSeparator(entry.kind == StatusMenuEntry::Kind::separator);
+    line.setText(entry.title);
+    line.setEnabled(entry.isEnabled);
+    line.setCheckable(entry.isChecked.has_value());
+    line.setActionGroup(entry.isChecked ? m_choices.get() : nullptr);
+    line.setChecked(entry.isChecked.value_or(false));
 }
 
 std::optional<QRect> TrayIconItem::place() const

@@ -2,10 +2,13 @@
 
 #include "StatusItem.h"
 
+class QAction;
+class QActionGroup;
 class QMenu;
 class QSystemTrayIcon;
 
-/// A status item in an XEmbed tray. Shown without one, it waits for one to come.
+/// A status item in an XEmbed tray. Shown without one, it waits for one to come. These trays show a picture
+/// and a tooltip: there is no way to give the icon an accessibility label of its own.
 class TrayIconItem : public StatusItem
 {
     Q_OBJECT
@@ -19,6 +22,11 @@ public:
     std::optional<QRect> place() const override;
 
 private:
+    void addLine();
+    void show(const StatusMenuEntry &entry, QAction &line);
+
+    QList<StatusMenuEntry> m_entries;
     std::unique_ptr<QMenu> m_menu;
+    std::unique_ptr<QActionGroup> m_choices; ///< one of them holds
     std::unique_ptr<QSystemTrayIcon> m_icon;
 };

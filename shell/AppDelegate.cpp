@@ -11,6 +11,8 @@
 
 #include <QGuiApplication>
 
+#include <algorithm>
+
 AppDelegate::AppDelegate(QQmlEngine &engine, std::shared_ptr<JobScheduler> jobs,
                          StatusItemMaker makeStatusItem)
     : m_engine(engine)
@@ -35,9 +37,10 @@ void AppDelegate::configureMenuBar(AppModel &model, std::function<void()> openMa
     m_statusItem = m_makeStatusItem();
     m_panelController = std::make_unique<MenuBarViewController>(
         model, MenuBarViewController::Actions{.openMain = [this] { openMainFromPanel(); },
-                                              .quit = [] { QCoreApplication::quit(); }});
+                                              .quit = &QCoreApplication::quit});
     m_popover = std::make_unique<PanelWindow>(m_engine, *m_panelController, m_jobs);
-    connect(m_statusItem.get(), &StatusItem::activated, this, &AppDelegate::togglePopover);
+    connect(m_statusItem.get(), &StatusItem::activated, this,
+            [this] { m_popover->toggleByClick(m_statusItem->place()); });
 
     updateMenuIcon(model);
     updateMenu(model);
@@ -63,9 +66,14 @@ void AppDelegate::updateMenuIcon(const AppModel &model)
 
 void AppDelegate::updateMenu(AppModel &model)
 {
-    m_statusItem->setMenu(StatusMenu::entries(model, {.showQuickPanel = [this] { togglePopover(); },
-                                                      .openMain = [this] { openMainFromPanel(); },
-                                                      .quit = [] { QCoreApplication::quit(); }}));
+    const auto menu = StatusMenu::entries(model, {.showQuickPanel = [this] { togglePopover(); },
+                                                  .openMain = [this] { openMainFromPanel(); },
+                                                  .quit = &QCoreApplication::quit});
+    // It may be open: it is touched only for what shows.
+    if (!std::ranges::equal(menu, m_menu, &StatusMenuEntry::looksLike)) {
+        m_menu = menu;
+        m_statusItem->setMenu(menu);
+    }
 }
 
 void AppDelegate::openMainFromPanel()

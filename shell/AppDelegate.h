@@ -1,6 +1,7 @@
 #pragma once
 
 #include "MenuIcon.h"
+#include "StatusItem.h"
 
 #include <QObject>
 
@@ -13,7 +14,6 @@ class MenuBarViewController;
 class NotificationManager;
 class PanelWindow;
 class QQmlEngine;
-class StatusItem;
 
 /// Owns the status item and its panel, and keeps the item in step with the model.
 class AppDelegate : public QObject
@@ -55,4 +55,5 @@ private:
     std::unique_ptr<MenuBarViewController> m_panelController;
     std::unique_ptr<PanelWindow> m_popover;
     MenuIcon m_icon;
+    QList<StatusMenuEntry> m_menu;
 };

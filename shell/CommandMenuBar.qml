@@ -3,7 +3,8 @@ import QtQuick.Controls.Basic
 import Lumaport.Shell
 import Lumaport.Vocabulary
 
-// The menu bar of the main window.
+// The menu bar of the main window. F10 opens its first menu and Alt with the underlined letter each of them; the arrows
+// lead from there.
 MenuBar {
     id: bar
 
@@ -14,6 +15,8 @@ MenuBar {
     delegate: MenuBarItem {
         id: heading
 
+        Accessible.name: text.replace("&", "")
+        Accessible.onPressAction: heading.clicked()
         font.pixelSize: 12
         horizontalPadding: 10
         verticalPadding: 6
@@ -24,7 +27,8 @@ MenuBar {
         contentItem: BodyText {
             Accessible.ignored: true
             font: heading.font
-            text: heading.text
+            text: heading.text.replace(/&(.)/, "<u>$1</u>")
+            textFormat: Text.StyledText
         }
     }
 
@@ -32,8 +36,13 @@ MenuBar {
         color: LumaportPalette.panel
     }
 
+    Shortcut {
+        sequence: "F10"
+        onActivated: (bar.itemAt(0) as MenuBarItem).clicked()
+    }
+
     CommandMenu {
-        title: qsTr("File")
+        title: qsTr("&File")
 
         CommandMenuItem {
             keys: "Ctrl+W"
@@ -50,7 +59,7 @@ MenuBar {
     }
 
     CommandMenu {
-        title: qsTr("Convert")
+        title: qsTr("&Convert")
 
         CommandMenuItem {
             keys: "Ctrl+Shift+M"
@@ -77,7 +86,7 @@ MenuBar {
     }
 
     CommandMenu {
-        title: qsTr("Window")
+        title: qsTr("&Window")
 
         CommandMenuItem {
             text: qsTr("Use Recommended Window Size")

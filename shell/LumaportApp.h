@@ -21,7 +21,7 @@ public:
     ~LumaportApp();
 
 private:
-    // In the order of making; what is below uses what is above.
+    // What is below uses what is above, and ends before it.
     std::shared_ptr<SystemAppearance> m_appearance;
     std::unique_ptr<SettingsPortal> m_portal;
     std::unique_ptr<AppModel> m_model;

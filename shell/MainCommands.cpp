@@ -2,6 +2,7 @@
 
 #include "AppDelegate.h"
 #include "AppModel.h"
+#include "WatchingCommand.h"
 
 #include <QGuiApplication>
 #include <QWindow>
@@ -19,7 +20,7 @@ MainCommands::MainCommands(AppModel &model, AppDelegate &delegate, MainWindowLay
 
 QString MainCommands::watchingTitle() const
 {
-    return m_model.isWatching() ? tr("Pause Watching") : tr("Resume Watching");
+    return WatchingCommand::title(m_model);
 }
 
 void MainCommands::showQuickPanel()
@@ -39,7 +40,7 @@ void MainCommands::convertExistingFiles()
 
 void MainCommands::toggleWatching()
 {
-    m_model.setIsWatching(!m_model.isWatching());
+    WatchingCommand::perform(m_model);
 }
 
 void MainCommands::useRecommendedWindowSize() const

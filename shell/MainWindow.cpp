@@ -29,7 +29,13 @@ MainWindow::MainWindow(QQmlEngine &engine, const QVariantMap &initialProperties,
     , m_placement(std::make_unique<MainWindowPlacement>(*m_window, std::move(layout), std::move(jobs)))
 {}
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // The end of the program closes no window. While it is whole, this one closes as a user would close it,
+    // so that what it shows ends in order; its placement first saves the frame of a window that still shows.
+    m_placement.reset();
+    m_window->hide();
+}
 
 void MainWindow::open()
 {

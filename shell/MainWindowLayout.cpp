@@ -1,6 +1,7 @@
 #include "MainWindowLayout.h"
 
 #include "DefaultsStore.h"
+#include "ScreenArea.h"
 
 #include <QGuiApplication>
 #include <QQuickItem>
@@ -62,7 +63,14 @@ void MainWindowLayout::apply(QWindow &window, SavedFrame savedFrame) const
         return;
     }
     const QRect frame = place(screen->availableGeometry(), frameSize, origin);
-    window.setWindowStates(window.windowStates() & ~Qt::WindowMaximized);
+    if (window.windowStates().testFlag(Qt::WindowMaximized)) {
+        // Its decoration is another one once the desktop has let go of it, which shows in its width.
+        QObject::connect(
+            &window, &QWindow::widthChanged, &window,
+            [layout = *this, savedFrame, &window] { layout.apply(window, savedFrame); },
+            Qt::SingleShotConnection);
+        window.setWindowStates(window.windowStates() & ~Qt::WindowMaximized);
+    }
     window.resize(frame.size().shrunkBy(decoration));
     window.setFramePosition(frame.topLeft());
 }
@@ -94,11 +102,7 @@ QRect MainWindowLayout::place(const QRect &visibleFrame, const QSize &frameSize,
     if (origin) {
         frame.moveTopLeft(*origin);
     }
-    const int lastX = area.right() - frame.width() + 1;
-    const int lastY = area.bottom() - frame.height() + 1;
-    frame.moveTo(std::max(area.left(), std::min(lastX, frame.x())),
-                 std::max(area.top(), std::min(lastY, frame.y())));
-    return frame;
+    return movedInto(area, frame);
 }
 
 std::optional<qsizetype> MainWindowLayout::screenOf(const QRect &frame, const QList<QRect> &screens)

@@ -11,6 +11,7 @@ Rectangle {
     required property MenuBarViewController controller
 
     readonly property int padding: 18
+    readonly property int spacing: 12 // at least, between what stands side by side
 
     Accessible.name: qsTr("Lumaport")
     Accessible.role: Accessible.Pane
@@ -29,16 +30,22 @@ Rectangle {
         y: view.padding
 
         Row {
+            id: header
+
             objectName: "header"
             spacing: 11
+            width: parent.width
 
             BrandMark {
+                id: mark
+
                 size: 38
             }
 
             Column {
                 anchors.verticalCenter: parent.verticalCenter
                 spacing: 5
+                width: header.width - mark.width - header.spacing
 
                 BodyText {
                     font.weight: Font.DemiBold
@@ -50,6 +57,8 @@ Rectangle {
                     color: LumaportPalette.muted
                     size: 11
                     text: qsTr("Your photo companion")
+                    width: parent.width
+                    wrapMode: Text.Wrap
                 }
             }
         }
@@ -66,6 +75,8 @@ Rectangle {
             symbol: "arrow.triangle.2.circlepath"
             text: qsTr("Converting photos on this Mac")
             visible: AppModel.isBusy
+            width: parent.width
+            wrapMode: Text.Wrap
         }
 
         BodyText {
@@ -93,10 +104,15 @@ Rectangle {
             BodyText {
                 id: formatCaption
 
+                anchors.left: parent.left
+                anchors.right: formatControl.left
+                anchors.rightMargin: view.spacing
                 anchors.verticalCenter: parent.verticalCenter
                 color: LumaportPalette.muted
+                objectName: "formatCaption"
                 size: 11
                 text: qsTr("Convert to")
+                wrapMode: Text.Wrap
             }
 
             FormatControl {
@@ -127,6 +143,8 @@ Rectangle {
                 anchors.verticalCenter: parent.verticalCenter
                 objectName: "openButton"
                 text: qsTr("Open Lumaport")
+                width: Math.min(implicitWidth, quitButton.x - view.spacing)
+                wrapMode: Text.Wrap
                 onClicked: view.controller.openMain()
 
                 InteractionFeedback {

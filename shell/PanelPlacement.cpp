@@ -1,19 +1,19 @@
 #include "PanelPlacement.h"
 
-#include <algorithm>
+#include "ScreenArea.h"
 
 QRect PanelPlacement::place(const QSize &panel, const std::optional<QRect> &item, const QRect &available)
 {
     const QRect area = available.marginsRemoved({gap, gap, gap, gap});
-    const int lastX = area.right() - panel.width() + 1;
-    const int lastY = area.bottom() - panel.height() + 1;
-    QPoint corner(lastX, area.top());
-    if (item) {
-        const int below = item->bottom() + 1 + gap;
-        const int above = item->top() - gap - panel.height();
-        corner = {item->center().x() - panel.width() / 2, below <= lastY ? below : above};
+    QRect frame(QPoint(), panel);
+    if (!item) {
+        frame.moveTopRight(area.topRight());
+        return movedInto(area, frame);
     }
-    return {QPoint(std::max(area.left(), std::min(lastX, corner.x())),
-                   std::max(area.top(), std::min(lastY, corner.y()))),
-            panel};
+    frame.moveTop(item->bottom() + 1 + gap);
+    if (frame.bottom() > area.bottom()) {
+        frame.moveBottom(item->top() - 1 - gap);
+    }
+    frame.moveLeft(item->center().x() - panel.width() / 2);
+    return movedInto(area, frame);
 }

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QScreen>
 
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -42,10 +44,17 @@ void PanelWindow::toggle(const std::optional<QRect> &item)
 {
     if (isVisible()) {
         dismiss();
-    } else if (!m_justLostFocus) {
+    } else {
         open(item);
     }
     m_justLostFocus.reset();
+}
+
+void PanelWindow::toggleByClick(const std::optional<QRect> &item)
+{
+    if (!std::exchange(m_justLostFocus, {})) {
+        toggle(item);
+    }
 }
 
 void PanelWindow::open(const std::optional<QRect> &item)

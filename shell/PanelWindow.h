@@ -20,9 +20,11 @@ public:
     PanelWindow(QQmlEngine &engine, MenuBarViewController &controller, std::shared_ptr<JobScheduler> jobs);
     ~PanelWindow() override;
 
-    /// Opens the panel at the status item's place, or closes it. The click that closes a panel by going
-    /// elsewhere does not open it again when it was on the status item.
+    /// Opens the panel at the status item's place, or closes it.
     void toggle(const std::optional<QRect> &item);
+    /// Does so for a click on the status item. When that same click has just closed the panel, by taking the
+    /// focus from it, it does not open it again.
+    void toggleByClick(const std::optional<QRect> &item);
     void dismiss();
 
 protected:

@@ -1,6 +1,7 @@
 #include "StatusMenu.h"
 
 #include "AppModel.h"
+#include "WatchingCommand.h"
 
 #include <QCoreApplication>
 
@@ -26,9 +27,9 @@ StatusMenuEntry monitoring(AppModel &model)
     if (!model.monitorAvailable()) {
         return command(QT_TRANSLATE_NOOP("StatusMenu", "Retry"), [&model] { model.retryMonitoring(); });
     }
-    return command(model.isWatching() ? QT_TRANSLATE_NOOP("StatusMenu", "Pause Watching")
-                                      : QT_TRANSLATE_NOOP("StatusMenu", "Resume Watching"),
-                   [&model] { model.setIsWatching(!model.isWatching()); });
+    return {.title = WatchingCommand::title(model), .isChecked = {}, .action = [&model] {
+                WatchingCommand::perform(model);
+            }};
 }
 
 StatusMenuEntry revealing(AppModel &model)

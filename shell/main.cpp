@@ -24,12 +24,14 @@ void chooseRenderer()
     }
 }
 
+constexpr int mostUnanswered = 3;
+
 } // namespace
 
 int main(int argc, char **argv)
 {
     QApplication::setApplicationName(QStringLiteral("lumaport"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Lumaport"));
+    // No display name: Qt would append it to the title of every window.
     QApplication::setDesktopFileName(QStringLiteral("io.lumaport.Lumaport"));
     QApplication::setApplicationVersion(QStringLiteral(LUMAPORT_VERSION));
     const QApplication application(argc, argv);
@@ -45,9 +47,16 @@ int main(int argc, char **argv)
         files.append(QUrl::fromUserInput(argument, QDir::currentPath(), QUrl::AssumeLocalFile));
     }
     SingleInstance instance(QDBusConnection::sessionBus());
-    if (!instance.claim()) {
-        instance.forward(files);
-        return 0;
+    int unanswered = 0;
+    while (!instance.claim()) {
+        if (instance.forward(files)) {
+            return 0;
+        }
+        // The first process was on its way out, and this one takes its place unless another does; or it
+        // hangs.
+        if (++unanswered == mostUnanswered) {
+            return 1;
+        }
     }
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::received, &application, &QApplication::quit);

@@ -2,7 +2,7 @@ import QtQuick
 import Lumaport.Interaction
 import Lumaport.Views
 
-// The switch between light and dark.
+// The switch between the system's appearance, light and dark.
 SegmentedControl {
     Accessible.name: qsTr("Appearance")
     dampingFraction: 0.72

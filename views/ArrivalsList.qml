@@ -41,6 +41,7 @@ ColumnLayout {
             enabled: controller.canClear
             help: qsTr("Removes history only. Your photos are kept.")
             objectName: "clearHistory"
+            rightPadding: 0
             text: qsTr("Clear history")
             visible: !controller.isEmpty
             onClicked: AppModel.clearHistory()

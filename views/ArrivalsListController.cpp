@@ -1,5 +1,7 @@
 #include "ArrivalsListController.h"
 
+#include "ConversionItemTexts.h"
+
 void ArrivalsListController::setModel(AppModel *model)
 {
     if (m_model == model) {
@@ -17,17 +19,17 @@ void ArrivalsListController::setModel(AppModel *model)
 
 bool ArrivalsListController::canClear() const
 {
-    return m_model && !m_model->isBusy();
+    return m_model && !isEmpty() && !m_model->isBusy();
 }
 
 QString ArrivalsListController::readyText() const
 {
-    return tr("%1 ready").arg(m_model ? m_model->readyCount() : 0);
+    return ConversionItemTexts::readyText(m_model ? m_model->readyCount() : 0);
 }
 
 QString ArrivalsListController::emptyHint() const
 {
-    const QUrl folder = m_model ? m_model->watchFolder().adjusted(QUrl::StripTrailingSlash) : QUrl();
+    const QUrl folder = m_model ? m_model->watchFolder() : QUrl();
     return tr("AirDrop into %1, or choose a HEIC photo above.").arg(folder.fileName());
 }
 

@@ -26,7 +26,7 @@ public:
 
     ArrivalsListModel *arrivals() { return &m_arrivals; }
     bool isEmpty() const { return m_arrivals.rowCount() == 0; }
-    /// Not while a conversion is running.
+    /// There is something to clear, and no conversion is running.
     bool canClear() const;
     QString readyText() const;
     /// Where the next photo is to go, while there is none.

@@ -17,13 +17,20 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto frameInterval = 33ms; // 30 frames a second
-constexpr QRgb cyan = 0x55BEF0;      // between the cobalt before and the coral after it, as light as both
+constexpr QRgb cyan = 0x55BEF0; // a usual system cyan: there is no such colour to ask a Linux desktop for
 
 struct Drop
 {
     QColor color;
     double phase; ///< radians
 };
+
+/// The user works with the window. One that was hidden or minimised may call itself active for a while.
+bool isAttended(const QQuickWindow *window)
+{
+    return window && window->isActive() && window->visibility() != QWindow::Hidden &&
+           window->visibility() != QWindow::Minimized;
+}
 
 } // namespace
 
@@ -73,18 +80,20 @@ void ConversionFluid::itemChange(ItemChange change, const ItemChangeData &data)
 
 void ConversionFluid::follow(QQuickWindow *window)
 {
-    disconnect(m_visibility);
+    if (m_window) {
+        m_window->disconnect(this);
+    }
+    m_window = window;
     if (window) {
-        m_visibility = connect(window, &QWindow::visibilityChanged, this, &ConversionFluid::updateMotion);
+        connect(window, &QWindow::visibilityChanged, this, &ConversionFluid::updateMotion);
+        connect(window, &QWindow::activeChanged, this, &ConversionFluid::updateMotion);
     }
 }
 
 void ConversionFluid::updateMotion()
 {
     const bool wanted = m_active && !m_reduceMotion;
-    const bool seen = isVisible() && window() && window()->visibility() != QWindow::Hidden &&
-                      window()->visibility() != QWindow::Minimized;
-    const bool moving = wanted && seen;
+    const bool moving = wanted && isVisible() && isAttended(m_window);
     if (!wanted) {
         setTime(0.0);
     }

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QBasicTimer>
+#include <QPointer>
 #include <QQuickPaintedItem>
+#include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
 
 /// A disc of moving colour that stands for a conversion in progress. It moves, at 30 frames a second, only
-/// while it is active, motion is wanted and its window can be seen; else it is still and costs nothing.
+/// while it is active, motion is wanted and the user is at its window; else it is still and costs nothing.
 class ConversionFluid : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -48,5 +50,5 @@ private:
     bool m_reduceMotion = false;
     double m_time = 0.0;
     QBasicTimer m_timer;
-    QMetaObject::Connection m_visibility; ///< of the window that the item is in
+    QPointer<QQuickWindow> m_window; ///< the one that the item is in
 };

@@ -22,9 +22,10 @@ Column {
         width: parent.width
     }
 
-    // One workspace fades into the other, and the room for them goes from the height of one to that of the other.
+    // One workspace fades into the other, and there is room for both meanwhile. The landing workspace is covered rather
+    // than made transparent: what overlaps on its stage would show through.
     Item {
-        height: landing.height + (history.height - landing.height) * switching.value
+        height: Math.max(landing.visible ? landing.height : 0, history.visible ? history.height : 0)
         width: parent.width
 
         SpringValue {
@@ -41,18 +42,25 @@ Column {
             compact: column.compact
             controller: column.controller
             enabled: !column.controller.showingHistory
-            opacity: 1 - switching.value
             stageHeight: column.stageHeight
-            visible: opacity > 0
+            visible: switching.value < 1
             width: parent.width
+        }
+
+        Rectangle {
+            anchors.fill: parent
+            color: LumaportPalette.night
+            opacity: switching.value
+            visible: landing.visible
         }
 
         Loader {
             id: history
 
-            active: switching.value > 0
+            active: column.controller.showingHistory || switching.moving
             enabled: column.controller.showingHistory
             opacity: switching.value
+            visible: opacity > 0
             width: parent.width
 
             sourceComponent: ArrivalsList {
@@ -64,8 +72,15 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         color: LumaportPalette.muted
         font.pixelSize: 11
+        opacity: switching.moving ? 0 : 1 // it does not run across what fades
         spacing: 7
         symbol: "lock.shield"
         text: qsTr("Private by design. Converted on your Mac.")
+
+        Behavior on opacity {
+            EasedAnimation {
+                span: 120
+            }
+        }
     }
 }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import Lumaport.Views
 import Lumaport.Vocabulary
 import Lumaport.Welcome
@@ -16,12 +15,8 @@ Item {
     readonly property bool compact: controller.isCompact(workspace.height)
 
     Behavior on optionsShown {
-        enabled: !SystemAppearance.reduceMotion
-
-        NumberAnimation {
-            duration: 220
-            easing.bezierCurve: [0.42, 0, 0.58, 1, 1, 1]
-            easing.type: Easing.BezierSpline
+        EasedAnimation {
+            span: 220
         }
     }
 
@@ -36,15 +31,19 @@ Item {
         id: content
 
         anchors.fill: parent
+        enabled: !view.controller.showsWelcome
         opacity: view.controller.showsWelcome ? 0 : 1
         visible: !view.controller.showsWelcome
 
         Behavior on opacity {
-            enabled: !SystemAppearance.reduceMotion
+            EasedAnimation {}
+        }
 
-            NumberAnimation {
-                duration: 250
-            }
+        TopBar {
+            id: topBar
+
+            controller: view.controller
+            width: parent.width
         }
 
         Item {
@@ -55,15 +54,12 @@ Item {
             clip: true
             width: parent.width
 
-            ScrollView {
+            UprightScrollView {
                 id: scroll
 
-                objectName: "scroll"
-
-                ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
                 contentHeight: column.height + 2 * column.padding
-                contentWidth: availableWidth
                 height: parent.height
+                objectName: "scroll"
                 width: parent.width - options.width * view.optionsShown
 
                 MainColumn {
@@ -83,21 +79,15 @@ Item {
             OptionsPanel {
                 id: options
 
+                enabled: view.controller.optionsVisible
                 height: parent.height
                 objectName: "optionsPanel"
                 opacity: view.optionsShown
                 visible: view.optionsShown > 0
                 width: 258
                 x: parent.width - width * view.optionsShown
-                onCloseRequested: view.controller.optionsVisible = false
+                onCloseRequested: reason => topBar.closeOptions(reason)
             }
-        }
-
-        TopBar {
-            id: topBar
-
-            controller: view.controller
-            width: parent.width
         }
     }
 

@@ -1,8 +1,10 @@
 #include "MainViewController.h"
 
 #include "AppModel.h"
+#include "ConversionItemTexts.h"
 #include "DefaultsStore.h"
-#include "PhotoFileName.h"
+#include "OptionTexts.h"
+#include "PhotoFile.h"
 #include "PhotoLandingStageController.h"
 
 #include <algorithm>
@@ -19,14 +21,6 @@ constexpr double lowestStage = 60.0;
 QString hasSeenWelcomeKey()
 {
     return QStringLiteral("hasSeenSignatureWelcome");
-}
-
-QList<QUrl> filesAmong(const QList<QUrl> &urls)
-{
-    QList<QUrl> files;
-    std::copy_if(urls.begin(), urls.end(), std::back_inserter(files),
-                 [](const QUrl &url) { return url.isLocalFile(); });
-    return files;
 }
 
 } // namespace
@@ -135,7 +129,7 @@ QString MainViewController::workspaceDetail() const
 
 QString MainViewController::readyText() const
 {
-    return tr("%1 ready").arg(m_model.readyCount());
+    return ConversionItemTexts::readyText(m_model.readyCount());
 }
 
 bool MainViewController::isBusy() const
@@ -165,12 +159,12 @@ QString MainViewController::openFolderLabel() const
 
 QString MainViewController::outputLocationText() const
 {
-    return rawValue(m_model.settings().outputLocation);
+    return optionText(m_model.settings().outputLocation);
 }
 
 bool MainViewController::dragEntered(const QList<QUrl> &urls)
 {
-    if (filesAmong(urls).isEmpty()) {
+    if (std::none_of(urls.begin(), urls.end(), [](const QUrl &url) { return url.isLocalFile(); })) {
         return false;
     }
     m_model.setIsDropTargeted(true);
@@ -185,10 +179,8 @@ void MainViewController::dragLeft()
 bool MainViewController::drop(const QList<QUrl> &urls)
 {
     m_model.setIsDropTargeted(false);
-    const QList<QUrl> files = filesAmong(urls);
-    m_model.convertManually(files);
-    return std::any_of(files.begin(), files.end(),
-                       [](const QUrl &file) { return PhotoFileName::isHeic(file.fileName()); });
+    m_model.convertManually(urls);
+    return std::any_of(urls.begin(), urls.end(), isPhotoFile);
 }
 
 void MainViewController::choosePhotos()

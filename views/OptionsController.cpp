@@ -58,7 +58,7 @@ void OptionsController::changeSettings(Change change)
 
 QString OptionsController::watchFolderPath() const
 {
-    return m_model ? m_model->watchFolder().adjusted(QUrl::StripTrailingSlash).toLocalFile() : QString();
+    return m_model ? m_model->watchFolder().toLocalFile() : QString();
 }
 
 bool OptionsController::canConvertExisting() const

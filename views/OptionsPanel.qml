@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic as Basic
 import QtQuick.Layouts
 import Lumaport.Interaction
 import Lumaport.Views
@@ -11,8 +10,8 @@ Rectangle {
 
     readonly property real padding: 22
 
-    // The close button was pressed.
-    signal closeRequested
+    // The close button was pressed; with `reason` it had got the keyboard's focus.
+    signal closeRequested(int reason)
 
     Accessible.name: qsTr("Make it yours")
     Accessible.role: Accessible.Pane
@@ -25,20 +24,10 @@ Rectangle {
         model: AppModel
     }
 
-    Flickable {
-        id: scroll
-
+    UprightScrollView {
         anchors.fill: parent
-        boundsBehavior: Flickable.StopAtBounds
         clip: true
         contentHeight: column.implicitHeight + 2 * panel.padding
-        contentWidth: width
-
-        Basic.ScrollBar.vertical: Basic.ScrollBar {}
-
-        FocusFollower {
-            flickable: scroll
-        }
 
         ColumnLayout {
             id: column
@@ -59,13 +48,15 @@ Rectangle {
                 }
 
                 QuietButton {
+                    id: close
+
                     Layout.alignment: Qt.AlignTop
                     display: QuietButton.IconOnly
                     help: text
                     objectName: "close"
                     symbol: "xmark"
                     text: qsTr("Close options")
-                    onClicked: panel.closeRequested()
+                    onClicked: panel.closeRequested(close.focusReason)
                 }
             }
 

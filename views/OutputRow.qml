@@ -1,5 +1,4 @@
 import QtQuick
-import Lumaport.Interaction
 import Lumaport.Views
 import Lumaport.Vocabulary
 
@@ -11,12 +10,6 @@ Item {
     property real topPadding: 0
 
     implicitHeight: format.height + topPadding
-
-    OptionsController {
-        id: settings
-
-        model: AppModel
-    }
 
     BodyText {
         id: caption
@@ -33,9 +26,7 @@ Item {
 
         anchors.left: caption.right
         anchors.leftMargin: 8
-        selection: settings.format
         y: row.topPadding
-        onChosen: choice => settings.format = choice
     }
 
     SymbolLabel {

@@ -76,6 +76,7 @@ Item {
                 anchors.centerIn: parent
                 anchors.horizontalCenterOffset: (43 + 20 * fan.value) * place
                 anchors.verticalCenterOffset: -17 - 20 * fan.value
+                objectName: "card" + index
                 rotation: (10 + 8 * fan.value) * place
             }
         }
@@ -85,6 +86,7 @@ Item {
 
             anchors.centerIn: parent
             anchors.verticalCenterOffset: 46
+            objectName: "front"
             tilt: SystemAppearance.reduceMotion ? -5 : -5 - 13 * fan.value
 
             transform: Matrix4x4 {

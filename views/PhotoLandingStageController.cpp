@@ -1,6 +1,7 @@
 #include "PhotoLandingStageController.h"
 
 #include "AppModel.h"
+#include "ConversionItemTexts.h"
 
 namespace {
 
@@ -73,8 +74,7 @@ QVariant PhotoLandingStageController::data(const QModelIndex &index, int role) c
         if (index.row() >= items.size()) {
             return QUrl();
         }
-        const ConversionItem &item = items.at(index.row());
-        return item.outputURL.value_or(item.sourceURL);
+        return ConversionItemTexts::displayFile(items.at(index.row()));
     }
     case CaptionRole:
         return announcesReady ? tr("Ready") : tr("Photo");

@@ -9,7 +9,8 @@
 
 namespace {
 
-constexpr double placeholderPadding = 20.0; // points on every side
+constexpr double placeholderPadding = 20.0;  // points on every side
+constexpr double smallestPlaceholder = 10.0; // points; less is a smudge
 
 QBrush gradient(int variant, const QRectF &frame)
 {
@@ -33,7 +34,7 @@ QRectF fillingPart(const QImage &image, const QRectF &frame)
 void paintPlaceholder(QPainter &painter, const QRectF &frame)
 {
     const double side = std::min(frame.width(), frame.height()) - 2 * placeholderPadding;
-    if (side < 1.0) {
+    if (side < smallestPlaceholder) {
         return;
     }
     const int pixels = qCeil(side * painter.deviceTransform().m11());
@@ -98,15 +99,22 @@ void PhotoThumbnail::paint(QPainter *painter)
     const QRectF frame = boundingRect().adjusted(m_margin, m_margin, -m_margin, -m_margin);
     QPainterPath outline;
     outline.addRoundedRect(frame, m_cornerRadius, m_cornerRadius);
-    painter->fillPath(outline, gradient(m_variant, frame));
     if (m_image.isNull()) {
+        painter->fillPath(outline, gradient(m_variant, frame));
         paintPlaceholder(*painter, frame);
         return;
     }
     // A brush has no smooth scaling below half size, so the part is first brought to the screen's own pixels.
     const QSize pixels = (frame.size() * painter->deviceTransform().m11()).toSize();
     QImage scaled = m_image.copy(fillingPart(m_image, frame).toAlignedRect())
-                        .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+                        .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    // What the picture leaves open shows the gradient. The outline is filled once: twice would let it shine
+    // through along the smoothed corners.
+    QPainter behind(&scaled);
+    behind.setCompositionMode(QPainter::CompositionMode_DestinationOver);
+    behind.fillRect(scaled.rect(), gradient(m_variant, scaled.rect()));
+    behind.end();
     QBrush brush(scaled);
     brush.setTransform(QTransform::fromTranslate(frame.x(), frame.y())
                            .scale(frame.width() / scaled.width(), frame.height() / scaled.height()));

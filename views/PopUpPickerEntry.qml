@@ -10,6 +10,8 @@ T.ItemDelegate {
 
     Accessible.name: text
     Accessible.onPressAction: entry.clicked()
+    Accessible.selectable: true
+    Accessible.selected: chosen
     font.pixelSize: 12
     hoverEnabled: true
     implicitHeight: 28

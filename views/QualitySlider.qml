@@ -17,7 +17,7 @@ T.Slider {
     padding: 3
 
     background: Rectangle {
-        color: LumaportPalette.deck
+        color: LumaportPalette.softLine
         height: 4
         radius: 2
         width: slider.availableWidth

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic as Basic
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
@@ -16,6 +15,7 @@ Item {
 
     Accessible.checkable: true
     Accessible.checked: selected
+    Accessible.description: segment.help
     Accessible.focusable: true
     Accessible.name: segment.name
     Accessible.onPressAction: button.clicked()
@@ -23,9 +23,6 @@ Item {
     Accessible.role: Accessible.RadioButton
     Accessible.selectable: true
     Accessible.selected: selected
-    Basic.ToolTip.delay: 700
-    Basic.ToolTip.text: segment.help
-    Basic.ToolTip.visible: segment.help !== "" && hover.hovered
     Keys.onEnterPressed: button.clicked()
     Keys.onReturnPressed: button.clicked()
     Keys.onSpacePressed: button.clicked()
@@ -75,5 +72,10 @@ Item {
         anchors.bottomMargin: button.lift - 3
         anchors.topMargin: -button.lift - 3
         visible: button.activeFocus
+    }
+
+    HelpTip {
+        hovered: hover.hovered
+        text: button.segment.help
     }
 }

@@ -11,8 +11,8 @@ TextEdit {
     font.pixelSize: 11
     readOnly: true
     selectByMouse: true
-    selectedTextColor: "white"
-    selectionColor: LumaportPalette.cobalt
+    selectedTextColor: LumaportPalette.panel
+    selectionColor: LumaportPalette.iris
     textFormat: TextEdit.PlainText
     wrapMode: TextEdit.Wrap
 

@@ -34,9 +34,9 @@ T.Switch {
             to: control.checked ? 1 : 0
         }
 
-        border.color: control.checked ? LumaportPalette.cobalt : LumaportPalette.muted
+        border.color: control.checked ? LumaportPalette.iris : LumaportPalette.muted
         border.width: 1
-        color: control.checked ? LumaportPalette.cobalt : LumaportPalette.deck
+        color: control.checked ? LumaportPalette.iris : LumaportPalette.deck
         height: 16
         radius: 8
         width: 28
@@ -44,7 +44,7 @@ T.Switch {
         y: (control.height - height) / 2
 
         Rectangle {
-            color: "white"
+            color: control.checked ? LumaportPalette.panel : "white"
             height: 12
             radius: 6
             width: 12

@@ -30,7 +30,7 @@ Item {
             visible: opacity > 0
 
             Behavior on opacity {
-                FadeAnimation {
+                EasedAnimation {
                 }
             }
 
@@ -51,7 +51,7 @@ Item {
         visible: opacity > 0
 
         Behavior on opacity {
-            FadeAnimation {
+            EasedAnimation {
             }
         }
     }

@@ -7,7 +7,6 @@ PlainButton {
     color: LumaportPalette.iris
     cornerRadius: 6
     font.pixelSize: 11
-    font.weight: Font.Medium
     horizontalPadding: 7
     verticalPadding: 4
     wrapMode: Text.Wrap

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Templates as T
-import Lumaport.Interaction
 import Lumaport.Views
 import Lumaport.Vocabulary
 
@@ -10,14 +9,14 @@ Rectangle {
 
     required property MainViewController controller
 
-    color: LumaportPalette.panel
-    implicitHeight: mark.height + 20
-
-    OptionsController {
-        id: settings
-
-        model: AppModel
+    // The panel's own button was pressed: the keyboard goes back to the one that opens it again.
+    function closeOptions(reason: int) {
+        optionsButton.forceActiveFocus(reason);
+        controller.optionsVisible = false;
     }
+
+    color: LumaportPalette.panel
+    implicitHeight: controls.height + 20
 
     Row {
         anchors.left: parent.left
@@ -26,8 +25,6 @@ Rectangle {
         spacing: 11
 
         BrandMark {
-            id: mark
-
             size: 31
         }
 
@@ -40,6 +37,8 @@ Rectangle {
     }
 
     Row {
+        id: controls
+
         anchors.right: parent.right
         anchors.rightMargin: 20
         anchors.verticalCenter: parent.verticalCenter
@@ -47,18 +46,20 @@ Rectangle {
 
         AppearanceControl {
             anchors.verticalCenter: parent.verticalCenter
-            selection: settings.appearanceMode
-            onChosen: choice => settings.appearanceMode = choice
         }
 
         QuietButton {
+            id: optionsButton
+
             Accessible.description: bar.controller.optionsVisible ? qsTr("Expanded") : qsTr("Collapsed")
             anchors.verticalCenter: parent.verticalCenter
             display: T.AbstractButton.IconOnly
+            height: 16 + 2 * verticalPadding
             help: qsTr("Conversion options")
             objectName: "optionsButton"
             symbol: "slider.horizontal.3"
             text: qsTr("Conversion options")
+            width: 20 + 2 * horizontalPadding
             onClicked: bar.controller.optionsVisible = !bar.controller.optionsVisible
         }
     }

@@ -2,15 +2,19 @@ import QtQuick
 import Lumaport.Views
 import Lumaport.Vocabulary
 
-// The two tabs, with a highlight that slides to the selected one, and how many photos are ready.
-Item {
+// The two tabs, with a highlight that slides to the selected one, and how many photos are ready. For the keyboard the
+// tabs are one stop, where the arrows choose.
+FocusScope {
     id: navigation
 
     required property MainViewController controller
 
     readonly property Item selected: controller.showingHistory ? recentPhotos : airDrop
 
+    Keys.onLeftPressed: controller.showingHistory = false
+    Keys.onRightPressed: controller.showingHistory = true
     implicitHeight: tabs.implicitHeight
+    onSelectedChanged: activeFocus && selected.forceActiveFocus(Qt.TabFocusReason)
 
     SpringValue {
         id: highlightX
@@ -29,12 +33,20 @@ Item {
     }
 
     SoftShape {
+        id: shadow
+
         anchors.centerIn: highlight
         anchors.verticalCenterOffset: 3
         blurRadius: 5
         color: Qt.alpha("black", 0.06)
         cornerRadius: 12
         shapeSize: Qt.size(navigation.selected.width, highlight.height)
+
+        // It is drawn once for a tab, and stretched while the highlight is on its way there.
+        transform: Scale {
+            origin.x: shadow.width / 2
+            xScale: highlight.width / shadow.shapeSize.width
+        }
     }
 
     Rectangle {
@@ -57,7 +69,6 @@ Item {
         WorkspaceTab {
             id: airDrop
 
-            KeyNavigation.right: recentPhotos
             objectName: "airDropTab"
             selected: !navigation.controller.showingHistory
             symbol: "tray.and.arrow.down"
@@ -68,7 +79,6 @@ Item {
         WorkspaceTab {
             id: recentPhotos
 
-            KeyNavigation.left: airDrop
             objectName: "recentPhotosTab"
             selected: navigation.controller.showingHistory
             symbol: "photo.stack"

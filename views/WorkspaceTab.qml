@@ -1,8 +1,7 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// One tab of the workspaces: chosen with the pointer, through the assistive interface, or by giving it the keyboard's
-// focus. The Tab key stops at the chosen one; the arrows lead from it to the other.
+// One tab of the workspaces. The Tab key stops at the chosen one.
 Item {
     id: tab
 
@@ -24,7 +23,6 @@ Item {
     activeFocusOnTab: selected || activeFocus
     implicitHeight: label.implicitHeight + 20
     implicitWidth: label.implicitWidth + 30
-    onActiveFocusChanged: activeFocus ? tab.clicked() : undefined
 
     SymbolLabel {
         id: label

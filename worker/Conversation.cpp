@@ -15,6 +15,9 @@ namespace {
 
 using namespace imageworkerwire;
 
+// Else the application would refuse what is accepted here.
+static_assert(imageworkerwire::MaximumPixels == imageworker::MaximumPixels);
+
 using Asked = DescriptorMessage<Request>;
 
 bool send(int socket, const Reply &reply)

@@ -1,5 +1,6 @@
 #include "JpegDecoder.h"
 
+#include "FileMarks.h"
 #include "SrgbStage.h"
 
 #include <algorithm>
@@ -12,10 +13,6 @@
 namespace imageworker {
 
 namespace {
-
-constexpr std::string_view ExifPrefix("Exif\0\0", 6);
-constexpr std::string_view XmpPrefix("http://ns.adobe.com/xap/1.0/\0", 29);
-constexpr std::string_view IccPrefix("ICC_PROFILE\0", 12);
 
 /// The library reports faults by a jump: a function that sets its goal owns nothing that needs destroying.
 class JpegReader
@@ -127,8 +124,8 @@ Result<JpegHeader> readJpegHeader(std::span<const std::uint8_t> file)
     if (!reader.readHeader() || !isAcceptable(reader.storedSize().width, reader.storedSize().height)) {
         return unreadable();
     }
-    return JpegHeader{reader.storedSize(), reader.segments(JPEG_APP0 + 1, ExifPrefix, 0),
-                      reader.segments(JPEG_APP0 + 1, XmpPrefix, 0)};
+    return JpegHeader{reader.storedSize(), reader.segments(JPEG_APP0 + 1, JpegExifStart, 0),
+                      reader.segments(JPEG_APP0 + 1, JpegXmpStart, 0)};
 }
 
 Result<Raster> decodeJpeg(std::span<const std::uint8_t> file, unsigned reduction)
@@ -139,7 +136,7 @@ Result<Raster> decodeJpeg(std::span<const std::uint8_t> file, unsigned reduction
     }
     Raster raster(reader.decodedSize());
     const Bytes profile =
-        reader.segments(JPEG_APP0 + 2, IccPrefix, 2); // number and count of the parts, which come in order
+        reader.segments(JPEG_APP0 + 2, JpegIccStart, 2); // number and count of the parts, which come in order
     const auto stage = makeSrgbStage(profile, {}, 255, reader.isGrey());
     for (int y = 0; y < raster.size.height; ++y) {
         if (!reader.readRow(raster.row(y))) {

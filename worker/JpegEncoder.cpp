@@ -2,6 +2,7 @@
 
 #include "ColourSpace.h"
 #include "Exif.h"
+#include "FileMarks.h"
 #include "JpegChunkEncoder.h"
 #include "OrderedPieces.h"
 #include "Spares.h"
@@ -11,6 +12,7 @@
 #include <array>
 #include <cmath>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace imageworker {
@@ -18,8 +20,6 @@ namespace imageworker {
 namespace {
 
 constexpr std::size_t LongestSegment = 65'533; // what a marker's two bytes of length leave
-constexpr std::string_view ExifPrefix("Exif\0\0", 6);
-constexpr std::string_view IccPrefix("ICC_PROFILE\0\1\1", 14); // the first of one part
 constexpr double FinestColoursFrom = 0.95;
 
 Bytes profileOfSrgb()
@@ -46,11 +46,13 @@ std::vector<JpegSegment> segmentsOf(const CopyMetadata &metadata)
 {
     std::vector<JpegSegment> segments;
     segments.push_back(
-        {JPEG_APP0 + 1, segment(ExifPrefix, exifWithin(metadata.exif, LongestSegment - ExifPrefix.size()))});
+        {JPEG_APP0 + 1,
+         segment(JpegExifStart, exifWithin(metadata.exif, LongestSegment - JpegExifStart.size()))});
     for (Bytes &part : xmpSegments(metadata.xmp, LongestSegment)) {
         segments.push_back({JPEG_APP0 + 1, std::move(part)});
     }
-    segments.push_back({JPEG_APP0 + 2, segment(IccPrefix, profileOfSrgb())});
+    // The first of one part.
+    segments.push_back({JPEG_APP0 + 2, segment(std::string(JpegIccStart) + "\1\1", profileOfSrgb())});
     return segments;
 }
 
@@ -97,13 +99,13 @@ public:
         }
         m_pieces.add(chunk, chunk == 0 ? beginning(std::move(stream)) : continuation(chunk, stream),
                      [this](const Bytes &piece) { m_output.write(piece); });
-        return outcome();
+        return m_output.outcome();
     }
 
     Result<void> finish() override
     {
         m_output.write(EndOfImage);
-        return outcome();
+        return m_output.outcome();
     }
 
 private:
@@ -131,11 +133,6 @@ private:
         piece.insert(piece.end(), stream.begin() + static_cast<std::ptrdiff_t>(data),
                      stream.end() - EndOfImage.size());
         return piece;
-    }
-
-    Result<void> outcome() const
-    {
-        return m_output.hasFailed() ? Result<void>(tl::unexpected(Fault::CannotWrite)) : Result<void>();
     }
 
     OutputFile &m_output;

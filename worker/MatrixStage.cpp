@@ -151,7 +151,8 @@ void ToneMappingStage::store(LinearColour linear, std::uint8_t *rgba) const
 {
     for (int channel = 0; channel < 3; ++channel) {
         const float inside = std::clamp(linear[channel], 0.0F, 1.0F);
-        rgba[channel] = m_codes[static_cast<std::size_t>(inside * LastStep + 0.5F)];
+        const float step = inside * LastStep + 0.5F; // cutting off then rounds to the nearest
+        rgba[channel] = m_codes[static_cast<std::size_t>(step)];
     }
     rgba[3] = 255;
 }

@@ -20,7 +20,10 @@ public:
     bool write(std::span<const std::uint8_t> bytes);
 
     /// May be asked on any thread.
-    bool hasFailed() const { return m_failed; }
+    Result<void> outcome() const
+    {
+        return m_failed ? Result<void>(tl::unexpected(Fault::CannotWrite)) : Result<void>();
+    }
 
 private:
     int m_descriptor;

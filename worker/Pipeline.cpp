@@ -4,6 +4,7 @@
 #include <condition_variable>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <thread>
 
 namespace imageworker {
@@ -186,8 +187,11 @@ Result<void> runPipeline(RowSource &source, RowEncoder &encoder, int workers)
     Schedule schedule(source, encoder);
     {
         std::vector<std::jthread> threads;
-        for (int worker = 1; worker < workers; ++worker) {
-            threads.emplace_back([&schedule, worker] { schedule.work(worker); });
+        try {
+            for (int worker = 1; worker < workers; ++worker) {
+                threads.emplace_back([&schedule, worker] { schedule.work(worker); });
+            }
+        } catch (const std::system_error &) { // no more threads to be had: those there are do the work
         }
         schedule.work(0);
     }

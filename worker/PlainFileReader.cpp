@@ -1,6 +1,7 @@
 #include "PlainFileReader.h"
 
 #include "Exif.h"
+#include "FileMarks.h"
 #include "JpegDecoder.h"
 #include "PngDecoder.h"
 
@@ -11,7 +12,6 @@ namespace imageworker {
 
 namespace {
 
-constexpr std::array<std::uint8_t, 8> PngSignature = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
 constexpr std::array<std::uint8_t, 3> JpegStart = {0xFF, 0xD8, 0xFF};
 
 Result<Photo> readPng(std::span<const std::uint8_t> file)
@@ -79,16 +79,13 @@ Result<Raster> decodePlainFile(const Source &source, const PlainFile &file, int 
     if (!bytes) {
         return unreadable();
     }
-    if (file.kind == PlainFile::Kind::Png) {
-        return decodePng(*bytes);
-    }
     unsigned reduction = 1;
     const auto longest = static_cast<unsigned>(std::max(file.stored.width, file.stored.height));
     while (smallestSide > 0 && reduction < 8 &&
            longest / (2 * reduction) >= static_cast<unsigned>(smallestSide)) {
         reduction *= 2;
     }
-    return decodeJpeg(*bytes, reduction);
+    return file.kind == PlainFile::Kind::Png ? decodePng(*bytes, reduction) : decodeJpeg(*bytes, reduction);
 }
 
 } // namespace imageworker

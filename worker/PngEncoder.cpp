@@ -1,5 +1,6 @@
 #include "PngEncoder.h"
 
+#include "FileMarks.h"
 #include "OrderedPieces.h"
 #include "PngFilter.h"
 #include "Spares.h"
@@ -117,8 +118,7 @@ public:
 
     Result<void> begin() override
     {
-        constexpr std::array<std::uint8_t, 8> Signature = {0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
-        m_output.write(Signature);
+        m_output.write(PngSignature);
         Bytes header;
         appendNumber(header, static_cast<std::uint32_t>(m_size.width));
         appendNumber(header, static_cast<std::uint32_t>(m_size.height));
@@ -131,13 +131,11 @@ public:
             writePart("eXIf", m_metadata.exif);
         }
         if (!m_metadata.xmp.empty()) {
-            constexpr std::string_view Prefix("XML:com.adobe.xmp\0\0\0\0\0",
-                                              22); // plain, no language, no translation
-            Bytes text(Prefix.begin(), Prefix.end());
+            Bytes text(PngXmpStart.begin(), PngXmpStart.end());
             text.insert(text.end(), m_metadata.xmp.begin(), m_metadata.xmp.end());
             writePart("iTXt", text);
         }
-        return outcome();
+        return m_output.outcome();
     }
 
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
@@ -155,13 +153,13 @@ public:
         piece.length = compressor->length();
         m_compressors.giveBack(std::move(compressor));
         m_pieces.add(chunk, std::move(piece), [this](Piece &next) { writePiece(next); });
-        return outcome();
+        return m_output.outcome();
     }
 
     Result<void> finish() override
     {
         writePart("IEND", {});
-        return outcome();
+        return m_output.outcome();
     }
 
 private:
@@ -172,11 +170,6 @@ private:
         std::uint64_t length = 0; ///< before compression
         bool isLast = false;
     };
-
-    Result<void> outcome() const
-    {
-        return m_output.hasFailed() ? Result<void>(tl::unexpected(Fault::CannotWrite)) : Result<void>();
-    }
 
     void writePiece(Piece &piece)
     {

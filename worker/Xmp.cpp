@@ -1,5 +1,7 @@
 #include "Xmp.h"
 
+#include "FileMarks.h"
+
 extern "C" {
 #include <libavutil/md5.h>
 }
@@ -13,9 +15,6 @@ extern "C" {
 namespace imageworker {
 
 namespace {
-
-constexpr std::string_view MainPrefix("http://ns.adobe.com/xap/1.0/\0", 29);
-constexpr std::string_view ExtensionPrefix("http://ns.adobe.com/xmp/extension/\0", 35);
 
 Bytes joined(std::string_view prefix, std::string_view content)
 {
@@ -129,7 +128,7 @@ std::string edited(std::string_view text, std::string_view name, std::optional<s
 
 void describeCopyInXmp(Bytes &xmp, PixelSize size)
 {
-    // Other pictures and videos in the photo's file, which the copy does not have.
+    // Other parts of the photo's file, which the copy does not have.
     constexpr std::array Removed = {"Container:Directory",
                                     "GCamera:MicroVideo",
                                     "GCamera:MicroVideoOffset",
@@ -138,7 +137,8 @@ void describeCopyInXmp(Bytes &xmp, PixelSize size)
                                     "GCamera:MotionPhoto",
                                     "GCamera:MotionPhotoPresentationTimestampUs",
                                     "GCamera:MotionPhotoVersion",
-                                    "hdrgm:Version"};
+                                    "hdrgm:Version",
+                                    "xmpNote:HasExtendedXMP"};
     const std::string width = std::to_string(size.width);
     const std::string height = std::to_string(size.height);
     std::string text(xmp.begin(), xmp.end());
@@ -162,19 +162,19 @@ std::vector<Bytes> xmpSegments(const Bytes &xmp, std::size_t longest)
         return {};
     }
     const std::string packet(xmp.begin(), xmp.end());
-    if (MainPrefix.size() + packet.size() <= longest) {
-        return {joined(MainPrefix, packet)};
+    if (JpegXmpStart.size() + packet.size() <= longest) {
+        return {joined(JpegXmpStart, packet)};
     }
     const std::string_view content = withoutWrapper(packet);
     const std::string digest = digestOf(content);
     std::vector<Bytes> segments = {
-        joined(MainPrefix,
+        joined(JpegXmpStart,
                "<?xpacket begin=\"\" id=\"W5M0MpCehiHzreSzNTczkc9d\"?><x:xmpmeta xmlns:x=\"adobe:ns:meta/\">"
                "<rdf:RDF xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
                "<rdf:Description rdf:about=\"\" xmlns:xmpNote=\"http://ns.adobe.com/xmp/note/\""
                " xmpNote:HasExtendedXMP=\"" +
                    digest + "\"/></rdf:RDF></x:xmpmeta><?xpacket end=\"w\"?>")};
-    const std::string start = std::string(ExtensionPrefix) + digest + bigEndian(content.size());
+    const std::string start = std::string(JpegExtendedXmpStart) + digest + bigEndian(content.size());
     const std::size_t room = longest - start.size() - bigEndian(0).size();
     for (std::size_t offset = 0; offset < content.size(); offset += room) {
         segments.push_back(joined(start + bigEndian(offset), content.substr(offset, room)));

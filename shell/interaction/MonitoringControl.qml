@@ -6,7 +6,7 @@ import Lumaport.Vocabulary
 Item {
     id: card
 
-    readonly property color accent: controller.converting ? LumaportPalette.mint : LumaportPalette.photon
+    readonly property color accent: controller.automatic ? LumaportPalette.mint : LumaportPalette.photon
     readonly property real padding: 13
     readonly property real spacing: 12
 
@@ -32,6 +32,8 @@ Item {
     Rectangle {
         id: badge
 
+        Accessible.name: AppModel.monitorTitle
+        Accessible.role: Accessible.Graphic
         anchors.left: parent.left
         anchors.leftMargin: card.padding
         anchors.verticalCenter: parent.verticalCenter
@@ -54,8 +56,9 @@ Item {
         anchors.left: badge.right
         anchors.leftMargin: card.spacing
         anchors.right: button.left
-        anchors.rightMargin: 8 + card.spacing
+        anchors.rightMargin: card.spacing + 8 + card.spacing
         anchors.verticalCenter: parent.verticalCenter
+        objectName: "monitoringTexts"
         spacing: 4
 
         BodyText {

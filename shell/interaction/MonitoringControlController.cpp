@@ -15,7 +15,7 @@ void MonitoringControlController::setModel(AppModel *model)
     Q_EMIT stateChanged();
 }
 
-bool MonitoringControlController::isConverting() const
+bool MonitoringControlController::isAutomatic() const
 {
     return m_model && m_model->monitorAvailable() && m_model->isWatching();
 }
@@ -25,7 +25,7 @@ QString MonitoringControlController::buttonTitle() const
     if (m_model && !m_model->monitorAvailable()) {
         return tr("Retry");
     }
-    return isConverting() ? tr("Pause") : tr("Resume");
+    return isAutomatic() ? tr("Pause") : tr("Resume");
 }
 
 void MonitoringControlController::act()

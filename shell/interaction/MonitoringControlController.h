@@ -12,7 +12,7 @@ class MonitoringControlController : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(AppModel *model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
-    Q_PROPERTY(bool converting READ isConverting NOTIFY stateChanged)
+    Q_PROPERTY(bool automatic READ isAutomatic NOTIFY stateChanged)
     Q_PROPERTY(QString buttonTitle READ buttonTitle NOTIFY stateChanged)
 
 public:
@@ -21,8 +21,8 @@ public:
     AppModel *model() const { return m_model; }
     void setModel(AppModel *model);
 
-    /// New arrivals are being converted: the folder can be watched, and is.
-    bool isConverting() const;
+    /// New arrivals are converted by themselves: the folder can be watched, and is.
+    bool isAutomatic() const;
     /// "Pause", "Resume" or "Retry", in the user's language.
     QString buttonTitle() const;
 

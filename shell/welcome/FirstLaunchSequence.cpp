@@ -45,6 +45,9 @@ void FirstLaunchSequence::setReduceMotion(bool reduce)
 {
     if (m_reduceMotion != reduce) {
         m_reduceMotion = reduce;
+        if (reduce) {
+            m_elapsed = end; // and there it stays: what has come to rest does not start again
+        }
         Q_EMIT changed();
     }
 }
@@ -59,39 +62,36 @@ void FirstLaunchSequence::setElapsed(double seconds)
 
 bool FirstLaunchSequence::isRunning() const
 {
-    return !m_reduceMotion && m_elapsed < end;
+    return m_elapsed < end;
 }
 
 double FirstLaunchSequence::revealProgress() const
 {
-    return m_reduceMotion ? 1.0 : easeInOut(m_elapsed / revealDuration);
+    return easeInOut(m_elapsed / revealDuration);
 }
 
 double FirstLaunchSequence::artworkScale() const
 {
-    if (m_reduceMotion) {
-        return 1.0;
-    }
     const DampedSpring spring(0.65, 0.82);
     return 1.0 + spring.after({initialScale - 1.0, 0.0}, m_elapsed).displacement;
 }
 
 double FirstLaunchSequence::shimmerProgress() const
 {
-    return m_reduceMotion ? 0.0 : easeInOut((m_elapsed - shimmerAt) / shimmerDuration);
+    return easeInOut((m_elapsed - shimmerAt) / shimmerDuration);
 }
 
 bool FirstLaunchSequence::isTitleVisible() const
 {
-    return m_reduceMotion || m_elapsed >= titleAt;
+    return m_elapsed >= titleAt;
 }
 
 double FirstLaunchSequence::titleProgress() const
 {
-    return m_reduceMotion ? 1.0 : easeOut((m_elapsed - titleAt) / riseDuration);
+    return easeOut((m_elapsed - titleAt) / riseDuration);
 }
 
 double FirstLaunchSequence::buttonProgress() const
 {
-    return m_reduceMotion ? 1.0 : easeOut((m_elapsed - titleAt - buttonDelay) / riseDuration);
+    return easeOut((m_elapsed - titleAt - buttonDelay) / riseDuration);
 }

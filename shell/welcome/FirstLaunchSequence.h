@@ -4,8 +4,8 @@
 #include <QtQml/qqmlregistration.h>
 
 /// How the welcome looks at each moment: the signature is wiped in, the title and the button come, a shimmer
-/// sweeps over the signature. Time is handed in; with reduced motion everything is in its place from the
-/// start and nothing shimmers.
+/// sweeps over the signature. Time is handed in; once motion is to be reduced, everything is in its
+/// place at once and nothing shimmers.
 class FirstLaunchSequence : public QObject
 {
     Q_OBJECT

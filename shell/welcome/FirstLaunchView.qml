@@ -108,6 +108,7 @@ Item {
 
             anchors.horizontalCenter: parent.horizontalCenter
             color: "white"
+            cornerRadius: height / 2
             enabled: sequence.titleVisible
             font.pixelSize: 13
             font.weight: Font.DemiBold

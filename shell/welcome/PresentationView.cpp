@@ -1,5 +1,6 @@
 #include "PresentationView.h"
 
+#include "FilledItem.h"
 #include "WelcomePanel.h"
 #include "WindowBlending.h"
 
@@ -104,12 +105,16 @@ void PresentationView::showInMainWindow(std::unique_ptr<QQuickItem> welcome)
 {
     m_overlay = std::move(welcome);
     QQuickItem *all = m_mainWindow->contentItem();
-    m_overlay->setParentItem(all);
     m_overlay->setZ(1.0);
-    const auto fill = [this, all] { m_overlay->setSize(all->size()); };
-    connect(all, &QQuickItem::widthChanged, m_overlay.get(), fill);
-    connect(all, &QQuickItem::heightChanged, m_overlay.get(), fill);
-    fill();
+    keepFilled(*all, *m_overlay);
+}
+
+// Not at once: it may be the sender of what ends it. At the latest with this view: at the program's end no
+// event loop is left to delete it.
+void PresentationView::release(std::unique_ptr<QObject> ended)
+{
+    ended->setParent(this);
+    ended.release()->deleteLater();
 }
 
 void PresentationView::dismiss(MainWindowAfterwards showMainWindow)
@@ -117,12 +122,11 @@ void PresentationView::dismiss(MainWindowAfterwards showMainWindow)
     if (m_panel) {
         m_panel->disconnect(this);
         m_panel->hide();
-        // It may be the sender of what ends it.
-        m_panel.release()->deleteLater();
+        release(std::move(m_panel));
     }
     if (m_overlay) {
         m_overlay->setVisible(false);
-        m_overlay.release()->deleteLater();
+        release(std::move(m_overlay));
     }
     if (m_mainWindow && m_surface == Surface::Panel) {
         m_mainWindow->setOpacity(m_originalOpacity);

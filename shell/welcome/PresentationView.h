@@ -58,6 +58,7 @@ private:
     void updatePresentation();
     void showInPanel(std::unique_ptr<QQuickItem> welcome);
     void showInMainWindow(std::unique_ptr<QQuickItem> welcome);
+    void release(std::unique_ptr<QObject> ended);
 
     bool m_isPresenting = false;
     Surface m_surface = Surface::MainWindow;

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Of the width.
+// Of the frame's width.
 constexpr double bandWidth = 0.24;
 constexpr double bandTravel = 1.24;
 constexpr float shimmerOpacity = 0.9F;
@@ -51,15 +51,15 @@ void SignatureArtwork::paint(QPainter *painter)
     painter->setClipping(false);
     if (m_shimmerProgress > 0.0 && m_shimmerProgress < 1.0) {
         painter->setOpacity(static_cast<double>(shimmerOpacity));
-        painter->drawImage(place, shimmer(m_scaled));
+        painter->drawImage(place, shimmer(m_scaled, width() * ratio));
     }
 }
 
-QImage SignatureArtwork::shimmer(const QImage &artwork) const
+QImage SignatureArtwork::shimmer(const QImage &artwork, double frameWidth) const
 {
-    const double artworkWidth = artwork.width();
-    const double left = artworkWidth * (bandTravel * m_shimmerProgress - bandWidth);
-    const QRectF band(left, 0.0, artworkWidth * bandWidth, artwork.height());
+    const double inset = (frameWidth - artwork.width()) / 2.0;
+    const double left = frameWidth * (bandTravel * m_shimmerProgress - bandWidth) - inset;
+    const QRectF band(left, 0.0, frameWidth * bandWidth, artwork.height());
     QLinearGradient light(band.topLeft(), band.topRight());
     light.setColorAt(0.0, QColor::fromRgbF(1.0F, 1.0F, 1.0F, 0.0F));
     light.setColorAt(1.0 / 3.0, QColor::fromRgbF(1.0F, 1.0F, 1.0F, 0.9F));

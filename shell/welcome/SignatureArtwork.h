@@ -32,7 +32,8 @@ Q_SIGNALS:
     void progressChanged();
 
 private:
-    QImage shimmer(const QImage &artwork) const;
+    /// The light on `artwork`, which lies in the middle of a frame of `frameWidth` pixels.
+    QImage shimmer(const QImage &artwork, double frameWidth) const;
 
     QString m_source;
     QImage m_image;

@@ -4,7 +4,8 @@
 
 #include <memory>
 
-/// The frameless, transparent window of the welcome. It lies over the main window's frame and follows it.
+/// The frameless, transparent window of the welcome. It lies over the main window's frame, follows it,
+/// and takes the keyboard's focus whenever the main window gets it.
 class WelcomePanel : public QQuickWindow
 {
     Q_OBJECT
@@ -24,6 +25,7 @@ protected:
 
 private:
     void coverMainWindow();
+    void standInForMainWindow(const QWindow *focus);
 
     QWindow &m_mainWindow;
     std::unique_ptr<QQuickItem> m_content;

@@ -6,8 +6,10 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QSemaphore>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <sys/stat.h>
 
@@ -33,7 +35,7 @@ class ConversionEngineTest : public QObject
     Q_OBJECT
 
 private:
-    QString path(const QString &name) const { return m_folder->filePath(name); }
+    QString path(const QString &name) const { return m_folder->path() + QLatin1Char('/') + name; }
     QStringList tree() const
     {
         QStringList names;
@@ -98,6 +100,15 @@ private Q_SLOTS:
         write(QStringLiteral("a.b.Heif"));
         QCOMPARE(converted(QStringLiteral("a.b.Heif"), pngBelow), QStringLiteral("Lumaport/a.b.png"));
         QCOMPARE(content(QStringLiteral("IMG_1.HEIC")), "photo");
+    }
+
+    void shouldKeepANameThatBeginsWithAColonInItsFolder()
+    {
+        write(QStringLiteral(":1.heic"));
+        QCOMPARE(converted(QStringLiteral(":1.heic"), jpegBeside), QStringLiteral(":1.jpg"));
+        QCOMPARE(converted(QStringLiteral(":1.heic"), pngBelow), QStringLiteral("Lumaport/:1.png"));
+        QCOMPARE(converted(QStringLiteral(":1.heic"), archived), QStringLiteral(":1.png"));
+        QCOMPARE(content(QStringLiteral("Originals/:1.heic")), "photo");
     }
 
     void shouldNumberTheNameOnAClash()
@@ -215,7 +226,11 @@ private Q_SLOTS:
         std::atomic<int> running = 0;
         std::atomic<bool> overlapped = false;
         m_launcher->worker.afterWriting = [&] {
-            overlapped = overlapped || ++running > 1;
+            ++running;
+            for (int turn = 0; turn < 1000 && running == 1; ++turn) {
+                QThread::yieldCurrentThread(); // a second one would come in here
+            }
+            overlapped = overlapped || running > 1;
             --running;
         };
         QStringList expected;
@@ -245,14 +260,23 @@ private Q_SLOTS:
 
     void shouldDropWhatWaitsWhenItEnds()
     {
+        QSemaphore begun;
+        QSemaphore gate;
+        m_launcher->worker.afterWriting = [&] {
+            begun.release();
+            gate.acquire();
+        };
+        m_launcher->whenEnded = [&] { gate.release(3); };
         bool isReported = false;
-        for (int count = 0; count < 50; ++count) {
+        for (int count = 0; count < 3; ++count) {
             m_engine->convert(QUrl::fromLocalFile(path(QStringLiteral("IMG_1.HEIC"))), jpegBeside, this,
                               [&](const auto &) { isReported = true; });
         }
+        begun.acquire();
         m_engine.reset();
         QCoreApplication::processEvents();
         QVERIFY(!isReported);
+        QCOMPARE(tree(), QStringList({QStringLiteral("IMG_1.HEIC"), QStringLiteral("IMG_1.jpg")}));
     }
 };
 

@@ -7,6 +7,32 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cerrno>
+#include <dirent.h>
+#include <optional>
+
+namespace {
+
+std::optional<int> entriesBeforeError; ///< none: the folder is read as it is
+
+} // namespace
+
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming): the linker's names
+extern "C" {
+dirent *__real_readdir(DIR *directory);
+dirent *__wrap_readdir(DIR *directory);
+}
+
+dirent *__wrap_readdir(DIR *directory)
+{
+    if (entriesBeforeError && (*entriesBeforeError)-- <= 0) {
+        errno = EIO;
+        return nullptr;
+    }
+    return __real_readdir(directory); // NOLINT(concurrency-mt-unsafe)
+}
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
+
 class FolderListingTest : public QObject
 {
     Q_OBJECT
@@ -38,6 +64,16 @@ private Q_SLOTS:
     void shouldBeEmptyForAFolderThatIsNotThere()
     {
         QVERIFY(FolderListing::photos(QUrl::fromLocalFile(QStringLiteral("/nowhere/at/all"))).isEmpty());
+    }
+
+    void shouldBeEmptyForAFolderThatCannotBeReadToItsEnd()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QFile(folder.filePath(QStringLiteral("a.heic"))).open(QIODevice::WriteOnly));
+        entriesBeforeError = 3; // the folder itself, the one above, the photo
+        const auto photos = FolderListing::photos(QUrl::fromLocalFile(folder.path()));
+        entriesBeforeError.reset();
+        QVERIFY(photos.isEmpty());
     }
 
     void shouldSplitNamesAtTheLastPoint()

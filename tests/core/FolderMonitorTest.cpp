@@ -5,8 +5,11 @@
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 #include <atomic>
+#include <functional>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -26,7 +29,24 @@ int openDescriptors()
         QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size());
 }
 
+std::function<void()> whenThreadHasStarted; ///< called once
+
 } // namespace
+
+// NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming): the linker's names
+extern "C" {
+int __real_pthread_setname_np(pthread_t thread, const char *name);
+int __wrap_pthread_setname_np(pthread_t thread, const char *name);
+}
+
+int __wrap_pthread_setname_np(pthread_t thread, const char *name)
+{
+    if (whenThreadHasStarted) {
+        std::exchange(whenThreadHasStarted, {})();
+    }
+    return __real_pthread_setname_np(thread, name);
+}
+// NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 
 class FolderMonitorTest : public QObject
 {
@@ -60,7 +80,6 @@ private Q_SLOTS:
         row("folder renamed", [this] {
             return QDir().rename(folder().toLocalFile(), m_folder->path() + QStringLiteral("/other"));
         });
-        row("folder deleted", [this] { return QDir(folder().toLocalFile()).removeRecursively(); });
     }
 
     void shouldReportChangesOfTheFolderItself()
@@ -70,6 +89,16 @@ private Q_SLOTS:
         QSemaphore reports;
         QVERIFY(monitor.start(folder(), [&reports] { reports.release(); }));
         QVERIFY(change());
+        QVERIFY(reports.tryAcquire(1, patience));
+    }
+
+    void shouldReportTheDeletionOfAFolderThatWasEmpty()
+    {
+        const QString empty = inFolder(QStringLiteral("sub"));
+        FolderMonitor monitor;
+        QSemaphore reports;
+        QVERIFY(monitor.start(QUrl::fromLocalFile(empty), [&reports] { reports.release(); }));
+        QVERIFY(QDir().rmdir(empty));
         QVERIFY(reports.tryAcquire(1, patience));
     }
 
@@ -139,16 +168,43 @@ private Q_SLOTS:
         QCOMPARE(openDescriptors(), before);
     }
 
-    void shouldBearBeingStoppedFromWithinAReport()
+    void shouldBearBeingStoppedFromWithinItsFirstReport()
     {
+        const int before = openDescriptors();
         FolderMonitor monitor;
-        QSemaphore stopped;
+        std::atomic<int> reports = 0;
+        whenThreadHasStarted = [&] {
+            touch(inFolder(QStringLiteral("new.heic")));
+            for (int turn = 0; turn < 10'000; ++turn) {
+                QThread::yieldCurrentThread(); // the report comes before start has returned
+            }
+        };
         QVERIFY(monitor.start(folder(), [&] {
+            ++reports;
+            touch(inFolder(QStringLiteral("more.heic"))); // waits in the queue when the watch ends
             monitor.stop();
-            stopped.release();
         }));
-        touch(inFolder(QStringLiteral("new.heic")));
-        QVERIFY(stopped.tryAcquire(1, patience));
+        QTRY_COMPARE(openDescriptors(), before); // the watch's thread is gone, and all that it had
+        QCOMPARE(reports, 1);
+    }
+
+    void shouldCountAFolderAsWatchedWhenNoWatchIsLeft()
+    {
+        rlimit before = {};
+        QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
+        const rlimit none{.rlim_cur = 0, .rlim_max = before.rlim_max};
+        FolderMonitor monitor;
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+        const bool isWatched = monitor.start(folder(), [] {});
+        const bool isMissingWatched =
+            monitor.start(QUrl::fromLocalFile(inFolder(QStringLiteral("gone"))), [] {});
+        const bool isFileWatched =
+            monitor.start(QUrl::fromLocalFile(inFolder(QStringLiteral("old.heic"))), [] {});
+        const bool mayMissChanges = monitor.start(folder(), [] {}) && monitor.mayMissChanges();
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &before), 0);
+        QVERIFY(isWatched && mayMissChanges);
+        QVERIFY(!isMissingWatched && !isFileWatched);
+        QVERIFY(monitor.start(folder(), [] {}) && !monitor.mayMissChanges());
     }
 };
 

@@ -93,6 +93,22 @@ private Q_SLOTS:
         QCOMPARE(m_photos->mostRunning.load(), 2);
     }
 
+    void shouldNotReadWhatWasGivenUpBeforeItsTurn()
+    {
+        m_photos->hold();
+        std::vector<std::unique_ptr<ThumbnailRequest>> requests;
+        int answered = 0;
+        for (int i = 0; i < 4; ++i) {
+            const QUrl photo = write(QStringLiteral("turn%1.heic").arg(i), "red");
+            requests.push_back(m_store->image(photo, [&](const QImage &) { ++answered; }));
+        }
+        QTRY_COMPARE(m_photos->running.load(), 2);
+        requests[2].reset();
+        m_photos->gate.release(4);
+        QTRY_COMPARE(answered, 3);
+        QCOMPARE(m_photos->launched.load(), 3);
+    }
+
     void shouldDropTheAnswerOfACancelledRequestAndKeepNothing()
     {
         const QUrl photo = write(QStringLiteral("gone.heic"), "red");

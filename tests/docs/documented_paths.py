@@ -9,10 +9,11 @@ import sys
 
 
 def named_paths(text):
-    """What stands in backticks or in a link and looks like a path of this tree."""
-    for name in re.findall(r"`([\w.-]+(?:/[\w.-]+)*/?)`", text):
-        if "/" in name:
-            yield name
+    """The words in backticks, commands included, and the links that look like a path of this tree."""
+    for words in re.findall(r"`+([^`]+)`+", text):
+        for word in words.split():
+            if "/" in word and re.fullmatch(r"[\w.-]+(?:/[\w.-]+)*/?", word):
+                yield word
     for name in re.findall(r"\]\(([^)#:]+)\)", text):
         yield name
 

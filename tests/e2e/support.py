@@ -1,9 +1,11 @@
 """What the walks share: the program, photos made on the spot, and what the desktop around it saw."""
 
 import json
+import os
 import pathlib
 import re
 import shutil
+import signal
 import struct
 import subprocess
 import tempfile
@@ -39,6 +41,18 @@ def wait_until(condition, what):
 def run(*command):
     """What a command prints, whatever it ends with."""
     return subprocess.run(command, capture_output=True, text=True, check=False).stdout
+
+
+def windows(name):
+    """The visible windows whose title fits."""
+    return run("xdotool", "search", "--onlyvisible", "--name", name).split()
+
+
+def client_area(window):
+    """x, y, width and height of the window without its decoration."""
+    told = run("xwininfo", "-id", window)  # xdotool counts the decoration twice
+    return tuple(int(re.search(rf"{name}: +(-?\d+)", told).group(1)) for name in
+                 ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
 
 def picture(path, width=64, height=48):
@@ -98,26 +112,50 @@ def everything_in(folder):
 
 
 class Application:
-    """The started program; use it in a with statement."""
+    """The started program, which has to end well and print nothing; use it in a with statement."""
 
-    def __init__(self, program):
-        self.program = program
+    def __init__(self, *command, **environment):
+        self.command = command
+        self.environment = {**os.environ, **environment}
         self.process = None
+        self.end = 0  # what it has to end with
+        self.printed = []
 
     def __enter__(self):
-        self.process = subprocess.Popen([self.program], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        self.process = subprocess.Popen(self.command, env=self.environment, stdout=subprocess.PIPE,
+                                        stderr=subprocess.STDOUT, text=True)
+        self.reader = threading.Thread(target=self.listen, daemon=True)
+        self.reader.start()
         wait_until(lambda: self.windows() or self.process.poll() is not None, "the window")
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, kind, *_):
         if self.process.poll() is None:
             self.process.terminate()
-        self.output = self.process.communicate(timeout=PATIENCE)[0]
+        status = self.process.wait(timeout=PATIENCE)
+        self.reader.join(timeout=PATIENCE)
+        self.process.stdout.close()
+        if kind is None and (status, self.printed) != (self.end, []):
+            raise AssertionError(f"ended with {status} and printed:\n{''.join(self.printed)}")
+
+    def kill(self):
+        """Ends it as the kernel does when memory runs out."""
+        self.end = -signal.SIGKILL
+        self.process.kill()
+        self.process.wait(timeout=PATIENCE)
+
+    def listen(self):
+        for line in self.process.stdout:
+            if not self.is_expected(line):
+                self.printed.append(line)
+
+    def is_expected(self, _line):
+        """Whether the program was asked to print this."""
+        return False
 
     @staticmethod
     def windows():
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Lumaport"], capture_output=True, text=True)
-        return found.stdout.split()
+        return windows("^Lumaport")
 
     def worker_programs(self):
         """Process numbers of the running worker programs: the conversions' and the previews'."""

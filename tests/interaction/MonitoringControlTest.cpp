@@ -16,13 +16,13 @@ private Q_SLOTS:
         AppModel &model = fixture.launch();
         MonitoringControlController controller;
         controller.setModel(&model);
-        QVERIFY(controller.isConverting());
+        QVERIFY(controller.isAutomatic());
         QCOMPARE(controller.buttonTitle(), QStringLiteral("Pause"));
         QSignalSpy changed(&controller, &MonitoringControlController::stateChanged);
         controller.act();
         QVERIFY(!model.isWatching());
         QVERIFY(!changed.isEmpty());
-        QVERIFY(!controller.isConverting());
+        QVERIFY(!controller.isAutomatic());
         QCOMPARE(controller.buttonTitle(), QStringLiteral("Resume"));
         controller.act();
         QVERIFY(model.isWatching());
@@ -37,7 +37,7 @@ private Q_SLOTS:
         controller.setModel(&model);
         for (const bool isWatching : {true, false}) {
             model.setIsWatching(isWatching);
-            QVERIFY(!controller.isConverting());
+            QVERIFY(!controller.isAutomatic());
             QCOMPARE(controller.buttonTitle(), QStringLiteral("Retry"));
         }
         QDir(fixture.home.path()).mkdir(QStringLiteral("Photos"));
@@ -66,6 +66,25 @@ private Q_SLOTS:
         QVERIFY(!scene.model.isWatching());
         QCOMPARE(button->property("text").toString(), QStringLiteral("Resume"));
         QTRY_COMPARE(ground(), QStringLiteral("photon"));
+    }
+
+    void shouldKeepItsTextsAwayFromTheButtonAndSpeakOfItsSymbol()
+    {
+        ModelScene scene;
+        const QQuickItem *card = scene.show("import Lumaport.Interaction\nMonitoringControl { width: 320 }");
+        const QQuickItem *texts = scene.find(QStringLiteral("monitoringTexts"));
+        const QQuickItem *button = scene.find(QStringLiteral("monitoringButton"));
+        QVERIFY(texts);
+        QCOMPARE(button->x() - texts->x() - texts->width(), 12 + 8 + 12.0);
+        QCOMPARE(texts->x(), 13 + 38 + 12.0);
+        QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(const_cast<QQuickItem *>(card));
+        QList<QAccessible::Role> roles;
+        for (int child = 0; child < spoken->childCount(); ++child) {
+            roles << spoken->child(child)->role();
+            QVERIFY(!spoken->child(child)->text(QAccessible::Name).isEmpty());
+        }
+        QCOMPARE(roles, (QList{QAccessible::Graphic, QAccessible::StaticText, QAccessible::StaticText,
+                               QAccessible::Button}));
     }
 
     void shouldWrapALongDetailRatherThanCutIt()

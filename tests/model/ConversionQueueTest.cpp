@@ -6,6 +6,32 @@
 
 using namespace std::chrono_literals;
 
+namespace {
+
+struct CountingStore : DefaultsStore
+{
+    explicit CountingStore(std::shared_ptr<DefaultsStore> kept)
+        : m_store(std::move(kept))
+    {}
+    std::optional<QString> text(const QString &key) const override { return m_store->text(key); }
+    std::optional<QByteArray> data(const QString &key) const override { return m_store->data(key); }
+    std::optional<bool> boolean(const QString &key) const override { return m_store->boolean(key); }
+    void store(const QString &key, const QString &text) override { m_store->store(key, text); }
+    void store(const QString &key, bool value) override { m_store->store(key, value); }
+    void store(const QString &key, const QByteArray &data) override
+    {
+        ++histories;
+        m_store->store(key, data);
+    }
+
+    int histories = 0;
+
+private:
+    std::shared_ptr<DefaultsStore> m_store;
+};
+
+} // namespace
+
 class ConversionQueueTest : public QObject
 {
     Q_OBJECT
@@ -144,6 +170,40 @@ private Q_SLOTS:
         QCOMPARE(model().items().size(), 2);
     }
 
+    void shouldLeaveOutWhatIsOnAnotherMachine()
+    {
+        const QUrl remote(QStringLiteral("gphoto2://camera/DCIM/IMG_1.HEIC"));
+        model().convertManually({remote});
+        QCOMPARE(model().lastEventText(), QStringLiteral("Drop HEIC or HEIF photos here"));
+        model().convertManually({remote, m_fixture->write(QStringLiteral("a.heic"))});
+        ModelFixture::turn();
+        QCOMPARE(statuses(), QStringList{QStringLiteral("a.heic converting")});
+        QCOMPARE(m_fixture->launch().items().size(), 1); // what was stored can be read back
+    }
+
+    void shouldStoreABurstTwice()
+    {
+        const auto counting = std::make_shared<CountingStore>(m_fixture->defaults);
+        m_fixture->defaults = counting;
+        m_fixture->launch();
+        QStringList names;
+        for (int index = 0; index < 30; ++index) {
+            names << QStringLiteral("%1.heic").arg(index);
+        }
+        convert(names);
+        QCOMPARE(counting->histories, 1);
+        ModelFixture::turn();
+        QCOMPARE(counting->histories, 2); // queued, then converting
+        QCOMPARE(m_fixture->engine->running.size(), std::size_t{30});
+
+        for (int index = 30; index < 60; ++index) { // the same of those that the scan finds
+            m_fixture->write(QStringLiteral("%1.heic").arg(index));
+        }
+        m_fixture->settle();
+        QCOMPARE(counting->histories, 4);
+        QCOMPARE(m_fixture->engine->running.size(), std::size_t{60});
+    }
+
     void shouldUseTheSettingsOfTheMomentOfArrival()
     {
         convert({QStringLiteral("a.heic")});
@@ -186,5 +246,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(ConversionQueueTest)
+QTEST_MAIN(ConversionQueueTest)
 #include "ConversionQueueTest.moc"

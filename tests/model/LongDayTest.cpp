@@ -64,5 +64,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(LongDayTest)
+QTEST_MAIN(LongDayTest)
 #include "LongDayTest.moc"

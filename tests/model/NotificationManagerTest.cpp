@@ -32,6 +32,7 @@ private Q_SLOTS:
         QCOMPARE(category.identifier, QStringLiteral("LUMAPORT_CONVERSION_READY"));
         QCOMPARE(category.actions.size(), 1);
         QCOMPARE(category.actions.first().identifier, QStringLiteral("LUMAPORT_SHOW_IN_FINDER"));
+        QCOMPARE(category.actions.first().title, QStringLiteral("Show in Finder"));
     }
 
     void shouldAnnounceEachPhotoByItself()
@@ -63,8 +64,10 @@ private Q_SLOTS:
                            .payload = {{QStringLiteral("outputPath"), 3}}});
         QVERIFY(m_workspace->revealed.isEmpty());
         m_center->respond({.actionIdentifier = NotificationCenter::defaultAction, .payload = payload});
-        m_center->respond(
-            {.actionIdentifier = QStringLiteral("LUMAPORT_SHOW_IN_FINDER"), .payload = payload});
+        m_center->respond({.actionIdentifier = QStringLiteral("LUMAPORT_SHOW_IN_FINDER"),
+                           .payload = payload,
+                           .activationToken = QStringLiteral("token")});
+        QCOMPARE(m_workspace->tokens, QStringList({QString(), QStringLiteral("token")}));
         QCOMPARE(m_workspace->revealed, QList<QUrl>(2, QUrl(QStringLiteral("file:///home/a/1.png"))));
     }
 };

@@ -130,6 +130,7 @@ private Q_SLOTS:
         m_fixture->settle();
         QVERIFY(converted().isEmpty());
         QCOMPARE(model().monitorDetail(), QStringLiteral("New arrivals won’t convert until you resume."));
+        QCOMPARE(model().monitorSymbol(), QStringLiteral("pause.circle.fill"));
         model().setIsWatching(true);
         m_fixture->jobs->advance(100ms);
         m_fixture->jobs->advance(850ms);
@@ -173,6 +174,7 @@ private Q_SLOTS:
         QVERIFY(!model().monitorAvailable());
         QCOMPARE(model().lastEventText(), QStringLiteral("Couldn’t watch Photos"));
         QCOMPARE(model().monitorTitle(), QStringLiteral("Folder unavailable"));
+        QCOMPARE(model().monitorDetail(), QStringLiteral("Check your watched folder, then retry."));
         QCOMPARE(model().monitorSymbol(), QStringLiteral("exclamationmark.triangle.fill"));
 
         QVERIFY(QDir().mkdir(folder));
@@ -182,6 +184,7 @@ private Q_SLOTS:
         m_fixture->jobs->advance(100ms + 850ms);
         ModelFixture::turn();
         QCOMPARE(model().monitorDetail(), QStringLiteral("Watching Photos for new HEIC photos."));
+        QCOMPARE(model().monitorSymbol(), QStringLiteral("checkmark.circle.fill"));
         QCOMPARE(converted(), QStringList{QStringLiteral("a.heic")});
     }
 
@@ -192,7 +195,12 @@ private Q_SLOTS:
         QCOMPARE(model().watchFolder().fileName(), QStringLiteral("Photos"));
         QCOMPARE(m_fixture->panel->requests.first().title,
                  QStringLiteral("Choose the folder where AirDrop saves photos"));
+        QCOMPARE(m_fixture->panel->requests.first().prompt, QStringLiteral("Watch this folder"));
         QCOMPARE(m_fixture->panel->requests.first().folder, model().watchFolder());
+
+        m_fixture->panel->answer = {QUrl(QStringLiteral("sftp://elsewhere/Photos 2"))};
+        model().chooseWatchFolder();
+        QCOMPARE(model().watchFolder().fileName(), QStringLiteral("Photos"));
 
         const QString other = m_fixture->home.filePath(QStringLiteral("Other"));
         QVERIFY(QDir().mkdir(other) && QFile(other + QStringLiteral("/old.heic")).open(QIODevice::WriteOnly));
@@ -221,5 +229,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(WatchingTest)
+QTEST_MAIN(WatchingTest)
 #include "WatchingTest.moc"

@@ -9,7 +9,8 @@
 #include <functional>
 
 // Renders the main window in its states, light and dark, in three sizes, with fixed data and without motion,
-// and the welcome at four moments. Usage: main_window_pictures FOLDER
+// and the welcome at four moments. The scale is that of the platform (QT_SCALE_FACTOR); it is part of the
+// files' names, and any but 1 is for the middle size. Usage: main_window_pictures FOLDER
 
 namespace {
 
@@ -128,7 +129,8 @@ bool save(const QImage &image, const QDir &folder, const QString &name)
 
 bool saveAll(const QDir &folder, QSize size)
 {
-    const QString sizeName = QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+    const QString sizeName =
+        QStringLiteral("%1x%2-%3x").arg(size.width()).arg(size.height()).arg(qGuiApp->devicePixelRatio());
     const QList<State> all = states();
     for (const State &state : all) {
         for (const auto scheme :
@@ -162,7 +164,11 @@ int main(int argc, char **argv)
         return 2;
     }
     const QDir folder(arguments.at(1));
-    for (const QSize size : {QSize(800, 620), QSize(900, 780), QSize(1400, 1000)}) {
+    QList<QSize> sizes{QSize(900, 780)};
+    if (qFuzzyCompare(application.devicePixelRatio(), 1.0)) {
+        sizes << QSize(800, 620) << QSize(1400, 1000);
+    }
+    for (const QSize size : std::as_const(sizes)) {
         if (!saveAll(folder, size)) {
             return 1;
         }

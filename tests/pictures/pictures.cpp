@@ -1,3 +1,4 @@
+#include "MenuBarViewController.h"
 #include "ModelScene.h"
 #include "Typeface.h"
 
@@ -23,7 +24,9 @@ struct Picture
 QByteArray page(int width, int height, const QByteArray &content)
 {
     return "import QtQuick\nimport Lumaport.Vocabulary\nimport Lumaport.Interaction\nimport Lumaport.Views\n"
-           "Rectangle { color: LumaportPalette.night; width: " +
+           "import Lumaport.Shell\n"
+           "Rectangle { id: page; property MenuBarViewController panelController; color: "
+           "LumaportPalette.night; width: " +
            QByteArray::number(width) + "; height: " + QByteArray::number(height) + "\n" + content + "\n}";
 }
 
@@ -93,6 +96,14 @@ QList<Picture> pictures()
             TextButton { text: "Clear history" }
             SymbolLabel { symbol: "lock.shield"; text: "Private by design"; color: LumaportPalette.muted; font.pixelSize: 11 }
         })");
+    const QByteArray panel = page(400, 480, R"(
+        MenuBarView {
+            x: 20; y: 20; width: implicitWidth; height: implicitHeight
+            controller: page.panelController
+        })");
+    const auto panelWith = [](int newest) {
+        return [newest](ModelScene &scene) { scene.model.setItems({oneOfEachState(scene).at(newest)}); };
+    };
     return {
         {QStringLiteral("symbols"), symbolPage()},
         {QStringLiteral("buttons"), buttons},
@@ -126,6 +137,12 @@ QList<Picture> pictures()
                  QStringLiteral("Photos of the whole family/Every single one/2026 and before/Arrivals"));
              scene.model.setItems({scene.item(QStringLiteral("a.heic"), ConversionStatus::converting)});
          }},
+        {QStringLiteral("panel-empty"), panel},
+        {QStringLiteral("panel-paused"), panel, [](ModelScene &scene) { scene.model.setIsWatching(false); }},
+        {QStringLiteral("panel-queued"), panel, panelWith(0)},
+        {QStringLiteral("panel-converting"), panel, panelWith(1)},
+        {QStringLiteral("panel-ready"), panel, panelWith(2)},
+        {QStringLiteral("panel-failed"), panel, panelWith(3)},
     };
 }
 
@@ -135,13 +152,16 @@ QImage rendered(const Picture &picture, SystemAppearance::ColorScheme scheme)
     scene.appearance.setMotion(SystemAppearance::Motion::Reduced);
     scene.appearance.setSystemScheme(scheme);
     picture.prepare(scene);
-    scene.show(picture.content.constData());
+    MenuBarViewController panel(scene.model, {.openMain = [] {}, .quit = [] {}});
+    scene.show(picture.content.constData(),
+               {{QStringLiteral("panelController"), QVariant::fromValue(&panel)}});
     const qsizetype thumbnails = scene.find(QStringLiteral("thumbnail")) ? scene.model.items().size() : 0;
     (void)QTest::qWaitFor([&] { return scene.photos->launched >= thumbnails && scene.photos->running == 0; });
     QCoreApplication::processEvents();
     QImage image = scene.window.grabWindow();
     image.setDevicePixelRatio(
         scene.window.effectiveDevicePixelRatio()); // the software renderer leaves it out
+    scene.close();
     return image;
 }
 

@@ -4,6 +4,18 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
+namespace {
+
+ino_t fileNumber(const QString &path)
+{
+    struct stat status = {};
+    return ::stat(qPrintable(path), &status) == 0 ? status.st_ino : 0;
+}
+
+} // namespace
+
 class DefaultsStoreTest : public QObject
 {
     Q_OBJECT
@@ -19,7 +31,10 @@ private Q_SLOTS:
         written->store(QStringLiteral("text"), QStringLiteral("/home/a, b/Фото \"1\" @x"));
         written->store(QStringLiteral("no"), false);
 
-        const auto read = DefaultsStore::inFile(path); // while the first is still open
+        const QTemporaryDir later; // what a program that starts now would find, whatever this one remembers
+        const QString copy = later.filePath(QStringLiteral("copy.conf"));
+        QVERIFY(QFile::copy(path, copy));
+        const auto read = DefaultsStore::inFile(copy);
         QCOMPARE(*read->data(QStringLiteral("data")), json);
         QCOMPARE(*read->text(QStringLiteral("text")), QStringLiteral("/home/a, b/Фото \"1\" @x"));
         QCOMPARE(*read->boolean(QStringLiteral("no")), false);
@@ -38,7 +53,20 @@ private Q_SLOTS:
         QVERIFY(!store->boolean(QStringLiteral("isWatching")));
         QVERIFY(!store->text(QStringLiteral("watchFolder")));
         store->store(QStringLiteral("isWatching"), true);
-        QCOMPARE(*DefaultsStore::inFile(path)->boolean(QStringLiteral("isWatching")), true);
+        QVERIFY(file.open(QIODevice::ReadOnly) && file.readAll().contains("isWatching=true"));
+    }
+
+    void shouldWriteOnlyWhatChanged()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("lumaport.conf"));
+        const auto store = DefaultsStore::inFile(path);
+        store->store(QStringLiteral("items"), QByteArray("[]"));
+        const ino_t first = fileNumber(path);
+        store->store(QStringLiteral("items"), QByteArray("[]"));
+        QCOMPARE(fileNumber(path), first); // each write replaces the file
+        store->store(QStringLiteral("items"), QByteArray("[1]"));
+        QVERIFY(fileNumber(path) != first);
     }
 };
 

@@ -5,6 +5,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusServiceWatcher>
 #include <QDesktopServices>
 #include <QSignalSpy>
 #include <QTest>
@@ -51,10 +52,20 @@ class FileManagerService : public QObject
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
 
 public Q_SLOTS:
-    void ShowItems(const QStringList &uris, const QString & /*startup*/) { shown += uris; } // NOLINT
+    void ShowItems(const QStringList &uris, const QString &startup, const QDBusMessage &message) // NOLINT
+    {
+        shown += uris;
+        startups += startup;
+        if (!error.isEmpty()) {
+            message.setDelayedReply(true);
+            QDBusConnection(QStringLiteral("services")).send(message.createErrorReply(error, QString()));
+        }
+    }
 
 public:
     QStringList shown;
+    QStringList startups;
+    QString error; ///< the name of what it answers with; empty: it does as asked
 };
 
 /// What opens a URL when no file manager answers.
@@ -88,6 +99,12 @@ private:
                                              QDBusConnection::ExportAllSlots));
         QVERIFY(serviceSide().registerService(notifications));
     }
+    void startFileManager(FileManagerService &manager) const
+    {
+        QVERIFY(serviceSide().registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &manager,
+                                             QDBusConnection::ExportAllSlots));
+        QVERIFY(serviceSide().registerService(fileManager));
+    }
     static NotificationRequest request()
     {
         return {.identifier = QStringLiteral("one"),
@@ -97,7 +114,7 @@ private:
                 .categoryIdentifier = QStringLiteral("ready"),
                 .payload = {{QStringLiteral("outputPath"), QStringLiteral("/a")}},
                 .soundName = QStringLiteral("a.wav"),
-                .imagePath = QStringLiteral("/a.png"),
+                .image = QUrl::fromLocalFile(QStringLiteral("/a 1.png")),
                 .delay = 250ms};
     }
 
@@ -133,6 +150,8 @@ private Q_SLOTS:
     {
         serviceSide().unregisterService(notifications);
         serviceSide().unregisterObject(QStringLiteral("/org/freedesktop/Notifications"));
+        serviceSide().unregisterService(fileManager);
+        serviceSide().unregisterObject(QStringLiteral("/org/freedesktop/FileManager1"));
     }
 
     void shouldPostAfterTheDelayAndReportClicks()
@@ -151,13 +170,15 @@ private Q_SLOTS:
                                                       QStringLiteral("show"), QStringLiteral("Show")}));
         const QVariantMap hints = call[6].toMap();
         QCOMPARE(hints.value(QStringLiteral("suppress-sound")), QVariant(true));
-        QCOMPARE(hints.value(QStringLiteral("image-path")), QVariant(QStringLiteral("/a.png")));
+        QCOMPARE(hints.value(QStringLiteral("image-path")), QVariant(QStringLiteral("file:///a%201.png")));
 
         emitSignal(QStringLiteral("ActionInvoked"), {99U, QStringLiteral("default")}); // another program's
+        emitSignal(QStringLiteral("ActivationToken"), {1U, QStringLiteral("token")});
         emitSignal(QStringLiteral("ActionInvoked"), {1U, QStringLiteral("show")});
         QTRY_COMPARE(m_responses.size(), 1);
         QCOMPARE(m_responses.first().actionIdentifier, QStringLiteral("show"));
         QCOMPARE(m_responses.first().payload, request().payload);
+        QCOMPARE(m_responses.first().activationToken, QStringLiteral("token"));
 
         emitSignal(QStringLiteral("NotificationClosed"), {1U, 2U});
         emitSignal(QStringLiteral("ActionInvoked"), {1U, QStringLiteral("default")});
@@ -171,12 +192,33 @@ private Q_SLOTS:
     {
         startNotificationService();
         m_service.capabilities << QStringLiteral("body-markup");
-        for (int count = 1; count <= 2; ++count) { // the first makes the center ask what the service can do
-            m_center->add(request());
-            m_jobs->advance(250ms);
-            QTRY_COMPARE(m_chime->played.size(), count);
-        }
-        QCOMPARE(m_service.calls.last()[4].toString(), QStringLiteral("&lt;b&gt;&amp;.png\nBody"));
+        m_center->add(request());
+        m_jobs->advance(250ms);
+        QTRY_COMPARE(m_service.calls.size(), 1);
+        QCOMPARE(m_service.calls.first()[4].toString(), QStringLiteral("&lt;b&gt;&amp;.png\nBody"));
+    }
+
+    void shouldForgetWhatAServiceShowedThatIsGone()
+    {
+        startNotificationService();
+        m_service.capabilities << QStringLiteral("body-markup");
+        m_center->add(request());
+        m_jobs->advance(250ms);
+        QTRY_COMPARE(m_chime->played.size(), 1);
+
+        const QDBusServiceWatcher watcher(notifications, QDBusConnection::sessionBus(),
+                                          QDBusServiceWatcher::WatchForOwnerChange);
+        QSignalSpy changes(&watcher, &QDBusServiceWatcher::serviceOwnerChanged);
+        QVERIFY(serviceSide().unregisterService(notifications));
+        m_service.capabilities.clear();
+        QVERIFY(serviceSide().registerService(notifications));
+        QTRY_COMPARE(changes.size(), 2); // the center has heard of it before
+        emitSignal(QStringLiteral("ActionInvoked"), {1U, QStringLiteral("show")}); // another program's now
+        m_center->add(request());
+        m_jobs->advance(250ms);
+        QTRY_COMPARE(m_service.calls.size(), 2);
+        QCOMPARE(m_service.calls.last()[4].toString(), QStringLiteral("<b>&.png\nBody"));
+        QVERIFY(m_responses.isEmpty());
     }
 
     void shouldStaySilentWithoutABus()
@@ -191,14 +233,31 @@ private Q_SLOTS:
     void shouldRevealThroughTheFileManager()
     {
         FileManagerService manager;
-        QVERIFY(serviceSide().registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &manager,
-                                             QDBusConnection::ExportAllSlots));
-        QVERIFY(serviceSide().registerService(fileManager));
+        startFileManager(manager);
         DesktopWorkspace workspace(QDBusConnection::sessionBus());
-        workspace.reveal(QUrl::fromLocalFile(QStringLiteral("/home/a/Ö 1#.png")));
+        workspace.reveal(QUrl::fromLocalFile(QStringLiteral("/home/a/Ö 1#.png")), QStringLiteral("token"));
         QTRY_COMPARE(manager.shown, QStringList{QStringLiteral("file:///home/a/%C3%96%201%23.png")});
-        serviceSide().unregisterService(fileManager);
-        serviceSide().unregisterObject(QStringLiteral("/org/freedesktop/FileManager1"));
+        QCOMPARE(manager.startups, QStringList{QStringLiteral("token")});
+    }
+
+    void shouldOpenTheFolderWhereTheFileManagerRefuses()
+    {
+        FallbackHandler handler;
+        QDesktopServices::setUrlHandler(QStringLiteral("file"), &handler, "open");
+        FileManagerService manager;
+        startFileManager(manager);
+        DesktopWorkspace workspace(QDBusConnection::sessionBus());
+        const auto reveal = [&](const QString &folder, const QString &error) {
+            manager.error = error;
+            workspace.reveal(QUrl::fromLocalFile(folder + QStringLiteral("/1.png")), QString());
+            QTRY_COMPARE(manager.shown.size(), 1);
+            manager.shown.clear();
+        };
+        reveal(QStringLiteral("/slow"), QStringLiteral("org.freedesktop.DBus.Error.NoReply"));
+        reveal(QStringLiteral("/refused"), QStringLiteral("org.freedesktop.DBus.Error.Failed"));
+        // Answers come in order: what the first one might have opened would stand before this.
+        QTRY_COMPARE(handler.opened, QList{QUrl(QStringLiteral("file:///refused/"))});
+        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
     }
 
     void shouldOpenTheFolderWhereNoFileManagerAnswers()
@@ -206,7 +265,7 @@ private Q_SLOTS:
         FallbackHandler handler;
         QDesktopServices::setUrlHandler(QStringLiteral("file"), &handler, "open");
         DesktopWorkspace workspace(QDBusConnection(QStringLiteral("no bus")));
-        workspace.reveal(QUrl::fromLocalFile(QStringLiteral("/home/a/1.png")));
+        workspace.reveal(QUrl::fromLocalFile(QStringLiteral("/home/a/1.png")), QString());
         QTRY_COMPARE(handler.opened, QList{QUrl(QStringLiteral("file:///home/a/"))});
         QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
     }

@@ -131,13 +131,19 @@ private Q_SLOTS:
 
     void shouldSetTheWidgetPaletteWithTheEffectiveScheme()
     {
-        const auto isDark = [] {
-            return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
+        const auto isDark = [](QPalette::ColorRole ground, QPalette::ColorRole text) {
+            const QPalette palette = QGuiApplication::palette();
+            return palette.color(ground).lightness() < palette.color(text).lightness();
         };
         m_appearance->force(SystemAppearance::ColorScheme::Dark);
-        QVERIFY(isDark());
+        QVERIFY(isDark(QPalette::Window, QPalette::WindowText));
+        QVERIFY(isDark(QPalette::ToolTipBase, QPalette::ToolTipText));
         m_appearance->force(std::nullopt);
-        QVERIFY(!isDark());
+        QVERIFY(!isDark(QPalette::Window, QPalette::WindowText));
+
+        QGuiApplication::setPalette(QPalette(Qt::black)); // a dark desktop that no portal tells of
+        m_appearance->force(SystemAppearance::ColorScheme::Light);
+        QVERIFY(!isDark(QPalette::Window, QPalette::WindowText));
     }
 };
 

@@ -1,10 +1,13 @@
 #include "DesktopStatusItem.h"
 #include "StatusNotifierItem.h"
 #include "StatusNotifierMenu.h"
+#include "TrayIconItem.h"
 
+#include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
 #include <QtEndian>
@@ -209,6 +212,14 @@ private Q_SLOTS:
         QCOMPARE(property(2, "toggle-state").toInt(), 1);
         QCOMPARE(property(3, "enabled"), QVariant(false));
 
+        const auto answered = [&watcher](const QList<int> &ids) {
+            const QDBusMessage properties =
+                watcher.menu(QStringLiteral("GetGroupProperties"), {QVariant::fromValue(ids), QStringList()});
+            return qdbus_cast<StatusNotifierMenuProperties>(properties.arguments().value(0)).size();
+        };
+        QCOMPARE(answered({1, 4, 99}), 2);
+        QCOMPARE(answered({}), 5); // all of them, and the root
+
         const auto event = [&watcher](int id, const char *kind) {
             watcher.menu(QStringLiteral("Event"),
                          {id, QLatin1String(kind), QVariant::fromValue(QDBusVariant(QString())), 0U});
@@ -220,6 +231,39 @@ private Q_SLOTS:
         event(root.children.at(3).id, "clicked");
         QCOMPARE(forbidden, 0);
         event(99, "clicked");
+    }
+
+    void shouldChangeTheOldTraysMenuInPlace()
+    {
+        TrayIconItem item;
+        int chosen = 0;
+        int opened = 0;
+        const auto entries = [&](const char *title, bool isPng) {
+            return QList<StatusMenuEntry>{
+                {.title = QLatin1String(title), .isChecked = {}, .action = [&opened] { ++opened; }},
+                {.kind = StatusMenuEntry::Kind::separator, .title = {}, .isChecked = {}, .action = {}},
+                {.title = QStringLiteral("PNG"), .isChecked = isPng, .action = [&chosen] { ++chosen; }},
+                {.title = QStringLiteral("JPEG"), .isChecked = !isPng, .action = [&chosen] { ++chosen; }}};
+        };
+        item.setMenu(entries("Pause", true));
+        const QWidgetList widgets = QApplication::topLevelWidgets();
+        const auto *menu = qobject_cast<QMenu *>(widgets.constFirst());
+        QVERIFY(menu);
+        const QList<QAction *> lines = menu->actions();
+        QCOMPARE(lines.size(), 4);
+        QVERIFY(lines.at(1)->isSeparator());
+        lines.at(2)->trigger(); // one of the two holds, also when it is chosen again
+        QVERIFY(lines.at(2)->isChecked());
+        QCOMPARE(chosen, 1);
+
+        item.setMenu(entries("Resume", false)); // as under the pointer
+        QCOMPARE(menu->actions(), lines);
+        QCOMPARE(lines.at(0)->text(), QStringLiteral("Resume"));
+        QVERIFY(lines.at(3)->isChecked() && !lines.at(2)->isChecked());
+        lines.at(0)->trigger();
+        QCOMPARE(opened, 1);
+        item.setMenu(entries("Resume", false).mid(0, 2));
+        QCOMPARE(menu->actions().size(), 2);
     }
 
     void shouldUseTheOldTrayOnlyWhileNoHostShowsTheItem()

@@ -165,6 +165,12 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowActive(panel));
         other.requestActivate();
         QTRY_VERIFY(!panel->isVisible());
+        shell.delegate.togglePopover(); // a command, which took the focus from nobody
+        QVERIFY(panel->isVisible());
+
+        QVERIFY(QTest::qWaitForWindowActive(panel));
+        other.requestActivate();
+        QTRY_VERIFY(!panel->isVisible());
         shell.jobs->advance(1s); // a click of its own
         Q_EMIT shell.item->activated();
         QVERIFY(panel->isVisible());
@@ -209,6 +215,22 @@ private Q_SLOTS:
         QVERIFY(QDir(shell.home.path()).mkdir(QStringLiteral("Photos")));
         command("Retry").action();
         QVERIFY(shell.model().monitorAvailable());
+    }
+
+    void shouldTouchItsMenuOnlyForWhatShows()
+    {
+        ShellFixture shell;
+        shell.configureMenuBar();
+        QCOMPARE(shell.item->menus, 1);
+        shell.model().convertManually(
+            {shell.write(QStringLiteral("IMG_1.HEIC")), shell.write(QStringLiteral("IMG_2.HEIC"))});
+        shell.turn();
+        ConversionSettings settings = shell.model().settings();
+        settings.jpegQuality = 0.5;
+        shell.model().setSettings(settings);
+        QCOMPARE(shell.item->menus, 1);
+        shell.model().setIsWatching(false);
+        QCOMPARE(shell.item->menus, 2);
     }
 
     void shouldOpenTheWindowThenReplayTheWelcomeOneTurnLater()

@@ -1,8 +1,25 @@
 #include "ShellFixture.h"
 
 #include <QQuickItem>
+#include <QTranslator>
+
+#include <functional>
 
 namespace {
+
+/// Says everything five times over.
+class LongWindedTranslator : public QTranslator
+{
+public:
+    LongWindedTranslator() { QCoreApplication::installTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char * /*context*/, const char *text, const char * /*disambiguation*/,
+                      int /*count*/) const override
+    {
+        return QString(QString::fromUtf8(text) + QLatin1Char(' ')).repeated(5);
+    }
+};
 
 /// The open panel, its items found by name.
 class OpenPanelFixture : public ShellFixture
@@ -107,6 +124,40 @@ private Q_SLOTS:
         QVERIFY(panel.find("arrivalStatus")->height() > 3 * oneLine);
         QCOMPARE(panel.find("arrivalName")->height(), oneLine);
         QCOMPARE(panel.window->width(), 360);
+    }
+
+    void shouldWrapTextsOfAnyLength()
+    {
+        const LongWindedTranslator translator;
+        OpenPanelFixture panel;
+        panel.model().convertManually({panel.write(QStringLiteral("IMG_1.HEIC"))});
+        QVERIFY(panel.shows("busyLine"));
+        const QQuickItem *root = panel.window->rootObject();
+        const QRectF inside = root->boundingRect().marginsRemoved({18.0, 18.0, 18.0, 18.0});
+        int texts = 0;
+        const std::function<void(const QQuickItem *)> check = [&](const QQuickItem *item) {
+            if (item->objectName() == QLatin1String("monitoring")) {
+                return; // another view's, with a button that no language makes this long
+            }
+            if (item->isVisible() && item->property("truncated").isValid()) {
+                const QRectF place = item->mapRectToItem(root, item->boundingRect());
+                const QByteArray text = item->property("text").toString().toUtf8();
+                QVERIFY2(inside.contains(place), text.constData());
+                QVERIFY2(!item->property("truncated").toBool(), text.constData());
+                QVERIFY2(item->property("contentWidth").toDouble() < item->width() + 1.0, text.constData());
+                ++texts;
+            }
+            for (const QQuickItem *child : item->childItems()) {
+                check(child);
+            }
+        };
+        check(root);
+        QVERIFY(texts > 8);
+        const auto apart = [&](const char *left, const char *right) {
+            return panel.find(left)->x() + panel.find(left)->width() < panel.find(right)->x();
+        };
+        QVERIFY(apart("formatCaption", "formatControl"));
+        QVERIFY(apart("openButton", "quitButton"));
     }
 
     void shouldKeepItsDistances()

@@ -19,7 +19,11 @@ struct RecordingStatusItem : StatusItem
         look = newLook;
         ++looks;
     }
-    void setMenu(const QList<StatusMenuEntry> &newEntries) override { entries = newEntries; }
+    void setMenu(const QList<StatusMenuEntry> &newEntries) override
+    {
+        entries = newEntries;
+        ++menus;
+    }
     std::optional<QRect> place() const override { return where; }
 
     /// The command of this title; it must be there once.
@@ -36,6 +40,7 @@ struct RecordingStatusItem : StatusItem
     StatusItemLook look;
     int looks = 0;
     QList<StatusMenuEntry> entries;
+    int menus = 0;
     std::optional<QRect> where;
 };
 

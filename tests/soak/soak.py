@@ -84,8 +84,7 @@ def kills():
             for index in range(4):
                 land(source, f"IMG_{index}.HEIC")
             time.sleep(CHANCE.uniform(1.1, 2.6))
-            application.process.kill()
-            application.process.wait()
+            application.kill()
         nothing_left()
         found = list(COPIES.glob("*")) if COPIES.exists() else []
         assert all(is_whole(copy) for copy in found), found

@@ -48,7 +48,13 @@ struct FakeImageWorkerLauncher : ImageWorkerLauncher
 {
     std::unique_ptr<ImageWorker> launch() override { return std::make_unique<FakeImageWorker>(worker); }
     void prepare() override {}
-    void endAll() override {}
+    void endAll() override
+    {
+        if (whenEnded) {
+            whenEnded();
+        }
+    }
 
     FakeImageWorker worker;
+    std::function<void()> whenEnded;
 };

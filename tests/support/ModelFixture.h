@@ -73,10 +73,15 @@ struct RecordingNotificationCenter : NotificationCenter
 
 struct RecordingWorkspace : Workspace
 {
-    void reveal(const QUrl &file) override { revealed.append(file); }
+    void reveal(const QUrl &file, const QString &activationToken) override
+    {
+        revealed.append(file);
+        tokens.append(activationToken);
+    }
     void open(const QUrl &folder) override { opened.append(folder); }
 
     QList<QUrl> revealed;
+    QStringList tokens; ///< of each that was revealed
     QList<QUrl> opened;
 };
 

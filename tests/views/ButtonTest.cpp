@@ -23,6 +23,20 @@ void pressThroughAccessibility(QQuickItem *item)
         QAccessibleActionInterface::pressAction());
 }
 
+/// The visible text item below `item` with this text; nothing when there is none.
+const QQuickItem *shownText(const QQuickItem *item, const QString &text)
+{
+    if (item->isVisible() && item->inherits("QQuickText") && item->property("text") == text) {
+        return item;
+    }
+    for (const QQuickItem *child : item->childItems()) {
+        if (const QQuickItem *found = shownText(child, text)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
 
 class ButtonTest : public QObject
@@ -122,6 +136,31 @@ private Q_SLOTS:
         QTRY_VERIFY(qAbs(button->scale() - scale) < 1e-3);
         QTest::mouseRelease(&scene.window, Qt::LeftButton, {}, scene.centre(button));
         QTRY_COMPARE(button->scale(), 1.0);
+    }
+
+    void shouldSayWhatItDoesInPlainTextAndInTheAppearancesColours()
+    {
+        Scene scene;
+        scene.appearance.force(SystemAppearance::ColorScheme::Dark);
+        scene.show(R"(
+            import QtQuick
+            import Lumaport.Vocabulary
+            Item {
+                width: 300; height: 100
+                PlainButton { objectName: "button"; x: 100; y: 50; text: "Photos"; help: "/home/<b>ada" }
+            })");
+        scene.hover(scene.find(QStringLiteral("button")));
+        const auto tip = [&] {
+            return shownText(scene.window.contentItem(), QStringLiteral("/home/<b>ada"));
+        };
+        QTRY_VERIFY(tip());
+        scene.window.grabWindow(); // it gets its place with the next frame
+        const QQuickItem *text = tip();
+        QCOMPARE(text->property("textFormat").toInt(), int(Qt::PlainText));
+        const QPoint left = text->mapToScene(QPointF(-4, text->height() / 2)).toPoint();
+        QCOMPARE(scene.window.grabWindow().pixelColor(left).name(), QStringLiteral("#252f49"));
+        QTest::mouseMove(&scene.window, QPoint(10, 10));
+        QTRY_VERIFY(!tip());
     }
 
     void shouldTakeTheOtherColoursWhenTheAppearanceChanges()

@@ -100,6 +100,29 @@ private Q_SLOTS:
         QCOMPARE(scene.window.grabWindow(), without);
     }
 
+    void shouldPaintNothingOfTheGradientAroundAPicture()
+    {
+        ModelScene scene;
+        const ConversionItem photo = scene.item(QStringLiteral("a.heic"), ConversionStatus::ready, "orange");
+        const QQuickItem *thumbnail =
+            scene.show("import Lumaport.Views\nPhotoThumbnail { width: 52; height: 52; cornerRadius: 11 }");
+        scene.find({})->setProperty("url", photo.sourceURL);
+        QTRY_VERIFY(thumbnail->property("loaded").toBool());
+        const QImage picture = scene.window.grabWindow();
+        for (int y = 0; y < 52; ++y) {
+            for (int x = 0; x < 52; ++x) {
+                QVERIFY2(picture.pixelColor(x, y).red() > 252, "orange and white have all of their red");
+            }
+        }
+    }
+
+    void shouldLeaveOutAPlaceholderThatIsTooSmallToBeSeen()
+    {
+        ModelScene scene;
+        scene.show("import Lumaport.Views\nPhotoThumbnail { width: 42; height: 42 }");
+        QVERIFY(scene.window.grabWindow().pixelColor(21, 21).red() < 130); // of the gradient, not white
+    }
+
     void shouldOfferTheOneActionOfEachRow()
     {
         ModelScene scene;
@@ -167,7 +190,15 @@ private Q_SLOTS:
         picker->forceActiveFocus(Qt::TabFocusReason);
         scene.press(Qt::Key_Return);
         QTRY_VERIFY(picker->property("down").toBool());
+        const auto *menu =
+            picker->property("popup").value<QObject *>()->property("contentItem").value<QQuickItem *>();
+        const auto isSaidToBeChosen = [menu] {
+            auto *entry = menu->property("currentItem").value<QQuickItem *>();
+            return QAccessible::queryAccessibleInterface(entry)->state().selected;
+        };
+        QVERIFY(isSaidToBeChosen());
         scene.press(Qt::Key_Up);
+        QVERIFY(!isSaidToBeChosen());
         scene.press(Qt::Key_Return);
         QCOMPARE(scene.model.settings().outputLocation, OutputLocation::alongside);
         QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(picker);
@@ -207,6 +238,21 @@ private Q_SLOTS:
         QVERIFY(close->mapToItem(item, QPointF()).y() >= 0);
         scene.press(Qt::Key_Return);
         QCOMPARE(item->property("closings").toInt(), 1);
+    }
+
+    void shouldShowHowFarItIsScrolledOnDarkGroundToo()
+    {
+        ModelScene scene;
+        scene.appearance.force(SystemAppearance::ColorScheme::Dark);
+        scene.show(panel);
+        QTest::mouseMove(&scene.window, QPoint(100, 300));
+        const auto bar = [&] { return scene.window.grabWindow().pixelColor(258 - 5, 40).lightness(); };
+        const int ground = bar();
+        QWheelEvent wheel(QPointF(100, 300), QPointF(100, 300), {}, QPoint(0, -120), Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&scene.window, &wheel);
+        QTRY_VERIFY(bar() > ground + 60);
+        QTRY_COMPARE(bar(), ground);
     }
 
     void shouldWrapALongPathAndStayUsableWhileBusy()

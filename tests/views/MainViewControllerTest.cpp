@@ -147,6 +147,8 @@ private Q_SLOTS:
         QVERIFY(m_controller->dragEntered({m_fixture->url(QStringLiteral("holiday.jpg"))}));
         QVERIFY(
             !m_controller->drop({m_fixture->url(QStringLiteral("holiday.jpg")), m_fixture->url(QString())}));
+        QVERIFY(!m_controller->drop({m_fixture->url(QStringLiteral("holiday.jpg")),
+                                     QUrl(QStringLiteral("https://example.org/IMG_1.HEIC"))}));
         QCOMPARE(m_fixture->model().lastEventText(), QStringLiteral("Drop HEIC or HEIF photos here"));
         QVERIFY(m_fixture->model().items().isEmpty());
     }
@@ -201,5 +203,5 @@ private:
     std::unique_ptr<MainViewController> m_controller;
 };
 
-QTEST_GUILESS_MAIN(MainViewControllerTest)
+QTEST_MAIN(MainViewControllerTest)
 #include "MainViewControllerTest.moc"

@@ -5,6 +5,7 @@
 
 #include <QAccessible>
 #include <QMimeData>
+#include <QSignalSpy>
 
 namespace {
 
@@ -104,6 +105,21 @@ private Q_SLOTS:
         QCOMPARE(place(), before);
     }
 
+    void shouldNotShowOneCardThroughTheOtherWhileItSwitches()
+    {
+        m_scene->appearance.setMotion(SystemAppearance::Motion::Full);
+        show();
+        QTest::mouseMove(&m_scene->window, QPoint(300, 30));
+        const QPoint edge = m_scene->find(QStringLiteral("card2"))->mapToScene(QPointF(3, 60)).toPoint();
+        const auto isBright = [&] { return m_scene->window.grabWindow().pixelColor(edge).red() > 240; };
+        QVERIFY(isBright());
+        m_controller->setShowingHistory(true);
+        while (m_scene->find(QStringLiteral("headline"))) {
+            QVERIFY(isBright()); // between a card's white and the window's ground
+            QCoreApplication::processEvents();
+        }
+    }
+
     void shouldSwitchItsWorkspacesByPointerKeysAndAssistiveInterface()
     {
         show();
@@ -119,13 +135,78 @@ private Q_SLOTS:
         m_scene->press(Qt::Key_Left);
         QVERIFY(!m_controller->showingHistory());
         QVERIFY(airDrop->hasActiveFocus());
-        m_scene->press(Qt::Key_Right);
-        m_scene->press(Qt::Key_Left);
-        m_scene->press(Qt::Key_Space);
+        m_scene->press(Qt::Key_Left); // there is none further left
         QVERIFY(!m_controller->showingHistory());
+        m_scene->press(Qt::Key_Right);
+        QVERIFY(m_controller->showingHistory());
+        QVERIFY(recent->hasActiveFocus());
+        m_controller->setShowingHistory(false);
         QAccessible::queryAccessibleInterface(recent)->actionInterface()->doAction(
             QAccessibleActionInterface::pressAction());
         QVERIFY(m_controller->showingHistory());
+    }
+
+    void shouldKeepItsWorkspaceWhenTheWindowBecomesActiveAgain()
+    {
+        show();
+        QQuickItem *recent = m_scene->find(QStringLiteral("recentPhotosTab"));
+        m_scene->find(QStringLiteral("airDropTab"))->forceActiveFocus(Qt::TabFocusReason);
+        m_scene->click(recent);
+        QVERIFY2(recent->hasActiveFocus(), "the ring goes with the choice");
+        QWindow other;
+        other.show();
+        other.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        m_scene->window.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&m_scene->window));
+        QVERIFY(m_controller->showingHistory());
+    }
+
+    void shouldLeadTheKeyboardFromTopToBottom()
+    {
+        show();
+        QStringList way;
+        for (int stop = 0; stop < 8; ++stop) {
+            m_scene->press(Qt::Key_Tab);
+            way << m_scene->window.activeFocusItem()->objectName();
+        }
+        QCOMPARE(way.join(u' '),
+                 QStringLiteral("segment0 optionsButton monitoringButton airDropTab folderButton stageButton "
+                                "chooseButton segment0"));
+    }
+
+    void shouldScrollToTheControlThatTheKeyboardReaches()
+    {
+        QQuickItem *view = show();
+        view->setHeight(330);
+        QQuickItem *choose = m_scene->find(QStringLiteral("chooseButton"));
+        const auto bottom = [&] { return choose->mapToItem(view, QPointF(0, choose->height())).y(); };
+        QVERIFY(bottom() > view->height());
+        choose->forceActiveFocus(Qt::TabFocusReason);
+        QVERIFY(bottom() < view->height());
+    }
+
+    void shouldWriteAChoiceOnce()
+    {
+        QQuickItem *view = show();
+        QSignalSpy settings(&m_scene->model, &AppModel::settingsChanged);
+        QSignalSpy appearance(&m_scene->model, &AppModel::appearanceModeChanged);
+        for (const QQuickItem *segment : all(view, QStringLiteral("segment1"))) {
+            m_scene->click(segment);
+        }
+        QCOMPARE(m_scene->model.settings().format, OutputFormat::jpeg);
+        QCOMPARE(m_scene->model.appearanceMode(), AppearanceMode::light);
+        QCOMPARE(settings.size(), 1);
+        QCOMPARE(appearance.size(), 1);
+    }
+
+    void shouldGiveItsTopBarTheRoomOfItsTallestControl()
+    {
+        show();
+        const QQuickItem *below = m_scene->find(QStringLiteral("scroll"));
+        QCOMPARE(below->mapToScene(QPointF()).y(), 10 + 36 + 10.0);
+        const QQuickItem *options = m_scene->find(QStringLiteral("optionsButton"));
+        QCOMPARE(options->size(), QSizeF(12 + 20 + 12, 8 + 16 + 8));
     }
 
     void shouldOpenAndCloseItsOptions()
@@ -158,6 +239,34 @@ private Q_SLOTS:
         QCOMPARE(last, 1.0);
     }
 
+    void shouldBeDeafInOptionsThatSlideOut()
+    {
+        m_scene->appearance.setMotion(SystemAppearance::Motion::Full);
+        const QQuickItem *view = show();
+        m_controller->setOptionsVisible(true);
+        QTRY_COMPARE(view->property("optionsShown").toDouble(), 1.0);
+        m_controller->setOptionsVisible(false);
+        m_scene->click(m_scene->find(QStringLiteral("changeFolder")));
+        QVERIFY(m_fixture->panel->requests.isEmpty());
+    }
+
+    void shouldHandTheKeyboardBackWhenItsOptionsClose()
+    {
+        show();
+        m_controller->setOptionsVisible(true);
+        m_scene->find(QStringLiteral("close"))->forceActiveFocus(Qt::TabFocusReason);
+        m_scene->press(Qt::Key_Return);
+        QVERIFY(!m_controller->optionsVisible());
+        QQuickItem *button = m_scene->find(QStringLiteral("optionsButton"));
+        QVERIFY(button->hasActiveFocus());
+        QVERIFY(button->property("visualFocus").toBool());
+        m_scene->press(Qt::Key_Return);
+        QVERIFY(m_controller->optionsVisible());
+        m_scene->click(m_scene->find(QStringLiteral("close")));
+        QVERIFY(button->hasActiveFocus());
+        QVERIFY2(!button->property("visualFocus").toBool(), "no ring after a click");
+    }
+
     void shouldAskForPhotosFromTheStage()
     {
         show();
@@ -173,12 +282,17 @@ private Q_SLOTS:
     void shouldHideEverythingWhileTheWelcomeIsShown()
     {
         show();
+        QQuickItem *choose = m_scene->find(QStringLiteral("chooseButton"));
+        choose->forceActiveFocus(Qt::TabFocusReason);
         m_fixture->model().setWelcomeReplayToken(1);
         ModelFixture::turn();
         QVERIFY(!m_scene->find(QStringLiteral("chooseButton")));
+        m_scene->press(Qt::Key_Space);
+        QVERIFY(m_fixture->panel->requests.isEmpty());
         m_scene->press(Qt::Key_Return); // with reduced motion its button is there at once
         QVERIFY(!m_controller->showsWelcome());
-        QVERIFY(m_scene->find(QStringLiteral("chooseButton")));
+        QCOMPARE(m_scene->find(QStringLiteral("chooseButton")), choose);
+        QVERIFY2(choose->hasActiveFocus(), "the keyboard is where it was");
     }
 
 private:
@@ -219,6 +333,18 @@ private:
     QString text(const char *name) const
     {
         return m_scene->find(QLatin1String(name))->property("text").toString();
+    }
+
+    static QList<QQuickItem *> all(QQuickItem *item, const QString &name)
+    {
+        QList<QQuickItem *> found;
+        if (item->objectName() == name && item->isVisible()) {
+            found << item;
+        }
+        for (QQuickItem *child : item->childItems()) {
+            found << all(child, name);
+        }
+        return found;
     }
 
     static void checkNothingIsCut(const QQuickItem *item, const QRectF &room)

@@ -116,5 +116,5 @@ private:
     std::unique_ptr<PhotoLandingStageController> m_stage;
 };
 
-QTEST_GUILESS_MAIN(PhotoLandingStageControllerTest)
+QTEST_MAIN(PhotoLandingStageControllerTest)
 #include "PhotoLandingStageControllerTest.moc"

@@ -1,3 +1,5 @@
+#include "DefaultsStore.h"
+#include "MainViewController.h"
 #include "ModelScene.h"
 
 #include <QAccessible>
@@ -5,21 +7,30 @@
 
 namespace {
 
-constexpr auto views = R"(
-    import QtQuick
-    import Lumaport.Interaction
-    import Lumaport.Views
-    Row {
-        width: 760; height: 700
-        OptionsPanel { width: 258; height: 700 }
-        Column {
-            width: 500
-            MonitoringControl { width: 500 }
-            FormatControl {}
-            AppearanceControl {}
-            ArrivalsList { width: 500 }
-        }
-    })";
+/// The main window's content with its options open, and what else shows texts.
+class Views : public ModelScene
+{
+public:
+    Views()
+        : controller(model, fixture.defaults)
+    {
+        controller.finishWelcome();
+        controller.setOptionsVisible(true);
+        ConversionSettings settings = model.settings();
+        settings.format = OutputFormat::jpeg;
+        model.setSettings(settings);
+        model.setItems({item(QStringLiteral("a.heic"), ConversionStatus::ready),
+                        item(QStringLiteral("b.heic"), ConversionStatus::failed),
+                        item(QStringLiteral("c.heic"), ConversionStatus::converting)});
+        appearance.setMotion(SystemAppearance::Motion::Reduced);
+        shown = show("import Lumaport.Views\nMainView { width: 800; height: 900 }",
+                     {{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
+    }
+    ~Views() { close(); }
+
+    MainViewController controller;
+    const QQuickItem *shown = nullptr;
+};
 
 /// Every text that the tree speaks or shows, with the item it belongs to.
 void collect(QAccessibleInterface *node, QMap<QString, QString> &texts)
@@ -52,30 +63,38 @@ private Q_SLOTS:
 
     void shouldHaveNoTextWiredIn()
     {
-        ModelScene scene;
-        ConversionSettings settings = scene.model.settings();
-        settings.format = OutputFormat::jpeg;
-        scene.model.setSettings(settings);
-        scene.model.setItems({scene.item(QStringLiteral("a.heic"), ConversionStatus::ready),
-                              scene.item(QStringLiteral("b.heic"), ConversionStatus::failed),
-                              scene.item(QStringLiteral("c.heic"), ConversionStatus::converting)});
-        scene.show(views);
+        Views views;
         QMap<QString, QString> texts;
-        collect(QAccessible::queryAccessibleInterface(&scene.window), texts);
-        QVERIFY(texts.size() > 25);
-        const QStringList data{QStringLiteral("a.png"), QStringLiteral("b.heic"), QStringLiteral("c.heic"),
-                               scene.model.watchFolder().adjusted(QUrl::StripTrailingSlash).toLocalFile()};
+        for (const bool history : {false, true}) {
+            views.controller.setShowingHistory(history);
+            collect(QAccessible::queryAccessibleInterface(&views.window), texts);
+        }
+        QVERIFY(texts.size() > 40);
+        const QStringList data{QStringLiteral("Lumaport"),
+                               QStringLiteral("JPEG"),
+                               QStringLiteral("PNG"),
+                               QStringLiteral("a.png"),
+                               QStringLiteral("b.heic"),
+                               QStringLiteral("c.heic"),
+                               views.model.watchFolder().toLocalFile()};
         for (auto text = texts.cbegin(); text != texts.cend(); ++text) {
             QVERIFY2(data.contains(text.key()) || text.key().startsWith(QLatin1Char('[')),
                      qPrintable(text.key() + QStringLiteral(" in ") + text.value()));
         }
     }
 
+    void shouldWrapLongerTextsRatherThanCutThem_data()
+    {
+        QTest::addColumn<bool>("history");
+        QTest::newRow("where photos land") << false;
+        QTest::newRow("the history") << true;
+    }
+
     void shouldWrapLongerTextsRatherThanCutThem()
     {
-        ModelScene scene;
-        scene.model.setItems({scene.item(QStringLiteral("b.heic"), ConversionStatus::failed)});
-        const QQuickItem *shown = scene.show(views);
+        QFETCH(bool, history);
+        Views views;
+        views.controller.setShowingHistory(history);
         int checked = 0;
         const std::function<void(const QQuickItem *)> check = [&](const QQuickItem *item) {
             const QVariant truncated = item->property("truncated");
@@ -89,7 +108,7 @@ private Q_SLOTS:
                 check(child);
             }
         };
-        check(shown);
+        check(views.shown);
         QVERIFY(checked > 15);
     }
 };

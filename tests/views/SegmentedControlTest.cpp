@@ -10,7 +10,7 @@ constexpr auto controls = R"(
     Rectangle {
         width: 300; height: 60; color: "white"
         FormatControl { objectName: "format"; x: 10; y: 10 }
-        AppearanceControl { x: 150; y: 10 }
+        AppearanceControl { objectName: "appearance"; x: 150; y: 10 }
     })";
 
 }
@@ -67,6 +67,9 @@ private Q_SLOTS:
         png->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(chosen(), OutputFormat::png);
         QVERIFY(png->state().selected);
+        QQuickItem *light = segment(scene.find(QStringLiteral("appearance")), 1);
+        QCOMPARE(QAccessible::queryAccessibleInterface(light)->text(QAccessible::Description),
+                 QStringLiteral("Light appearance"));
     }
 
     void shouldBeOneStopForTheTabKey()

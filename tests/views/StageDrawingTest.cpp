@@ -1,7 +1,8 @@
 #include "ConversionFluid.h"
 #include "FolderFront.h"
 #include "GaussianBlur.h"
-#include "Scene.h"
+#include "ModelScene.h"
+#include "PhotoLandingStageController.h"
 
 #include <cmath>
 
@@ -68,6 +69,56 @@ private Q_SLOTS:
         QCOMPARE(front.tiltMatrix().map(QVector3D(50.0F, 20.0F, 0.0F)).z(), 0.0F);
     }
 
+    void shouldFanItsCardsOutForADrag_data()
+    {
+        QTest::addColumn<SystemAppearance::Motion>("motion");
+        QTest::addColumn<double>("tilt");
+        QTest::addColumn<double>("growth");
+        QTest::newRow("with motion") << SystemAppearance::Motion::Full << -18.0 << 1.04;
+        QTest::newRow("with reduced motion the folder stays as it is")
+            << SystemAppearance::Motion::Reduced << -5.0 << 1.0;
+    }
+
+    void shouldFanItsCardsOutForADrag()
+    {
+        QFETCH(SystemAppearance::Motion, motion);
+        QFETCH(double, tilt);
+        QFETCH(double, growth);
+        ModelScene scene;
+        scene.appearance.setMotion(motion);
+        PhotoLandingStageController controller(scene.model);
+        scene.show("import QtQuick\nimport Lumaport.Views\nItem { id: page; width: 400; height: 222\n"
+                   "required property PhotoLandingStageController controller\n"
+                   "PhotoLandingStage { objectName: 'stage'; controller: page.controller } }",
+                   {{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
+        for (const int x : {380, 370}) { // the pointer may rest where an earlier test left it
+            QTest::mouseMove(&scene.window, QPoint(x, 20));
+        }
+        const QQuickItem *stage = scene.find(QStringLiteral("stage"));
+        const QQuickItem *front = scene.find(QStringLiteral("front"));
+        const auto card = [&](int number) { return scene.find(QStringLiteral("card%1").arg(number)); };
+        // How far a card's middle lies from the stage's; an odd side is centred on a whole point.
+        const auto liesAt = [&](int number, QPointF place) {
+            const QQuickItem *shown = card(number);
+            const QPointF middle = shown->mapToItem(stage, QPointF(shown->width() / 2, shown->height() / 2));
+            return QLineF(middle - QPointF(165, 111), place).length() < 0.8;
+        };
+        QTRY_COMPARE(front->property("tilt").toDouble(), -5.0);
+        QTRY_COMPARE(card(2)->rotation(), 10.0);
+        for (const int side : {-1, 0, 1}) {
+            QCOMPARE(card(side + 1)->rotation(), 10.0 * side);
+            QVERIFY(liesAt(side + 1, QPointF(43 * side, -17)));
+        }
+        scene.model.setIsDropTargeted(true);
+        QTRY_COMPARE(card(2)->rotation(), 18.0);
+        for (const int side : {-1, 0, 1}) {
+            QCOMPARE(card(side + 1)->rotation(), 18.0 * side);
+            QTRY_VERIFY(liesAt(side + 1, QPointF(63 * side, -37) * growth));
+        }
+        QCOMPARE(front->property("tilt").toDouble(), tilt);
+        scene.close();
+    }
+
     void shouldDrawTheFluidOfItsMoment()
     {
         Scene scene;
@@ -103,10 +154,18 @@ private Q_SLOTS:
         scene.window.hide();
         QVERIFY(!fluid->isMoving());
         scene.window.show();
-        QVERIFY(fluid->isMoving());
+        QTRY_VERIFY(fluid->isMoving());
         scene.window.showMinimized();
         QVERIFY(!fluid->isMoving());
         scene.window.showNormal();
+        QWindow other;
+        other.show();
+        other.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY2(!fluid->isMoving(), "nobody works with its window");
+        scene.window.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&scene.window));
+        QVERIFY(fluid->isMoving());
         fluid->setVisible(false);
         QVERIFY(!fluid->isMoving());
         fluid->setVisible(true);

@@ -1,10 +1,12 @@
 #include "BrandAssets.h"
+#include "BrandMark.h"
 #include "LumaportPalette.h"
 #include "Symbol.h"
 #include "SystemAppearance.h"
 #include "Typeface.h"
 
 #include <QDir>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -82,6 +84,21 @@ private Q_SLOTS:
     void shouldGiveNoPictureForAnUnknownSymbol()
     {
         QVERIFY(Symbol::image(QStringLiteral("no.such.symbol"), Qt::black, 16).isNull());
+    }
+
+    void shouldDrawTheMarkAtTheScreensResolution()
+    {
+        BrandMark mark;
+        mark.setSize(31.0);
+        mark.setWidth(31.0);
+        mark.setHeight(31.0);
+        QImage drawn(62, 62, QImage::Format_ARGB32_Premultiplied);
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        painter.scale(2.0, 2.0);
+        mark.paint(&painter);
+        painter.end();
+        QCOMPARE(drawn, BrandAssets::icon().pixmap(QSize(62, 62), 1.0).toImage());
     }
 
     void shouldFallBackToTheDesktopsIconAndThenToNone()

@@ -50,6 +50,20 @@ TEST_F(CodedPictures, ShouldBeRefusedWhenTheirDecoderNoticesDamage)
     EXPECT_TRUE(isNoticed);
 }
 
+TEST_F(CodedPictures, ShouldBeRefusedWhenTheirEndNeverArrived)
+{
+    for (const auto codec : {PhotoRecipe::Codec::Hevc, PhotoRecipe::Codec::Av1}) {
+        const Bytes photo = makePhoto({.size = {128, 128}, .codec = codec});
+        ASSERT_TRUE(shown(photo));
+        for (const std::size_t missing : {20U, 200U}) {
+            Bytes filled =
+                photo; // as a transfer that breaks off leaves a file that was given its size before
+            std::fill(filled.end() - static_cast<std::ptrdiff_t>(missing), filled.end(), std::uint8_t{0});
+            EXPECT_FALSE(shown(filled)) << missing;
+        }
+    }
+}
+
 } // namespace
 
 } // namespace imageworker

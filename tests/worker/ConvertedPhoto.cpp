@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
+#include <gtest/gtest.h>
 #include <stdexcept>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -47,6 +49,38 @@ std::optional<Raster> shown(const Bytes &photo)
 {
     const auto copy = convert(photo, CopyFormat::Png);
     return copy ? readPng(*copy) : std::nullopt;
+}
+
+Raster partOf(const Raster &whole, int left, int top, PixelSize size)
+{
+    Raster part(size);
+    for (int y = 0; y < size.height; ++y) {
+        std::memcpy(part.row(y), whole.row(top + y) + std::ptrdiff_t{4} * left, part.rowLength());
+    }
+    return part;
+}
+
+void lay(const Raster &picture, int left, int top, Raster &canvas)
+{
+    for (int y = 0; y < picture.size.height; ++y) {
+        for (int x = 0; x < picture.size.width; ++x) {
+            const int toX = left + x;
+            const int toY = top + y;
+            if (toX >= 0 && toX < canvas.size.width && toY >= 0 && toY < canvas.size.height) {
+                std::memcpy(canvas.row(toY) + std::ptrdiff_t{4} * toX, picture.row(y) + std::ptrdiff_t{4} * x,
+                            4);
+            }
+        }
+    }
+}
+
+void expectLikeIndependentDecoder(const Bytes &photo)
+{
+    const auto copy = shown(photo);
+    const auto reference = decodeIndependently(photo);
+    ASSERT_TRUE(copy);
+    ASSERT_TRUE(reference);
+    EXPECT_LE(largestDifference(*copy, *reference), Rounding);
 }
 
 int largestDifference(const Raster &a, const Raster &b)

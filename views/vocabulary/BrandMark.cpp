@@ -16,5 +16,7 @@ void BrandMark::setSize(double size)
 void BrandMark::paint(QPainter *painter)
 {
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
-    BrandAssets::icon().paint(painter, boundingRect().toAlignedRect());
+    const QSize pixels = painter->deviceTransform().mapRect(boundingRect()).size().toSize();
+    const QPixmap icon = BrandAssets::icon().pixmap(pixels, 1.0);
+    painter->drawPixmap(boundingRect(), icon, icon.rect());
 }

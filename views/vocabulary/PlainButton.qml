@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls.Basic as Basic
 import QtQuick.Templates as T
 import Lumaport.Vocabulary
 
@@ -18,9 +17,6 @@ T.AbstractButton {
     Accessible.description: help === text ? "" : help
     Accessible.name: text
     Accessible.onPressAction: control.enabled ? control.clicked() : undefined
-    Basic.ToolTip.delay: 700
-    Basic.ToolTip.text: help
-    Basic.ToolTip.visible: help !== "" && hovered && !down
     Keys.onEnterPressed: control.clicked()
     Keys.onReturnPressed: control.clicked()
     focusPolicy: Qt.StrongFocus
@@ -28,7 +24,7 @@ T.AbstractButton {
     hoverEnabled: true
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    opacity: enabled ? 1 : 0.45
+    opacity: enabled || parent?.enabled === false ? 1 : 0.45 // where all is disabled no single control stands out
 
     contentItem: SymbolLabel {
         centred: true
@@ -44,5 +40,10 @@ T.AbstractButton {
     FocusRing {
         cornerRadius: control.cornerRadius
         visible: control.visualFocus
+    }
+
+    HelpTip {
+        hovered: control.hovered && !control.down
+        text: control.help
     }
 }

@@ -68,11 +68,10 @@ private Q_SLOTS:
         QVERIFY(!sequence.isRunning());
         QVERIFY(sequence.isTitleVisible());
         QCOMPARE(sequence.revealProgress(), 1.0);
-        QCOMPARE(sequence.artworkScale(), 1.0);
+        QVERIFY(qAbs(sequence.artworkScale() - 1.0) < 1e-6);
         QCOMPARE(sequence.titleProgress(), 1.0);
         QCOMPARE(sequence.buttonProgress(), 1.0);
-        sequence.setElapsed(2.3);
-        QCOMPARE(sequence.shimmerProgress(), 0.0);
+        QVERIFY(qAbs(sequence.shimmerProgress() - 1.0) < 1e-6);
     }
 };
 

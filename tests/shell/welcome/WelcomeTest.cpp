@@ -215,6 +215,37 @@ private Q_SLOTS:
         QVERIFY2(changed > 300 && changed < 74 * 200 / 2, qPrintable(QString::number(changed)));
     }
 
+    void shouldMeasureTheLightByTheFrameNotByTheArtwork()
+    {
+        const QTemporaryDir folder;
+        const QString narrow = folder.filePath(QStringLiteral("narrow.png"));
+        QImage image(100, 200, QImage::Format_ARGB32);
+        image.fill(QColor(0xFF, 0x80, 0x20));
+        QVERIFY(image.save(narrow));
+        Scene scene;
+        QQuickItem *view = scene.show(welcome, {{QStringLiteral("artworkSource"), narrow}});
+        const QQuickItem *artwork = scene.find(QStringLiteral("artwork"));
+        const auto lit = [&](double progress) { // columns of the frame, of which the artwork has 100 to 200
+            view->setProperty("elapsed", 1.80 + 1.05 * progress);
+            const QImage picture = scene.window.grabWindow();
+            const QPoint middle = artwork->mapToScene(QPointF(0, 100)).toPoint();
+            QList<int> columns;
+            for (int x = 0; x < 300; ++x) {
+                const QColor colour = picture.pixelColor(middle + QPoint(x, 0));
+                if (colour.blue() > 0x60 && colour.red() > 0x60) {
+                    columns.append(x);
+                }
+            }
+            return columns;
+        };
+        QVERIFY(lit(0.0).isEmpty());
+        // Halfway, the band of 72 lies in the middle.
+        const QList<int> columns = lit(0.5);
+        QVERIFY(!columns.isEmpty());
+        QVERIFY2(columns.first() >= 114 && columns.first() < 135 && columns.last() >= 150,
+                 qPrintable(QStringLiteral("%1 to %2").arg(columns.first()).arg(columns.last())));
+    }
+
     void shouldOfferItsButtonWithTheTitle()
     {
         Scene scene;
@@ -247,15 +278,26 @@ private Q_SLOTS:
     void shouldMoveOnlyUntilEverythingIsInItsPlace()
     {
         Scene scene;
-        scene.appearance.setMotion(SystemAppearance::Motion::Reduced);
         QQuickItem *view = scene.show("import Lumaport.Welcome; FirstLaunchView { width: 500; height: 420 }");
-        QVERIFY(scene.find(QStringLiteral("startButton"))->isEnabled());
-        QCOMPARE(view->property("elapsed").toDouble(), 0.0);
-        scene.appearance.setMotion(SystemAppearance::Motion::Full);
         QTRY_VERIFY(view->property("elapsed").toDouble() > 0.0);
         view->setProperty("elapsed", 2.86);
         QCoreApplication::processEvents();
         QCOMPARE(view->property("elapsed").toDouble(), 2.86);
+    }
+
+    void shouldBeInItsPlaceAtOnceAndForGoodWhenMotionIsReduced()
+    {
+        Scene scene;
+        QQuickItem *view = scene.show("import Lumaport.Welcome; FirstLaunchView { width: 500; height: 420 }");
+        const QQuickItem *button = scene.find(QStringLiteral("startButton"));
+        QVERIFY(!button->isEnabled());
+        scene.appearance.setMotion(SystemAppearance::Motion::Reduced);
+        QVERIFY(button->isEnabled());
+        QCOMPARE(button->opacity(), 1.0);
+        const QVariant atRest = view->property("elapsed");
+        scene.appearance.setMotion(SystemAppearance::Motion::Full);
+        QVERIFY(button->isEnabled());
+        QCOMPARE(view->property("elapsed"), atRest);
     }
 
 private:
