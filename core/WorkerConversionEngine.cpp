@@ -37,18 +37,34 @@ QString numberedName(const QString &base, const QString &extension, int number)
     return extension.isEmpty() ? name : name + QLatin1Char('.') + extension;
 }
 
-/// Offers the names one after another until `use` takes one with anything but `std::errc::file_exists`: a
-/// name that was free a moment ago may be taken by now.
-template<typename Use>
-tl::expected<QString, std::error_code> useFirstFreeName(const QString &folder, const QString &base,
-                                                        const QString &extension, Use use)
+/// The path of the first of these names that is free in `folder`.
+QString freePath(const QString &folder, const QString &base, const QString &extension)
 {
-    for (int number = 1;; ++number) {
-        const QString path = FileOperations::pathIn(folder, numberedName(base, extension, number));
-        if (FileOperations::exists(path)) {
-            continue;
-        }
-        const std::error_code error = use(path);
+    int number = 1;
+    QString path;
+    do {
+        path = FileOperations::pathIn(folder, numberedName(base, extension, number));
+        ++number;
+    } while (FileOperations::exists(path));
+    return path;
+}
+
+/// A file in `directory` whose name is free, for the archived original.
+QUrl uniqueSourceURL(const QString &directory, const QUrl &source)
+{
+    const QString name = source.fileName();
+    return QUrl::fromLocalFile(
+        freePath(directory, PhotoFileName::base(name), PhotoFileName::extension(name)));
+}
+
+/// Places a file with `place` where `find` says. A name that was free a moment ago may be taken by now: then
+/// it is asked once more. Gives the path, or the file system's error.
+template<typename Find, typename Place>
+tl::expected<QString, std::error_code> placeFreely(Find find, Place place)
+{
+    while (true) {
+        const QString path = find();
+        const std::error_code error = place(path);
         if (!error) {
             return path;
         }
@@ -91,10 +107,8 @@ bool archive(const QUrl &source)
     if (FileOperations::createFolder(originals)) {
         return false;
     }
-    const QString fileName = source.fileName();
-    return useFirstFreeName(
-               originals, PhotoFileName::base(fileName), PhotoFileName::extension(fileName),
-               [&source](const QString &path) { return FileOperations::move(source.toLocalFile(), path); })
+    return placeFreely([&] { return uniqueSourceURL(originals, source).toLocalFile(); },
+                       [&](const QString &path) { return FileOperations::move(source.toLocalFile(), path); })
         .has_value();
 }
 
@@ -161,9 +175,9 @@ ConversionOutcome WorkerConversionEngine::convertNow(const QUrl &sourceURL,
     if (!image) {
         return tl::unexpected(image.error());
     }
-    const auto output =
-        useFirstFreeName(*folder, PhotoFileName::base(fileName), outputExtension(settings.format),
-                         [&image](const QString &path) { return image->placeAs(path); });
+    const auto output = placeFreely(
+        [&] { return freePath(*folder, PhotoFileName::base(fileName), outputExtension(settings.format)); },
+        [&](const QString &path) { return image->placeAs(path); });
     if (!output) {
         return tl::unexpected(ConversionError::cannotWriteImage);
     }
