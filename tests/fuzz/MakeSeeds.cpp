@@ -63,8 +63,7 @@ Bytes toneMap()
     HeifFile file;
     const CodedItem coded = makeAvcItem(cornerColours({64, 48}, false));
     HeifFile::Properties properties = coded.properties;
-    const std::string_view alpha = "urn:mpeg:mpegB:cicp:systems:auxiliary:alpha";
-    properties.push_back({"auxC", joined({Bytes(4), Bytes(alpha.begin(), alpha.end()), {0}})});
+    properties.push_back(opacityRole());
     const unsigned base = file.add("avc1", coded.data, coded.properties);
     const unsigned opacity = file.add("avc1", coded.data, properties);
     file.refer(opacity, "auxl", {base});
@@ -100,7 +99,8 @@ std::vector<Bytes> photos()
     const Bytes exif = makeExif({.orientation = 6, .makerNoteLength = 40, .previewLength = 20});
     const std::string packet = "<?xpacket begin='' id=''?><x:xmpmeta xmlns:x='adobe:ns:meta/'><rdf:RDF>"
                                "<rdf:Description tiff:Orientation='6'><exif:PixelXDimension>64"
-                               "</exif:PixelXDimension></rdf:Description></rdf:RDF></x:xmpmeta>";
+                               "</exif:PixelXDimension><dc:title>" +
+                               std::string(600, 'X') + "</dc:title></rdf:Description></rdf:RDF></x:xmpmeta>";
     const Bytes xmp(packet.begin(), packet.end());
     const Raster picture = cornerColours({40, 30}, true);
     const PhotoRecipe recipes[] = {

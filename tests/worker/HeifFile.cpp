@@ -74,6 +74,11 @@ HeifFile::Property spatialExtents(unsigned width, unsigned height)
     return {"ispe", joined({bigEndian(0, 4), bigEndian(width, 4), bigEndian(height, 4)})};
 }
 
+HeifFile::Property opacityRole()
+{
+    return {"auxC", joined({Bytes(4), bytesOf("urn:mpeg:mpegB:cicp:systems:auxiliary:alpha"), {0}})};
+}
+
 HeifFile::Property codePoints(unsigned primaries, unsigned transfer, unsigned matrix, bool fullRange)
 {
     return {"colr", joined({bytesOf("nclx"), bigEndian(primaries, 2), bigEndian(transfer, 2),

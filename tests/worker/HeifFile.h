@@ -83,6 +83,8 @@ Bytes box(std::string_view type, const Bytes &payload);
 Bytes fullBox(std::string_view type, unsigned version, const Bytes &payload);
 
 HeifFile::Property spatialExtents(unsigned width, unsigned height);
+/// What tells an item that gives the opacity of another from other auxiliary ones.
+HeifFile::Property opacityRole();
 /// Colour as code points of ITU-T H.273.
 HeifFile::Property codePoints(unsigned primaries, unsigned transfer, unsigned matrix, bool fullRange);
 

@@ -51,6 +51,7 @@ private Q_SLOTS:
                                   "socket",
                                   "exec",
                                   "fork",
+                                  "clone",
                                   "vfork",
                                   "ptrace",
                                   "truncate-source",

@@ -3,6 +3,7 @@
 #include "ExactColour.h"
 #include "MadePhoto.h"
 #include "TileDecoder.h"
+#include "TransferCurve.h"
 
 #include <algorithm>
 #include <cmath>
@@ -62,6 +63,27 @@ TEST_F(ItemColour, ShouldFollowTheProfileThatAnotherProgramWrote)
     ASSERT_TRUE(copy && codes);
     constexpr int RoundingSpreadByTheProfile = 4;
     EXPECT_LE(largestDifference(*copy, through(profile, *codes)), RoundingSpreadByTheProfile);
+}
+
+TEST_F(ItemColour, ShouldFollowTheGreyProfileOfAGreyPicture)
+{
+    constexpr double Gamma = 1.4;
+    cmsToneCurve *curve = cmsBuildGamma(nullptr, Gamma);
+    const Profile profile(cmsCreateGrayProfile(cmsD50_xyY(), curve));
+    cmsFreeToneCurve(curve);
+    const Bytes photo =
+        makePhoto({.chroma = PhotoRecipe::Chroma::None, .iccProfile = savedProfile(profile.get())});
+    auto expected = decodeIndependently(photo);
+    const auto copy = shown(photo);
+    ASSERT_TRUE(copy && expected);
+    for (std::size_t index = 0; index < expected->rgba.size(); ++index) {
+        std::uint8_t &code = expected->rgba[index];
+        code =
+            index % 4 == 3
+                ? code
+                : static_cast<std::uint8_t>(std::lround(255 * srgbOfLinear(std::pow(code / 255.0, Gamma))));
+    }
+    EXPECT_LE(largestDifference(*copy, *expected), 3);
 }
 
 TEST_F(ItemColour, ShouldFollowCodePoints)

@@ -42,8 +42,7 @@ TEST_F(ItemMetadata, ShouldTurnAPictureThatDoesNotTurnItself)
     const Raster picture = cornerColours({96, 64}, false);
     const CodedItem coded = makeAvcItem(picture);
     CodedItem alpha = makeAvcItem(picture);
-    const std::string_view name = "urn:mpeg:mpegB:cicp:systems:auxiliary:alpha";
-    alpha.properties.push_back({"auxC", joined({Bytes(4), Bytes(name.begin(), name.end()), {0}})});
+    alpha.properties.push_back(opacityRole());
     for (const bool turnsItself : {false, true}) {
         SCOPED_TRACE(turnsItself);
         HeifFile::Properties properties = coded.properties;

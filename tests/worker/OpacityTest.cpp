@@ -45,8 +45,7 @@ unsigned addWithOpacity(HeifFile &file, const Raster &grey, const Raster &opacit
 {
     const CodedItem master = makeAvcItem(grey);
     CodedItem alpha = makeAvcItem(opacity);
-    const std::string_view name = "urn:mpeg:mpegB:cicp:systems:auxiliary:alpha";
-    alpha.properties.push_back({"auxC", joined({Bytes(4), Bytes(name.begin(), name.end()), {0}})});
+    alpha.properties.push_back(opacityRole());
     const unsigned number = file.add("avc1", master.data, master.properties);
     const unsigned auxiliary = file.add("avc1", alpha.data, alpha.properties);
     file.refer(auxiliary, "auxl", {number});

@@ -16,6 +16,12 @@ namespace imageworker {
 namespace {
 
 constexpr std::array<std::uint8_t, 2> EndOfImage = {0xFF, 0xD9};
+constexpr std::array<std::uint8_t, 2> StartOfScan = {0xFF, 0xDA};
+
+bool hasEnd(const Bytes &file)
+{
+    return std::search(file.begin(), file.end(), EndOfImage.begin(), EndOfImage.end()) != file.end();
+}
 
 Bytes firstPart(const Bytes &file, double share)
 {
@@ -98,8 +104,14 @@ TEST_F(PlainFiles, ShouldBeRefusedWhenPixelsOfAJpegAreMissing)
     *std::ranges::find(exif, 'P') = EndOfImage[0];
     *std::ranges::find(exif, 'P') = EndOfImage[1];
     const Bytes cut = firstPart(makeJpeg(cornerColours({96, 64}, false), {.exif = exif}), 0.7);
-    EXPECT_NE(std::search(cut.begin(), cut.end(), EndOfImage.begin(), EndOfImage.end()), cut.end());
+    EXPECT_TRUE(hasEnd(cut));
     EXPECT_FALSE(shown(cut)) << "only the preview has its end";
+    Bytes coarse = makeJpeg(cornerColours({96, 64}, false), {.exif = exif}, JpegOrder::Scans);
+    EXPECT_TRUE(shown(coarse));
+    coarse.erase(std::find_end(coarse.begin(), coarse.end(), StartOfScan.begin(), StartOfScan.end()),
+                 coarse.end());
+    EXPECT_TRUE(hasEnd(coarse));
+    EXPECT_FALSE(shown(coarse)) << "the last scan is missing";
     HeifFile file;
     EXPECT_TRUE(shown(file.bytes(file.add("jpeg", whole, {spatialExtents(96, 64)}))));
     EXPECT_FALSE(shown(file.bytes(file.add("jpeg", firstPart(whole, 0.7), {spatialExtents(96, 64)}))));

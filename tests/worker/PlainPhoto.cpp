@@ -22,7 +22,7 @@ void writeMarker(jpeg_compress_struct &jpeg, std::string_view prefix, const Byte
 
 } // namespace
 
-Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata)
+Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, JpegOrder order)
 {
     constexpr std::string_view ExifPrefix("Exif\0\0", 6);
     constexpr std::string_view XmpPrefix("http://ns.adobe.com/xap/1.0/\0", 29);
@@ -41,6 +41,9 @@ Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata)
     jpeg_set_quality(&jpeg, 100, TRUE);
     jpeg.comp_info[0].h_samp_factor = 1;
     jpeg.comp_info[0].v_samp_factor = 1;
+    if (order == JpegOrder::Scans) {
+        jpeg_simple_progression(&jpeg);
+    }
     jpeg_start_compress(&jpeg, TRUE);
     writeMarker(jpeg, ExifPrefix, metadata.exif);
     writeMarker(jpeg, XmpPrefix, metadata.xmp);

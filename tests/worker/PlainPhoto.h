@@ -12,8 +12,10 @@ struct PlainMetadata
     Bytes xmp;
 };
 
+enum class JpegOrder { Rows, Scans };
+
 /// By libjpeg, of the best quality and without subsampling. Opacity is ignored.
-Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata);
+Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, JpegOrder order = JpegOrder::Rows);
 
 /// By libpng.
 Bytes makePng(const Raster &picture, const PlainMetadata &metadata);
