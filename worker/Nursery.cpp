@@ -35,10 +35,10 @@ void raiseWorkers(int socket, void (*work)(int socket))
     sigaddset(&endings, SIGCHLD);
     while (const auto asked = receiveWithDescriptor<Birth>(socket)) {
         // A worker that ends at once must not be taken before it could be opened.
-        ::sigprocmask(SIG_BLOCK, &endings, nullptr);
+        ::pthread_sigmask(SIG_BLOCK, &endings, nullptr);
         const pid_t worker = ::fork();
         if (worker == 0) {
-            ::sigprocmask(SIG_UNBLOCK, &endings, nullptr);
+            ::pthread_sigmask(SIG_UNBLOCK, &endings, nullptr);
             ::close(socket);
             if (tieToParent(self)) {
                 work(asked->descriptor.number());
@@ -46,7 +46,7 @@ void raiseWorkers(int socket, void (*work)(int socket))
             std::_Exit(EXIT_SUCCESS);
         }
         const FileDescriptor process(static_cast<int>(::syscall(SYS_pidfd_open, worker, 0)));
-        ::sigprocmask(SIG_UNBLOCK, &endings, nullptr);
+        ::pthread_sigmask(SIG_UNBLOCK, &endings, nullptr);
         if (worker < 0 || !process.isOpen() || !sendWithDescriptor(socket, Birth{}, process.number())) {
             return;
         }

@@ -14,7 +14,7 @@ ColourDescription colourOf(const ItemTable &table, const Item &item);
 
 /// A "clap" box's payload: a size and the distance of its centre from the picture's, all as fractions
 /// (ISO/IEC 14496-12, 12.1.4). Unreadable when it leaves nothing.
-Result<void> applyCleanAperture(ByteReader payload, Upright &upright);
+Result<void> applyCleanAperture(ByteReader reader, Upright &upright);
 
 /// "irot", "imir" and "clap" in the order of the item's properties, ISO/IEC 23008-12, 6.5.10, 6.5.12 and
 /// ISO/IEC 14496-12, 12.1.4. Gives whether there was an "irot" or "imir"; Unreadable when a crop leaves
