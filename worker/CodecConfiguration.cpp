@@ -62,7 +62,7 @@ bool readCodecConfiguration(std::uint32_t itemType, const ItemProperty *record, 
 
 namespace {
 
-/// Open bitstream units, AV1 Bitstream & Decoding Process Specification, 5.3 and 4.10.5: all of each is
+/// Open bitstream units, AV1 bitstream format, 5.3 and 4.10.5: all of each is
 /// there. No picture ends in a run of zeros, as the data of one end with a bit that is set (its 8.2.4).
 bool hasSoundAv1Units(std::span<const std::uint8_t> bytes)
 {

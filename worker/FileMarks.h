@@ -13,7 +13,7 @@ inline constexpr std::array<std::uint8_t, 8> PngSignature = {0x89, 'P', 'N', 'G'
 /// translation.
 inline constexpr std::string_view PngXmpStart("XML:com.adobe.xmp\0\0\0\0\0", 22);
 
-// What the application segments of a JPEG start with (Exif 2.32, 4.7.2; XMP Specification, part 3, 1.1.3;
+// What the application segments of a JPEG start with (Exif 2.32, 4.7.2; XMP, Storage in Files, 1.1.3;
 // ICC.1, B.4).
 inline constexpr std::string_view JpegExifStart("Exif\0\0", 6);
 inline constexpr std::string_view JpegXmpStart("http://ns.adobe.com/xap/1.0/\0", 29);

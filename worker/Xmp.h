@@ -9,8 +9,8 @@ namespace imageworker {
 void describeCopyInXmp(Bytes &xmp, PixelSize size);
 
 /// The contents of the APP1 segments of a JPEG that hold the packet @p xmp, each at most @p longest bytes. A
-/// packet that fits in none is spread over several, and the first names them (XMP Specification, part
-/// 3, 1.1.3.1).
+/// packet that fits in none is spread over several, and the first names them (XMP, Storage in
+/// Files, 1.1.3.1).
 std::vector<Bytes> xmpSegments(const Bytes &xmp, std::size_t longest);
 
 } // namespace imageworker
