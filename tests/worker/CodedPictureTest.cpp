@@ -2,7 +2,6 @@
 #include "ConvertedPhoto.h"
 #include "MadePhoto.h"
 #include "PhotoReader.h"
-#include "TileDecoder.h"
 
 #include <gtest/gtest.h>
 
@@ -10,13 +9,7 @@ namespace imageworker {
 
 namespace {
 
-class CodedPictures : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-};
-
-TEST_F(CodedPictures, ShouldShowNoColumnThatIsHidden)
+TEST(CodedPictures, ShouldShowNoColumnThatIsHidden)
 {
     // Vectors would like a picture to begin at a multiple of 16 or 32 columns.
     for (const int hidden : {2, 6, 20}) {
@@ -33,7 +26,7 @@ TEST_F(CodedPictures, ShouldShowNoColumnThatIsHidden)
     }
 }
 
-TEST_F(CodedPictures, ShouldBeRefusedWhenTheirDecoderNoticesDamage)
+TEST(CodedPictures, ShouldBeRefusedWhenTheirDecoderNoticesDamage)
 {
     // It would go on and fill in what it could not read. A wrong byte often makes another sound picture, but
     // not everywhere.
@@ -50,7 +43,7 @@ TEST_F(CodedPictures, ShouldBeRefusedWhenTheirDecoderNoticesDamage)
     EXPECT_TRUE(isNoticed);
 }
 
-TEST_F(CodedPictures, ShouldBeRefusedWhenTheirEndNeverArrived)
+TEST(CodedPictures, ShouldBeRefusedWhenTheirEndNeverArrived)
 {
     for (const auto codec : {PhotoRecipe::Codec::Hevc, PhotoRecipe::Codec::Av1}) {
         const Bytes photo = makePhoto({.size = {128, 128}, .codec = codec});

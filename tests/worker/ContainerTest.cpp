@@ -3,7 +3,6 @@
 #include "MadeGrid.h"
 #include "MadePhoto.h"
 #include "PhotoReader.h"
-#include "TileDecoder.h"
 
 #include <gtest/gtest.h>
 
@@ -14,13 +13,7 @@ namespace {
 using Properties = HeifFile::Properties;
 using Place = HeifFile::Place;
 
-class Container : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-};
-
-TEST_F(Container, ShouldPutTheTilesOfAGridInTheirPlaces)
+TEST(Container, ShouldPutTheTilesOfAGridInTheirPlaces)
 {
     for (const PixelSize canvas : {PixelSize{192, 128}, PixelSize{150, 100}, PixelSize{131, 67}}) {
         SCOPED_TRACE(testing::Message() << canvas.width << " x " << canvas.height);
@@ -36,7 +29,7 @@ TEST_F(Container, ShouldPutTheTilesOfAGridInTheirPlaces)
     }
 }
 
-TEST_F(Container, ShouldReadDataWhereverItLies)
+TEST(Container, ShouldReadDataWhereverItLies)
 {
     const Bytes simple = makePhoto({});
     const auto reference = decodeIndependently(simple);
@@ -54,7 +47,7 @@ TEST_F(Container, ShouldReadDataWhereverItLies)
     }
 }
 
-TEST_F(Container, ShouldTurnAndCropInTheOrderOfTheProperties)
+TEST(Container, ShouldTurnAndCropInTheOrderOfTheProperties)
 {
     const std::vector<Properties> orders = {
         {rotation(1), mirror(0)},
@@ -78,7 +71,7 @@ TEST_F(Container, ShouldTurnAndCropInTheOrderOfTheProperties)
     }
 }
 
-TEST_F(Container, ShouldReadPicturesOfOtherCodecs)
+TEST(Container, ShouldReadPicturesOfOtherCodecs)
 {
     expectLikeIndependentDecoder(makePhoto({.codec = PhotoRecipe::Codec::Av1}));
     expectLikeIndependentDecoder(
@@ -93,7 +86,7 @@ TEST_F(Container, ShouldReadPicturesOfOtherCodecs)
     EXPECT_LE(largestDifference(*asItem, *asFile), OtherWayOfEnlargingColour);
 }
 
-TEST_F(Container, ShouldReadAvcWithoutAnyLoss)
+TEST(Container, ShouldReadAvcWithoutAnyLoss)
 {
     for (const PixelSize size : {PixelSize{96, 64}, PixelSize{70, 42}}) { // blocks have 16 pixels a side
         const Raster drawn = cornerColours(size, false);
@@ -109,7 +102,7 @@ TEST_F(Container, ShouldReadAvcWithoutAnyLoss)
     }
 }
 
-TEST_F(Container, ShouldRefuseWhatDoesNotAddUp)
+TEST(Container, ShouldRefuseWhatDoesNotAddUp)
 {
     const CodedItem coded = codedItemOf(makePhoto({}));
     const auto refuses = [](const HeifFile &file, unsigned primary) {

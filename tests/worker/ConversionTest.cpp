@@ -2,7 +2,6 @@
 #include "MadePhoto.h"
 #include "PhotoReader.h"
 #include "Thumbnail.h"
-#include "TileDecoder.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -22,8 +21,6 @@ Bytes readFile(const std::filesystem::path &path)
 class Conversion : public testing::Test
 {
 protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-
     /// Expects the PNG of a photo to be what the independent decoder shows, within its rounding.
     static void expectLikeIndependentDecoder(const PhotoRecipe &recipe)
     {
@@ -131,12 +128,7 @@ TEST_F(Conversion, ShouldMakeThumbnailsThatFit)
     for (const Case &expected : {Case{{512, 384}, 1, {240, 180}}, Case{{512, 384}, 6, {180, 240}},
                                  Case{{512, 384}, 7, {180, 240}}, Case{{100, 60}, 1, {100, 60}}}) {
         const Bytes photo = makePhoto({.size = expected.stored, .orientation = expected.orientation});
-        const auto source = sourceOfBytes(photo);
-        const auto read = readPhoto(*source);
-        ASSERT_TRUE(read);
-        const MemoryFile output;
-        ASSERT_TRUE(writeThumbnail(*source, *read, output.descriptor(), 240));
-        const auto thumbnail = readPng(output.bytes());
+        const auto thumbnail = thumbnailOf(photo, 240);
         ASSERT_TRUE(thumbnail);
         ASSERT_EQ(thumbnail->size, expected.thumbnail);
         const auto reference = decodeIndependently(photo);

@@ -2,6 +2,7 @@
 
 #include "MadePhoto.h"
 #include "PhotoReader.h"
+#include "Thumbnail.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -49,6 +50,15 @@ std::optional<Raster> shown(const Bytes &photo)
 {
     const auto copy = convert(photo, CopyFormat::Png);
     return copy ? readPng(*copy) : std::nullopt;
+}
+
+std::optional<Raster> thumbnailOf(const Bytes &photo, int side)
+{
+    const auto source = sourceOfBytes(photo);
+    const auto read = readPhoto(*source);
+    const MemoryFile output;
+    const bool isWritten = read && writeThumbnail(*source, *read, output.descriptor(), side);
+    return isWritten ? readPng(output.bytes()) : std::nullopt;
 }
 
 Raster partOf(const Raster &whole, int left, int top, PixelSize size)

@@ -29,6 +29,9 @@ Result<Bytes> convert(const Bytes &photo, CopyFormat format);
 /// The pixels of its PNG; nothing when it is refused.
 std::optional<Raster> shown(const Bytes &photo);
 
+/// Its preview of at most @p side pixels; nothing when it is refused.
+std::optional<Raster> thumbnailOf(const Bytes &photo, int side);
+
 /// @p size pixels of @p whole.
 Raster partOf(const Raster &whole, int left, int top, PixelSize size);
 /// Lays @p picture on @p canvas; what lies outside is left out.

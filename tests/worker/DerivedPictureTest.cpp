@@ -1,7 +1,6 @@
 #include "ConvertedPhoto.h"
 #include "MadeGrid.h"
 #include "MadePhoto.h"
-#include "TileDecoder.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -13,13 +12,7 @@ namespace {
 using Properties = HeifFile::Properties;
 using Place = HeifFile::Place;
 
-class DerivedPictures : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-};
-
-TEST_F(DerivedPictures, ShouldBeTurnedOnceMoreAsIdentities)
+TEST(DerivedPictures, ShouldBeTurnedOnceMoreAsIdentities)
 {
     HeifFile file;
     const unsigned grid = addGrid(file, {150, 100}, {rotation(1)});
@@ -29,7 +22,7 @@ TEST_F(DerivedPictures, ShouldBeTurnedOnceMoreAsIdentities)
     expectLikeIndependentDecoder(file.bytes(identity));
 }
 
-TEST_F(DerivedPictures, ShouldBePutInTheirPlacesAsTilesOfAGrid)
+TEST(DerivedPictures, ShouldBePutInTheirPlacesAsTilesOfAGrid)
 {
     const CodedItem coded = codedItemOf(makePhoto({.size = TileSize}));
     for (const bool isDerived : {true, false}) { // the other is coded, but shown turned all the same
@@ -61,7 +54,7 @@ TEST_F(DerivedPictures, ShouldBePutInTheirPlacesAsTilesOfAGrid)
     }
 }
 
-TEST_F(DerivedPictures, ShouldBeJoinedWhereTwoTilesWouldShareAColourSample)
+TEST(DerivedPictures, ShouldBeJoinedWhereTwoTilesWouldShareAColourSample)
 {
     constexpr PixelSize OddTile{61, 63};
     const Properties cut = {spatialExtents(OddTile.width, OddTile.height)};
@@ -97,7 +90,7 @@ TEST_F(DerivedPictures, ShouldBeJoinedWhereTwoTilesWouldShareAColourSample)
     }
 }
 
-TEST_F(DerivedPictures, ShouldBeLaidOverOneAnotherInAnOverlay)
+TEST(DerivedPictures, ShouldBeLaidOverOneAnotherInAnOverlay)
 {
     const std::vector<Bytes> layers = {makePhoto({}), makePhoto({.size = {128, 64}, .orientation = 6})};
     HeifFile file;

@@ -1,5 +1,6 @@
 #include "Exif.h"
 
+#include "MadeExif.h"
 #include "TiffFields.h"
 #include "Xmp.h"
 
@@ -11,72 +12,6 @@
 namespace imageworker {
 
 namespace {
-
-/// Writes a TIFF structure as a camera does: two directories, Exif details, a maker note and a preview at the
-/// end.
-class CameraExif
-{
-public:
-    CameraExif(bool littleEndian, std::size_t makerNoteLength, std::size_t previewLength)
-        : m_littleEndian(littleEndian)
-    {
-        constexpr std::uint32_t First = 8;
-        constexpr std::uint32_t Details = First + 2 + 3 * 12 + 4;
-        constexpr std::uint32_t Preview = Details + 2 + 5 * 12 + 4;
-        constexpr std::uint32_t Values = Preview + 2 + 2 * 12 + 4;
-        const auto note = static_cast<std::uint32_t>(makerNoteLength);
-        m_bytes = littleEndian ? Bytes{'I', 'I', 42, 0} : Bytes{'M', 'M', 0, 42};
-        number(First, 4);
-        number(3, 2);
-        field(0x0110, 2, 20, Values);       // camera
-        field(0x0112, 3, 1, shortValue(6)); // orientation
-        field(0x8769, 4, 1, Details);
-        number(Preview, 4);
-        number(5, 2);
-        field(0x9003, 2, 20, Values + 20);   // date
-        field(0x9214, 3, 4, Values + 40);    // subject: its middle, width and height
-        field(0x927C, 7, note, Values + 48); // maker note
-        field(0xA002, 4, 1, 4032);
-        field(0xA003, 4, 1, 3024);
-        number(0, 4);
-        number(2, 2);
-        field(0x0201, 4, 1, Values + 48 + note);
-        field(0x0202, 4, 1, static_cast<std::uint32_t>(previewLength));
-        number(0, 4);
-        text("Camera of some maker");
-        text("2024:05:06 07:08:09");
-        m_bytes.push_back(0);
-        for (const std::uint32_t value : {1000U, 500U, 200U, 100U}) {
-            number(value, 2);
-        }
-        m_bytes.insert(m_bytes.end(), makerNoteLength, 'N');
-        m_bytes.insert(m_bytes.end(), previewLength, 'P');
-    }
-
-    const Bytes &bytes() const { return m_bytes; }
-
-private:
-    void number(std::uint32_t value, unsigned width)
-    {
-        for (unsigned index = 0; index < width; ++index) {
-            m_bytes.push_back(
-                static_cast<std::uint8_t>(value >> (8 * (m_littleEndian ? index : width - 1 - index))));
-        }
-    }
-    /// A short value stands at the start of its four bytes.
-    std::uint32_t shortValue(std::uint32_t value) const { return m_littleEndian ? value : value << 16; }
-    void field(std::uint32_t tag, std::uint32_t type, std::uint32_t count, std::uint32_t value)
-    {
-        number(tag, 2);
-        number(type, 2);
-        number(count, 4);
-        number(value, 4);
-    }
-    void text(const std::string &value) { m_bytes.insert(m_bytes.end(), value.begin(), value.end()); }
-
-    bool m_littleEndian;
-    Bytes m_bytes;
-};
 
 bool contains(const Bytes &bytes, const std::string &text)
 {
@@ -103,7 +38,11 @@ TEST(Exif, ShouldDescribeTheUprightCopyInBothByteOrders)
 {
     for (const bool littleEndian : {true, false}) {
         SCOPED_TRACE(littleEndian);
-        Bytes exif = CameraExif(littleEndian, 100, 500).bytes();
+        Bytes exif = makeExif({.isLittleEndian = littleEndian,
+                               .orientation = 6,
+                               .makerNoteLength = 100,
+                               .previewLength = 500,
+                               .isPreviewLast = true});
         const std::size_t before = exif.size();
         EXPECT_EQ(exifOrientation(exif), 6U);
         describeCopy(exif, cameraHeldUpright());
@@ -125,7 +64,8 @@ TEST(Exif, ShouldCutByValueAndKeepDateAndCamera)
     constexpr std::size_t Limit = 65'527;
     for (const bool littleEndian : {true, false}) {
         SCOPED_TRACE(littleEndian);
-        Bytes exif = CameraExif(littleEndian, 150'000, 20'000).bytes();
+        Bytes exif =
+            makeExif({.isLittleEndian = littleEndian, .makerNoteLength = 150'000, .previewLength = 20'000});
         describeCopy(exif, cameraHeldUpright());
         Bytes cut = exifWithin(exif, Limit);
         EXPECT_LE(cut.size(), Limit);
@@ -139,7 +79,7 @@ TEST(Exif, ShouldCutByValueAndKeepDateAndCamera)
 
 TEST(Exif, ShouldSurviveEveryCutAndEveryDamagedByte)
 {
-    const Bytes whole = CameraExif(true, 20, 20).bytes();
+    const Bytes whole = makeExif({.makerNoteLength = 20, .previewLength = 20, .isPreviewLast = true});
     for (std::size_t length = 0; length < whole.size(); ++length) {
         Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
         describeCopy(cut, Upright({1, 1}));
@@ -155,16 +95,16 @@ TEST(Exif, ShouldNotBelieveALinkThatClaimsToBeLong)
 {
     // As above, but the link to the details claims to be hundreds of numbers: they must not be copied as a
     // value.
-    Bytes exif = CameraExif(true, 70'000, 0).bytes();
-    constexpr std::size_t CountOfTheLink = 8 + 2 + 2 * 12 + 4;
-    exif[CountOfTheLink] = 0x20;
-    exif[CountOfTheLink + 1] = 0x03;
+    Bytes exif = makeExif({.makerNoteLength = 70'000});
+    auto tiff = *TiffFields::of(exif);
+    const auto fields = tiff.fields(tiff.firstDirectory());
+    tiff.setNumber(fieldOf(fields, TiffTag::ExifDirectory)->valuePosition - 4, 4, 0x320);
     EXPECT_LE(exifWithin(exif, 65'527).size(), 65'527U);
 }
 
 TEST(Exif, ShouldFindTheStructureInAnItem)
 {
-    const Bytes tiff = CameraExif(true, 0, 0).bytes();
+    const Bytes tiff = makeExif({});
     const std::vector<Bytes> starts = {
         {0, 0, 0, 6, 'E', 'x', 'i', 'f', 0, 0},
         {0, 0, 0, 0},

@@ -2,7 +2,6 @@
 #include "ConvertedPhoto.h"
 #include "ExactColour.h"
 #include "MadePhoto.h"
-#include "TileDecoder.h"
 #include "TransferCurve.h"
 
 #include <algorithm>
@@ -48,13 +47,7 @@ Bytes fileOf(const CodedItem &coded, const HeifFile::Properties &more)
     return file.bytes(file.add("avc1", coded.data, properties));
 }
 
-class ItemColour : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-};
-
-TEST_F(ItemColour, ShouldFollowTheProfileThatAnotherProgramWrote)
+TEST(ItemColour, ShouldFollowTheProfileThatAnotherProgramWrote)
 {
     const Bytes profile = savedProfile(displayP3().get());
     const Bytes photo = makePhoto({.iccProfile = profile});
@@ -65,7 +58,7 @@ TEST_F(ItemColour, ShouldFollowTheProfileThatAnotherProgramWrote)
     EXPECT_LE(largestDifference(*copy, through(profile, *codes)), RoundingSpreadByTheProfile);
 }
 
-TEST_F(ItemColour, ShouldFollowTheGreyProfileOfAGreyPicture)
+TEST(ItemColour, ShouldFollowTheGreyProfileOfAGreyPicture)
 {
     constexpr double Gamma = 1.4;
     cmsToneCurve *curve = cmsBuildGamma(nullptr, Gamma);
@@ -86,7 +79,7 @@ TEST_F(ItemColour, ShouldFollowTheGreyProfileOfAGreyPicture)
     EXPECT_LE(largestDifference(*copy, *expected), 3);
 }
 
-TEST_F(ItemColour, ShouldFollowCodePoints)
+TEST(ItemColour, ShouldFollowCodePoints)
 {
     struct Case
     {
@@ -124,7 +117,7 @@ TEST_F(ItemColour, ShouldFollowCodePoints)
     }
 }
 
-TEST_F(ItemColour, ShouldFollowWhatTheTilesOfAGridSayUnlessItSaysMore)
+TEST(ItemColour, ShouldFollowWhatTheTilesOfAGridSayUnlessItSaysMore)
 {
     const Bytes profile = savedProfile(displayP3().get());
     const double linear[] = {1.0};
@@ -150,7 +143,7 @@ TEST_F(ItemColour, ShouldFollowWhatTheTilesOfAGridSayUnlessItSaysMore)
     }
 }
 
-TEST_F(ItemColour, ShouldShowTheBaseOfAToneMapInItsOwnColours)
+TEST(ItemColour, ShouldShowTheBaseOfAToneMapInItsOwnColours)
 {
     const Bytes photo = makePhoto({});
     const CodedItem coded = codedItemOf(photo);

@@ -3,7 +3,6 @@
 #include "MadeExif.h"
 #include "MadePhoto.h"
 #include "PhotoReader.h"
-#include "TileDecoder.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -31,13 +30,7 @@ Raster turnedClockwise(const Raster &stored)
     return turned;
 }
 
-class ItemMetadata : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-};
-
-TEST_F(ItemMetadata, ShouldTurnAPictureThatDoesNotTurnItself)
+TEST(ItemMetadata, ShouldTurnAPictureThatDoesNotTurnItself)
 {
     const Raster picture = cornerColours({96, 64}, false);
     const CodedItem coded = makeAvcItem(picture);
@@ -65,7 +58,7 @@ TEST_F(ItemMetadata, ShouldTurnAPictureThatDoesNotTurnItself)
     }
 }
 
-TEST_F(ItemMetadata, ShouldBeThePrimaryItemsOwn)
+TEST(ItemMetadata, ShouldBeThePrimaryItemsOwn)
 {
     const CodedItem coded = makeAvcItem(cornerColours({64, 48}, false));
     const Bytes own = makeExif({.orientation = 3});

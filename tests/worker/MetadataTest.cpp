@@ -1,7 +1,6 @@
 #include "ConvertedPhoto.h"
 #include "MadeExif.h"
 #include "MadePhoto.h"
-#include "TileDecoder.h"
 
 #include <algorithm>
 #include <array>
@@ -63,8 +62,6 @@ Bytes exif()
 class Metadata : public testing::Test
 {
 protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-
     static void write(const Bytes &photo, CopyFormat format, const MemoryFile &copy)
     {
         const auto bytes = convert(photo, format);

@@ -3,7 +3,6 @@
 #include "MadePhoto.h"
 #include "PhotoReader.h"
 #include "Thumbnail.h"
-#include "TileDecoder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -61,13 +60,7 @@ Bytes photoWithOpacity(const Raster &grey, const Raster &opacity, Stored stored 
     return file.bytes(addWithOpacity(file, grey, opacity, stored));
 }
 
-class Opacity : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-};
-
-TEST_F(Opacity, ShouldDivideColoursThatWereMultipliedByIt)
+TEST(Opacity, ShouldDivideColoursThatWereMultipliedByIt)
 {
     constexpr PixelSize Size{64, 48};
     const Raster opacity = drawn(Size, [](int, int y) { return 255 - 5 * y; });
@@ -89,7 +82,7 @@ TEST_F(Opacity, ShouldDivideColoursThatWereMultipliedByIt)
     }
 }
 
-TEST_F(Opacity, ShouldBeStretchedOverALargerPicture)
+TEST(Opacity, ShouldBeStretchedOverALargerPicture)
 {
     const Raster small = blocks(8);
     const Raster large = blocks(20);
@@ -102,7 +95,7 @@ TEST_F(Opacity, ShouldBeStretchedOverALargerPicture)
     }
 }
 
-TEST_F(Opacity, ShouldBeLaidOverWhiteInAJpeg)
+TEST(Opacity, ShouldBeLaidOverWhiteInAJpeg)
 {
     const Raster opacity = blocks(16);
     const Raster grey = drawn(opacity.size, [](int, int y) { return y < 32 ? 0 : 100; });
@@ -121,19 +114,14 @@ TEST_F(Opacity, ShouldBeLaidOverWhiteInAJpeg)
     }
 }
 
-TEST_F(Opacity, ShouldShowInThumbnails)
+TEST(Opacity, ShouldShowInThumbnails)
 {
     const Raster opacity = blocks(40);
     const Raster multiplied = drawn(opacity.size, [&](int x, int y) {
         return static_cast<int>(std::lround(200 * opacity.row(y)[4L * x] / 255.0));
     });
     const Bytes photo = photoWithOpacity(multiplied, opacity, Stored::MultipliedByOpacity);
-    const auto source = sourceOfBytes(photo);
-    const auto read = readPhoto(*source);
-    ASSERT_TRUE(read);
-    const MemoryFile output;
-    ASSERT_TRUE(writeThumbnail(*source, *read, output.descriptor(), 30));
-    const auto thumbnail = readPng(output.bytes());
+    const auto thumbnail = thumbnailOf(photo, 30);
     ASSERT_TRUE(thumbnail);
     ASSERT_EQ(thumbnail->size, (PixelSize{30, 20}));
     for (int y = 2; y < 20; y += 5) {
@@ -146,7 +134,7 @@ TEST_F(Opacity, ShouldShowInThumbnails)
     }
 }
 
-TEST_F(Opacity, ShouldMixTheLayersOfAnOverlay)
+TEST(Opacity, ShouldMixTheLayersOfAnOverlay)
 {
     const Raster lower = drawn({64, 48}, [](int x, int) { return 4 * x; });
     const Raster upper = drawn({64, 48}, [](int x, int y) { return 2 * x + 2 * y; });

@@ -5,7 +5,6 @@
 #include "MadePhoto.h"
 #include "PhotoReader.h"
 #include "PlainPhoto.h"
-#include "TileDecoder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -43,8 +42,6 @@ Raster mutedColours(bool hasAlpha)
 class PlainFiles : public testing::Test
 {
 protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-
     /// @p stored turned upside down and taken from @p profile to sRGB.
     static void expectShown(const Bytes &file, const Raster &stored, const Bytes &profile, double tolerance)
     {
@@ -106,7 +103,7 @@ TEST_F(PlainFiles, ShouldBeRefusedWhenPixelsOfAJpegAreMissing)
     const Bytes cut = firstPart(makeJpeg(cornerColours({96, 64}, false), {.exif = exif}), 0.7);
     EXPECT_TRUE(hasEnd(cut));
     EXPECT_FALSE(shown(cut)) << "only the preview has its end";
-    Bytes coarse = makeJpeg(cornerColours({96, 64}, false), {.exif = exif}, JpegOrder::Scans);
+    Bytes coarse = makeJpeg(cornerColours({96, 64}, false), {.exif = exif}, {.isProgressive = true});
     EXPECT_TRUE(shown(coarse));
     coarse.erase(std::find_end(coarse.begin(), coarse.end(), StartOfScan.begin(), StartOfScan.end()),
                  coarse.end());

@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <jpeglib.h>
-#include <png.h>
 #include <string>
 #include <string_view>
 
@@ -22,7 +21,7 @@ void writeMarker(jpeg_compress_struct &jpeg, std::string_view prefix, const Byte
 
 } // namespace
 
-Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, JpegOrder order)
+Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, const JpegForm &form)
 {
     constexpr std::string_view ExifPrefix("Exif\0\0", 6);
     constexpr std::string_view XmpPrefix("http://ns.adobe.com/xap/1.0/\0", 29);
@@ -38,10 +37,10 @@ Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, JpegOrder o
     jpeg.input_components = 4;
     jpeg.in_color_space = JCS_EXT_RGBX;
     jpeg_set_defaults(&jpeg);
-    jpeg_set_quality(&jpeg, 100, TRUE);
-    jpeg.comp_info[0].h_samp_factor = 1;
-    jpeg.comp_info[0].v_samp_factor = 1;
-    if (order == JpegOrder::Scans) {
+    jpeg_set_quality(&jpeg, form.quality, TRUE);
+    jpeg.comp_info[0].h_samp_factor = form.sampling;
+    jpeg.comp_info[0].v_samp_factor = form.sampling;
+    if (form.isProgressive) {
         jpeg_simple_progression(&jpeg);
     }
     jpeg_start_compress(&jpeg, TRUE);
@@ -62,7 +61,7 @@ Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, JpegOrder o
     return file;
 }
 
-Bytes makePng(const Raster &picture, const PlainMetadata &metadata)
+Bytes makePng(const Raster &picture, const PlainMetadata &metadata, const PngForm &form)
 {
     Bytes file;
     png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
@@ -75,8 +74,17 @@ Bytes makePng(const Raster &picture, const PlainMetadata &metadata)
         },
         nullptr);
     png_set_IHDR(png, info, static_cast<png_uint_32>(picture.size.width),
-                 static_cast<png_uint_32>(picture.size.height), 8, PNG_COLOR_TYPE_RGBA, PNG_INTERLACE_NONE,
-                 PNG_COMPRESSION_TYPE_BASE, PNG_FILTER_TYPE_BASE);
+                 static_cast<png_uint_32>(picture.size.height), 8,
+                 form.hasOpacity ? PNG_COLOR_TYPE_RGBA : PNG_COLOR_TYPE_RGB,
+                 form.isInterlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_BASE,
+                 PNG_FILTER_TYPE_BASE);
+    png_set_compression_buffer_size(png, static_cast<std::size_t>(form.chunkLength));
+    png_set_filter(png, 0, form.filters);
+    if (form.hasGammaAlone) {
+        png_set_gAMA(png, info, 1.0);
+    } else if (metadata.iccProfile.empty()) {
+        png_set_sRGB_gAMA_and_cHRM(png, info, PNG_sRGB_INTENT_PERCEPTUAL);
+    }
     if (!metadata.iccProfile.empty()) {
         png_set_iCCP(png, info, "wide", PNG_COMPRESSION_TYPE_BASE, metadata.iccProfile.data(),
                      static_cast<png_uint_32>(metadata.iccProfile.size()));
@@ -96,9 +104,15 @@ Bytes makePng(const Raster &picture, const PlainMetadata &metadata)
         png_set_text(png, info, &text, 1);
     }
     png_write_info(png, info);
-    for (int y = 0; y < picture.size.height; ++y) {
-        png_write_row(png, picture.row(y));
+    if (!form.hasOpacity) {
+        png_set_filler(png, 0, PNG_FILLER_AFTER);
     }
+    std::vector<png_bytep> rows;
+    rows.reserve(static_cast<std::size_t>(picture.size.height));
+    for (int y = 0; y < picture.size.height; ++y) {
+        rows.push_back(const_cast<png_bytep>(picture.row(y)));
+    }
+    png_write_image(png, rows.data());
     png_write_end(png, info);
     png_destroy_write_struct(&png, &info);
     return file;

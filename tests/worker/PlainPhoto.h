@@ -2,6 +2,8 @@
 
 #include "Raster.h"
 
+#include <png.h>
+
 namespace imageworker {
 
 /// What stands in a JPEG or PNG beside its pixels; each is left out when empty.
@@ -12,12 +14,28 @@ struct PlainMetadata
     Bytes xmp;
 };
 
-enum class JpegOrder { Rows, Scans };
+/// How a JPEG is stored.
+struct JpegForm
+{
+    int quality = 100;
+    int sampling = 1; ///< pixels that share a colour, on each side
+    bool isProgressive = false;
+};
 
-/// By libjpeg, of the best quality and without subsampling. Opacity is ignored.
-Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, JpegOrder order = JpegOrder::Rows);
+/// By libjpeg. Opacity is ignored.
+Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, const JpegForm &form = {});
+
+/// How a PNG is stored.
+struct PngForm
+{
+    int filters = PNG_ALL_FILTERS;
+    bool hasOpacity = true;
+    bool isInterlaced = false;
+    bool hasGammaAlone = false; ///< and that of linear light; else it says sRGB, or has a profile
+    int chunkLength = 8192;
+};
 
 /// By libpng.
-Bytes makePng(const Raster &picture, const PlainMetadata &metadata);
+Bytes makePng(const Raster &picture, const PlainMetadata &metadata, const PngForm &form = {});
 
 } // namespace imageworker

@@ -3,7 +3,6 @@
 #include "ExactColour.h"
 #include "MadePhoto.h"
 #include "MadeTracks.h"
-#include "TileDecoder.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -24,13 +23,7 @@ MadeTrack trackOf(const Bytes &photo, PixelSize size)
     return track;
 }
 
-class Tracks : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { ASSERT_TRUE(loadDecoders()); }
-};
-
-TEST_F(Tracks, ShouldShowTheFirstPictureWhereverTheTablesSayItIs)
+TEST(Tracks, ShouldShowTheFirstPictureWhereverTheTablesSayItIs)
 {
     const Bytes photo = makePhoto({});
     const auto reference = decodeIndependently(photo);
@@ -48,7 +41,7 @@ TEST_F(Tracks, ShouldShowTheFirstPictureWhereverTheTablesSayItIs)
     }
 }
 
-TEST_F(Tracks, ShouldBePassedOverWhenTheyAreNotToBeShown)
+TEST(Tracks, ShouldBePassedOverWhenTheyAreNotToBeShown)
 {
     const Bytes photo = makePhoto({});
     const auto reference = decodeIndependently(photo);
@@ -64,7 +57,7 @@ TEST_F(Tracks, ShouldBePassedOverWhenTheyAreNotToBeShown)
     EXPECT_FALSE(shown(fileOfTracks({sound, opacity})));
 }
 
-TEST_F(Tracks, ShouldFollowTheirColours)
+TEST(Tracks, ShouldFollowTheirColours)
 {
     const Raster picture = cornerColours({64, 48}, false);
     MadeTrack track;
@@ -79,7 +72,7 @@ TEST_F(Tracks, ShouldFollowTheirColours)
     }
 }
 
-TEST_F(Tracks, ShouldBeCroppedAndTurned)
+TEST(Tracks, ShouldBeCroppedAndTurned)
 {
     const auto number = [](unsigned value) { return bigEndian(value, 4); };
     const HeifFile::Property crop = {"clap", joined({number(50), number(1), number(30), number(1), number(6),
