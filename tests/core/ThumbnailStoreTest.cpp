@@ -33,6 +33,18 @@ class ThumbnailStoreTest : public QObject
         return result;
     }
 
+    /// Asks for previews of new photos, which wait for the gate; counts those that are answered.
+    std::vector<std::unique_ptr<ThumbnailRequest>> askForHeld(int count, const QString &names, int &answered)
+    {
+        m_photos->hold();
+        std::vector<std::unique_ptr<ThumbnailRequest>> requests;
+        for (int i = 0; i < count; ++i) {
+            requests.push_back(
+                m_store->image(write(names.arg(i), "red"), [&answered](const QImage &) { ++answered; }));
+        }
+        return requests;
+    }
+
 private Q_SLOTS:
     void init()
     {
@@ -80,13 +92,8 @@ private Q_SLOTS:
 
     void shouldNeverReadMoreThanTwoAtATime()
     {
-        m_photos->hold();
-        std::vector<std::unique_ptr<ThumbnailRequest>> requests;
         int answered = 0;
-        for (int i = 0; i < 6; ++i) {
-            const QUrl photo = write(QStringLiteral("many%1.heic").arg(i), "red");
-            requests.push_back(m_store->image(photo, [&](const QImage &) { ++answered; }));
-        }
+        auto requests = askForHeld(6, QStringLiteral("many%1.heic"), answered);
         QTRY_COMPARE(m_photos->running.load(), 2);
         m_photos->gate.release(6);
         QTRY_COMPARE(answered, 6);
@@ -95,13 +102,8 @@ private Q_SLOTS:
 
     void shouldNotReadWhatWasGivenUpBeforeItsTurn()
     {
-        m_photos->hold();
-        std::vector<std::unique_ptr<ThumbnailRequest>> requests;
         int answered = 0;
-        for (int i = 0; i < 4; ++i) {
-            const QUrl photo = write(QStringLiteral("turn%1.heic").arg(i), "red");
-            requests.push_back(m_store->image(photo, [&](const QImage &) { ++answered; }));
-        }
+        auto requests = askForHeld(4, QStringLiteral("turn%1.heic"), answered);
         QTRY_COMPARE(m_photos->running.load(), 2);
         requests[2].reset();
         m_photos->gate.release(4);
