@@ -32,7 +32,7 @@ public:
             if (!decoder || !decoder->suits(tile)) {
                 decoder = TileDecoder::create(tile);
             }
-            const auto bytes = readAll(m_source, tile.data);
+            const auto bytes = m_source.read(tile.data);
             if (!decoder || !bytes || !decoder->decode(*bytes, m_grid.tile)) {
                 m_hasFailed = true;
             }

@@ -1,5 +1,6 @@
 import QtQuick
 import Lumaport.Interaction
+import Lumaport.Stage
 import Lumaport.Views
 import Lumaport.Vocabulary
 

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.History
 import Lumaport.Interaction
 import Lumaport.Views
 import Lumaport.Vocabulary

@@ -1,4 +1,6 @@
 import QtQuick
+import Lumaport.Controls
+import Lumaport.Options
 import Lumaport.Views
 import Lumaport.Vocabulary
 import Lumaport.Welcome

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Options
 import Lumaport.Views
 import Lumaport.Vocabulary
 

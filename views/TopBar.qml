@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Lumaport.Options
 import Lumaport.Views
 import Lumaport.Vocabulary
 

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Drawing
 import Lumaport.Views
 import Lumaport.Vocabulary
 

@@ -1,6 +1,6 @@
 import QtQuick
+import Lumaport.Drawing
 import Lumaport.Vocabulary
-import Lumaport.Welcome
 
 // A line of the welcome, legible over anything: white, with a soft dark shadow.
 BodyText {

@@ -1,0 +1,97 @@
+#include "ModelScene.h"
+#include "Typeface.h"
+
+#include <QBuffer>
+#include <QElapsedTimer>
+#include <QPainter>
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+// Measures what a list of 20 photos costs the main thread: the making of one thumbnail's picture, its
+// painting, and the time between frames while the list scrolls on the present platform. Usage: scrolling
+
+namespace {
+
+constexpr int rows = 20;
+
+/// As hard to decode as a photo: noise over a gradient.
+QByteArray photographicPng()
+{
+    QImage image(ThumbnailStore::maximumSide, ThumbnailStore::maximumSide * 3 / 4, QImage::Format_RGB32);
+    auto *random = QRandomGenerator::global();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const int noise = static_cast<int>(random->bounded(24U));
+            image.setPixel(x, y, qRgb((x + noise) % 256, (y + noise) % 256, (x + y + noise) % 256));
+        }
+    }
+    QBuffer png;
+    image.save(&png, "PNG");
+    return png.data();
+}
+
+void report(const char *what, std::vector<double> milliseconds)
+{
+    std::sort(milliseconds.begin(), milliseconds.end());
+    std::printf("%-44s median %6.2f ms   longest %6.2f ms   (%zu)\n", what,
+                milliseconds[milliseconds.size() / 2], milliseconds.back(), milliseconds.size());
+}
+
+template<typename Work>
+std::vector<double> timed(int times, Work work)
+{
+    std::vector<double> result;
+    for (int i = 0; i < times; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        work();
+        result.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    }
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QGuiApplication application(argc, argv);
+    QGuiApplication::setFont(Typeface::preferred(QGuiApplication::font()));
+
+    const QByteArray png = photographicPng();
+    report("making a thumbnail's picture from its PNG",
+           timed(200, [&] { (void)QImage::fromData(png, "PNG"); }));
+
+    ModelScene scene;
+    QList<ConversionItem> items;
+    for (int i = 0; i < rows; ++i) {
+        items.append(scene.item(QStringLiteral("IMG_%1.HEIC").arg(2000 + i), ConversionStatus::ready));
+    }
+    scene.model.setItems(items);
+    scene.show(
+        "import QtQuick\nimport Lumaport.Vocabulary\nimport Lumaport.History\n"
+        "Rectangle { color: LumaportPalette.night; width: 520; height: 560\n"
+        "  Flickable { anchors.fill: parent; contentHeight: rows.height; clip: true\n"
+        "    ArrivalsList { id: rows; width: 520 }\n"
+        "    SequentialAnimation on contentY { loops: Animation.Infinite\n"
+        "      NumberAnimation { to: 900; duration: 900 } NumberAnimation { to: 0; duration: 900 } } } }");
+    (void)QTest::qWaitFor([&] { return scene.photos->launched >= rows && scene.photos->running == 0; });
+
+    std::vector<double> intervals;
+    QElapsedTimer sinceFrame;
+    QObject::connect(&scene.window, &QQuickWindow::frameSwapped, &scene.window, [&] {
+        if (sinceFrame.isValid()) {
+            intervals.push_back(static_cast<double>(sinceFrame.nsecsElapsed()) / 1e6);
+        }
+        sinceFrame.start();
+    });
+    (void)QTest::qWaitFor([&] { return intervals.size() >= 300; }, 20000);
+    if (intervals.empty()) {
+        std::fprintf(stderr, "no frame was shown\n");
+        return 1;
+    }
+    report("between two frames while 20 rows scroll", intervals);
+    return 0;
+}

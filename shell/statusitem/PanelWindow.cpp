@@ -1,0 +1,115 @@
+#include "PanelWindow.h"
+
+#include "JobScheduler.h"
+#include "MenuBarViewController.h"
+#include "PanelPlacement.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+
+#include <utility>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Longer than a busy desktop takes to pass a click on.
+constexpr auto sameClick = 1s;
+// A host may say of an item only where it was clicked.
+constexpr QMargins aroundItem{12, 12, 12, 12};
+
+} // namespace
+
+PanelWindow::PanelWindow(QQmlEngine &engine, MenuBarViewController &controller,
+                         std::shared_ptr<JobScheduler> jobs)
+    : QQuickView(&engine, nullptr)
+    , m_jobs(std::move(jobs))
+{
+    setTitle(QStringLiteral("Lumaport Quick Panel"));
+    setObjectName(QStringLiteral("panel"));
+    // A popup window would not close on a click outside the application; a tool window is told of the focus.
+    setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    setResizeMode(QQuickView::SizeViewToRootObject);
+    setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
+    setSource(QUrl(QStringLiteral("qrc:/qt-project.org/imports/Lumaport/StatusItem/MenuBarView.qml")));
+    connect(this, &QWindow::heightChanged, this, &PanelWindow::moveToPlace);
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &PanelWindow::followFocus);
+}
+
+PanelWindow::~PanelWindow() = default;
+
+void PanelWindow::toggle(const std::optional<QRect> &item)
+{
+    if (isVisible()) {
+        dismiss();
+    } else {
+        open(item);
+    }
+    m_justLostFocus.reset();
+}
+
+void PanelWindow::toggleByClick(const std::optional<QRect> &item)
+{
+    if (!std::exchange(m_justLostFocus, {})) {
+        toggle(item);
+    }
+}
+
+void PanelWindow::open(const std::optional<QRect> &item)
+{
+    m_item = item;
+    m_hadFocus = false;
+    moveToPlace();
+    show();
+    raise();
+    requestActivate();
+}
+
+void PanelWindow::dismiss()
+{
+    hide();
+}
+
+void PanelWindow::moveToPlace()
+{
+    const QScreen *target = m_item ? QGuiApplication::screenAt(m_item->center()) : nullptr;
+    if (target == nullptr) {
+        target = QGuiApplication::focusWindow() != nullptr ? QGuiApplication::focusWindow()->screen()
+                                                           : QGuiApplication::primaryScreen();
+    }
+    if (target != nullptr) {
+        setPosition(PanelPlacement::place(size(), m_item, target->availableGeometry()).topLeft());
+    }
+}
+
+void PanelWindow::followFocus(const QWindow *focus)
+{
+    if (!isVisible()) {
+        return;
+    }
+    if (focus == this) {
+        m_hadFocus = true;
+    } else if (m_hadFocus) {
+        // On its way here the focus may pass through nothing; from here on it has gone elsewhere.
+        hide();
+        if (mayBeOnItem(QCursor::pos())) {
+            m_justLostFocus = m_jobs->after(sameClick, [this] { m_justLostFocus.reset(); });
+        }
+    }
+}
+
+bool PanelWindow::mayBeOnItem(const QPoint &pointer) const
+{
+    return !m_item || m_item->marginsAdded(aroundItem).contains(pointer);
+}
+
+void PanelWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape) {
+        dismiss();
+    } else {
+        QQuickView::keyPressEvent(event);
+    }
+}

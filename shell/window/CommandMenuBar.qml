@@ -1,0 +1,96 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Lumaport.Vocabulary
+import Lumaport.Window
+
+// The menu bar of the main window. F10 opens its first menu and Alt with the underlined letter each of them; the arrows
+// lead from there.
+MenuBar {
+    id: bar
+
+    required property MainCommands commands
+
+    signal closeRequested
+
+    delegate: MenuBarItem {
+        id: heading
+
+        Accessible.name: text.replace("&", "")
+        Accessible.onPressAction: heading.clicked()
+        font.pixelSize: 12
+        horizontalPadding: 10
+        verticalPadding: 6
+
+        background: Rectangle {
+            color: heading.highlighted ? LumaportPalette.deck : "transparent"
+        }
+        contentItem: BodyText {
+            Accessible.ignored: true
+            font: heading.font
+            text: heading.text.replace(/&(.)/, "<u>$1</u>")
+            textFormat: Text.StyledText
+        }
+    }
+
+    background: Rectangle {
+        color: LumaportPalette.panel
+    }
+
+    Shortcut {
+        sequence: "F10"
+        onActivated: (bar.itemAt(0) as MenuBarItem).clicked()
+    }
+
+    CommandMenu {
+        title: qsTr("&File")
+
+        CommandMenuItem {
+            keys: "Ctrl+W"
+            reach: Qt.WindowShortcut
+            text: qsTr("Close Window")
+            onTriggered: bar.closeRequested()
+        }
+
+        CommandMenuItem {
+            keys: "Ctrl+Q"
+            text: qsTr("Quit Lumaport")
+            onTriggered: bar.commands.quit()
+        }
+    }
+
+    CommandMenu {
+        title: qsTr("&Convert")
+
+        CommandMenuItem {
+            keys: "Ctrl+Shift+M"
+            text: qsTr("Show Quick Panel")
+            onTriggered: bar.commands.showQuickPanel()
+        }
+
+        CommandMenuItem {
+            text: qsTr("Replay Signature Welcome")
+            onTriggered: bar.commands.replayWelcome()
+        }
+
+        CommandMenuItem {
+            keys: "Ctrl+K"
+            text: qsTr("Convert HEIC Photos in Watched Folder")
+            onTriggered: bar.commands.convertExistingFiles()
+        }
+
+        CommandMenuItem {
+            keys: "Ctrl+Shift+P"
+            text: bar.commands.watchingTitle
+            onTriggered: bar.commands.toggleWatching()
+        }
+    }
+
+    CommandMenu {
+        title: qsTr("&Window")
+
+        CommandMenuItem {
+            text: qsTr("Use Recommended Window Size")
+            onTriggered: bar.commands.useRecommendedWindowSize()
+        }
+    }
+}

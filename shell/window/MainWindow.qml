@@ -1,0 +1,32 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Lumaport.Views
+import Lumaport.Vocabulary
+import Lumaport.Window
+
+// The one main window. The menu bar adds its height to the window and takes nothing from the content.
+ApplicationWindow {
+    id: window
+
+    required property MainCommands commands
+    required property MainViewController controller
+
+    color: LumaportPalette.night
+    height: 780 + menuBar.height
+    minimumHeight: 620 + menuBar.height
+    minimumWidth: 800
+    objectName: "main"
+    title: "Lumaport"
+    width: 900
+
+    menuBar: CommandMenuBar {
+        commands: window.commands
+        onCloseRequested: window.close()
+    }
+
+    MainView {
+        anchors.fill: parent
+        controller: window.controller
+        objectName: "content"
+    }
+}

@@ -1,0 +1,185 @@
+#include "ConversionFluid.h"
+#include "FolderFront.h"
+#include "GaussianBlur.h"
+#include "ModelScene.h"
+#include "PhotoLandingStageController.h"
+
+#include <cmath>
+
+// The pieces of the stage that are drawn by the program itself.
+class StageDrawingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void shouldBlurLikeAGaussian()
+    {
+        // The edge of a half-plane, blurred, is the Gaussian's integral.
+        constexpr int side = 121;
+        constexpr int edge = side / 2;
+        constexpr double radius = 6.0;
+        QImage mask(side, side, QImage::Format_Alpha8);
+        mask.fill(0);
+        for (int y = 0; y < side; ++y) {
+            std::fill_n(mask.scanLine(y) + side / 2, side - side / 2, uchar{255});
+        }
+        const QImage blurred = GaussianBlur::blurred(mask, radius);
+        const uchar *row = blurred.constScanLine(edge);
+        for (int x = 40; x < 80; ++x) {
+            const double distance = x + 0.5 - edge;
+            const double expected = 255.0 * 0.5 * (1.0 + std::erf(distance / (radius * std::sqrt(2.0))));
+            QVERIFY2(std::abs(row[x] - expected) < 5.0, qPrintable(QString::number(x)));
+        }
+        const int reach = static_cast<int>(GaussianBlur::extent(radius));
+        QVERIFY(blurred.constScanLine(side / 2)[side / 2 - reach] <= 1);
+    }
+
+    void shouldDrawAGlowAroundItsShape()
+    {
+        Scene scene;
+        scene.show("import QtQuick; import Lumaport.Drawing; Rectangle { width: 200; height: 100;"
+                   "SoftShape { anchors.centerIn: parent; shapeSize: Qt.size(100, 20); cornerRadius: 50;"
+                   "blurRadius: 5; color: Qt.rgba(0, 0, 0, 1) } }");
+        const QImage picture = scene.window.grabWindow();
+        const int middle = picture.pixelColor(100, 50).red();
+        QVERIFY2(middle < 40, qPrintable(QString::number(middle)));
+        const int end = picture.pixelColor(51, 41).red(); // a rectangle would be dark here, an ellipse is not
+        QVERIFY2(end > 220, qPrintable(QString::number(end)));
+        QCOMPARE(picture.pixelColor(100, 50 - 10 - 16).red(), 255);
+    }
+
+    void shouldLeanTheFolderAboutItsBottomEdge()
+    {
+        FolderFront front;
+        const auto place = [&front](double x, double y) {
+            return front.tiltMatrix().map(QPointF(x, y)); // in a point of air
+        };
+        front.setTilt(0.0);
+        QCOMPARE(place(1.0, 1.0), QPointF(1.0, 1.0));
+        front.setTilt(-18.0);
+        for (const double x : {1.0, 120.5, 240.0}) {
+            QVERIFY(QLineF(place(x, 109.0), QPointF(x, 109.0)).length() < 1e-3);
+        }
+        // From 239 points away the top edge, 108 sin 18 nearer, is larger by 239 / (239 - 33.37).
+        const double larger = 239.0 / (239.0 - 108.0 * std::sin(18.0 * M_PI / 180.0));
+        QVERIFY(std::abs(place(240.0, 1.0).x() - (120.5 + 119.5 * larger)) < 0.01);
+        QVERIFY(std::abs(place(120.5, 1.0).y() - (109.0 - 108.0 * std::cos(18.0 * M_PI / 180.0) * larger)) <
+                0.01);
+        // A scene has no depth: what left its plane would be cut off.
+        QCOMPARE(front.tiltMatrix().map(QVector3D(50.0F, 20.0F, 0.0F)).z(), 0.0F);
+    }
+
+    void shouldFanItsCardsOutForADrag_data()
+    {
+        QTest::addColumn<SystemAppearance::Motion>("motion");
+        QTest::addColumn<double>("tilt");
+        QTest::addColumn<double>("growth");
+        QTest::newRow("with motion") << SystemAppearance::Motion::Full << -18.0 << 1.04;
+        QTest::newRow("with reduced motion the folder stays as it is")
+            << SystemAppearance::Motion::Reduced << -5.0 << 1.0;
+    }
+
+    void shouldFanItsCardsOutForADrag()
+    {
+        QFETCH(SystemAppearance::Motion, motion);
+        QFETCH(double, tilt);
+        QFETCH(double, growth);
+        ModelScene scene;
+        scene.appearance.setMotion(motion);
+        PhotoLandingStageController controller(scene.model);
+        scene.show("import QtQuick\nimport Lumaport.Stage\nItem { id: page; width: 400; height: 222\n"
+                   "required property PhotoLandingStageController controller\n"
+                   "PhotoLandingStage { objectName: 'stage'; controller: page.controller } }",
+                   {{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
+        for (const int x : {380, 370}) { // the pointer may rest where an earlier test left it
+            QTest::mouseMove(&scene.window, QPoint(x, 20));
+        }
+        const QQuickItem *stage = scene.find(QStringLiteral("stage"));
+        const QQuickItem *front = scene.find(QStringLiteral("front"));
+        const auto card = [&](int number) { return scene.find(QStringLiteral("card%1").arg(number)); };
+        // How far a card's middle lies from the stage's; an odd side is centred on a whole point.
+        const auto liesAt = [&](int number, QPointF place) {
+            const QQuickItem *shown = card(number);
+            const QPointF middle = shown->mapToItem(stage, QPointF(shown->width() / 2, shown->height() / 2));
+            return QLineF(middle - QPointF(165, 111), place).length() < 0.8;
+        };
+        QTRY_COMPARE(front->property("tilt").toDouble(), -5.0);
+        QTRY_COMPARE(card(2)->rotation(), 10.0);
+        for (const int side : {-1, 0, 1}) {
+            QCOMPARE(card(side + 1)->rotation(), 10.0 * side);
+            QVERIFY(liesAt(side + 1, QPointF(43 * side, -17)));
+        }
+        scene.model.setIsDropTargeted(true);
+        QTRY_COMPARE(card(2)->rotation(), 18.0);
+        for (const int side : {-1, 0, 1}) {
+            QCOMPARE(card(side + 1)->rotation(), 18.0 * side);
+            QTRY_VERIFY(liesAt(side + 1, QPointF(63 * side, -37) * growth));
+        }
+        QCOMPARE(front->property("tilt").toDouble(), tilt);
+        scene.close();
+    }
+
+    void shouldDrawTheFluidOfItsMoment()
+    {
+        Scene scene;
+        auto *fluid = qobject_cast<ConversionFluid *>(
+            scene.show("import QtQuick; import Lumaport.Stage; ConversionFluid { width: 54; height: 54 }"));
+        QVERIFY(fluid);
+        const QImage still = scene.window.grabWindow();
+        QCOMPARE(still.pixelColor(1, 1), QColor(Qt::white)); // a disc, not a square
+        // The last colour has its middle there and covers what is below by 85 %.
+        const QColor coral(0xFF, 0x80, 0x5F);
+        const QPoint middle(static_cast<int>(54 * (0.5 + 0.28 * std::sin(4.2))),
+                            static_cast<int>(54 * (0.62 + 0.2 * std::cos(0.8 * 4.2))));
+        const QColor seen = still.pixelColor(middle);
+        QVERIFY2(std::abs(seen.red() - coral.red()) < 45 && std::abs(seen.green() - coral.green()) < 30 &&
+                     std::abs(seen.blue() - coral.blue()) < 40,
+                 qPrintable(seen.name()));
+        fluid->setTime(1.0);
+        QVERIFY(scene.window.grabWindow() != still);
+        fluid->setTime(0.0);
+        QCOMPARE(scene.window.grabWindow(), still);
+    }
+
+    void shouldMoveTheFluidOnlyWhenThatIsWantedAndSeen()
+    {
+        Scene scene;
+        auto *fluid = qobject_cast<ConversionFluid *>(
+            scene.show("import QtQuick; import Lumaport.Stage; ConversionFluid { width: 54; height: 54 }"));
+        QVERIFY(!fluid->isMoving());
+        fluid->setActive(true);
+        QVERIFY(fluid->isMoving());
+        QTRY_VERIFY(fluid->time() > 0.0);
+
+        scene.window.hide();
+        QVERIFY(!fluid->isMoving());
+        scene.window.show();
+        QTRY_VERIFY(fluid->isMoving());
+        scene.window.showMinimized();
+        QVERIFY(!fluid->isMoving());
+        scene.window.showNormal();
+        QWindow other;
+        other.show();
+        other.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        QVERIFY2(!fluid->isMoving(), "nobody works with its window");
+        scene.window.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&scene.window));
+        QVERIFY(fluid->isMoving());
+        fluid->setVisible(false);
+        QVERIFY(!fluid->isMoving());
+        fluid->setVisible(true);
+        QVERIFY(fluid->isMoving());
+
+        fluid->setReduceMotion(true);
+        QVERIFY(!fluid->isMoving());
+        QCOMPARE(fluid->time(), 0.0);
+        fluid->setReduceMotion(false);
+        fluid->setActive(false);
+        QVERIFY(!fluid->isMoving());
+        QCOMPARE(fluid->time(), 0.0);
+    }
+};
+
+QTEST_MAIN(StageDrawingTest)
+#include "StageDrawingTest.moc"

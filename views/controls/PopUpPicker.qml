@@ -1,0 +1,89 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Lumaport.Controls
+import Lumaport.Interaction
+import Lumaport.Vocabulary
+
+// A choice from a menu that pops up. `name` is its title for a screen reader.
+T.ComboBox {
+    id: picker
+
+    required property string name
+
+    function opensBy(key: int): bool {
+        const opens = key === Qt.Key_Return || key === Qt.Key_Enter;
+        if (opens) {
+            popup.open();
+        }
+        return opens;
+    }
+
+    Accessible.description: displayText
+    Accessible.name: name
+    Accessible.onPressAction: picker.popup.open()
+    // With its menu open the keys choose. It opens as the key is let go, for letting go would close it again.
+    Keys.enabled: !popup.visible
+    Keys.onReleased: event => event.accepted = picker.opensBy(event.key)
+    font.pixelSize: 12
+    implicitHeight: 30
+    leftPadding: 10
+    rightPadding: 28
+
+    background: Rectangle {
+        border.color: LumaportPalette.softLine
+        border.width: 1
+        color: LumaportPalette.night
+        radius: 9
+
+        FocusRing {
+            visible: picker.visualFocus
+        }
+
+        InteractionFeedback {}
+    }
+    contentItem: BodyText {
+        Accessible.ignored: true
+        elide: Text.ElideRight
+        font: picker.font
+        text: picker.displayText
+        verticalAlignment: Text.AlignVCenter
+    }
+    delegate: PopUpPickerEntry {
+        required property int index
+        required property string modelData
+
+        chosen: picker.currentIndex === index
+        highlighted: picker.highlightedIndex === index
+        text: modelData
+        width: picker.width - 2
+    }
+    indicator: Symbol {
+        color: LumaportPalette.muted
+        name: "chevron.up.chevron.down"
+        pointSize: 10
+        x: picker.width - width - 8
+        y: Math.round((picker.height - height) / 2)
+    }
+    popup: T.Popup {
+        height: contentItem.implicitHeight + topPadding + bottomPadding
+        margins: 6
+        padding: 1
+        width: picker.width
+        y: picker.height + 4
+
+        background: Rectangle {
+            border.color: LumaportPalette.softLine
+            border.width: 1
+            color: LumaportPalette.panel
+            radius: 9
+        }
+        contentItem: ListView {
+            clip: true
+            currentIndex: picker.highlightedIndex
+            implicitHeight: contentHeight
+            model: picker.delegateModel
+        }
+    }
+}

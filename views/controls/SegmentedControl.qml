@@ -1,0 +1,80 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lumaport.Controls
+import Lumaport.Vocabulary
+
+// A switch between a few choices, with a pill that slides to the chosen one. For the keyboard it is one stop, where the
+// arrows choose.
+FocusScope {
+    id: control
+
+    // One per segment: `text` or `symbol`, `name` for a screen reader, `help`.
+    required property list<Segment> segments
+    required property int selection
+    property real segmentWidth: 30
+    property real segmentHeight: 28
+    property real spacing: 5
+    property real dampingFraction: 0.7
+
+    readonly property real padding: 4
+    readonly property real lift: 2
+
+    signal chosen(int choice)
+
+    function place(choice: int): real {
+        return padding + choice * (segmentWidth + spacing);
+    }
+
+    Accessible.role: Accessible.Grouping
+    implicitHeight: segmentHeight + 2 * padding
+    implicitWidth: segments.length * (segmentWidth + spacing) - spacing + 2 * padding
+
+    Rectangle {
+        anchors.fill: parent
+        color: LumaportPalette.deck
+        radius: 12
+    }
+
+    Rectangle {
+        color: LumaportPalette.cobalt
+        height: control.segmentHeight
+        objectName: "pill"
+        radius: 9
+        width: control.segmentWidth
+        x: pillPlace.value
+        y: control.padding - control.lift
+
+        SpringValue {
+            id: pillPlace
+
+            dampingFraction: control.dampingFraction
+            response: 0.32
+            to: control.place(control.selection)
+        }
+    }
+
+    Repeater {
+        model: control.segments
+
+        SegmentButton {
+            required property int index
+            required property Segment modelData
+
+            dampingFraction: control.dampingFraction
+            height: control.segmentHeight
+            lift: control.lift
+            objectName: "segment" + index
+            segment: modelData
+            selected: index === control.selection
+            width: control.segmentWidth
+            x: control.place(index)
+            y: control.padding
+
+            Keys.onLeftPressed: control.chosen(Math.max(0, index - 1))
+            Keys.onRightPressed: control.chosen(Math.min(control.segments.length - 1, index + 1))
+            onClicked: control.chosen(index)
+            onSelectedChanged: selected && control.activeFocus && forceActiveFocus(Qt.TabFocusReason)
+        }
+    }
+}

@@ -1,0 +1,109 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Lumaport.Controls
+import Lumaport.History
+import Lumaport.Interaction
+import Lumaport.Vocabulary
+
+// The "Recent photos" workspace: the history, newest first. It is as high as its rows; what holds it scrolls.
+ColumnLayout {
+    id: list
+
+    spacing: 14
+
+    ArrivalsListController {
+        id: controller
+
+        model: AppModel
+    }
+
+    RowLayout {
+        spacing: 8
+
+        BodyText {
+            Layout.fillWidth: true
+            font.weight: Font.DemiBold
+            size: 14
+            text: qsTr("Recent arrivals")
+            wrapMode: Text.Wrap
+        }
+
+        BodyText {
+            color: LumaportPalette.muted
+            objectName: "readyCount"
+            size: 11
+            text: controller.readyText
+            visible: !controller.isEmpty
+        }
+
+        TextButton {
+            enabled: controller.canClear
+            help: qsTr("Removes history only. Your photos are kept.")
+            objectName: "clearHistory"
+            rightPadding: 0
+            text: qsTr("Clear history")
+            visible: !controller.isEmpty
+            onClicked: AppModel.clearHistory()
+        }
+    }
+
+    RowLayout {
+        Layout.bottomMargin: 15
+        Layout.topMargin: 15
+        objectName: "emptyState"
+        spacing: 12
+        visible: controller.isEmpty
+
+        Symbol {
+            color: LumaportPalette.muted
+            name: "photo.on.rectangle.angled"
+            pointSize: 22
+        }
+
+        ColumnLayout {
+            spacing: 4
+
+            BodyText {
+                Layout.fillWidth: true
+                color: LumaportPalette.muted
+                font.weight: Font.Medium
+                text: qsTr("Your next photo goes here.")
+                wrapMode: Text.Wrap
+            }
+
+            BodyText {
+                Layout.fillWidth: true
+                color: LumaportPalette.muted
+                objectName: "emptyHint"
+                size: 11
+                text: controller.emptyHint
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+
+    Column {
+        id: rows
+
+        Accessible.name: qsTr("Recent arrivals")
+        Accessible.role: Accessible.List
+        Layout.fillWidth: true
+        visible: !controller.isEmpty
+
+        Repeater {
+            id: repeater
+
+            model: controller.arrivals
+
+            ArrivalRow {
+                isLast: index === repeater.count - 1
+                objectName: "row" + index
+                width: rows.width
+                onReveal: controller.reveal(index)
+                onTryAgain: controller.tryAgain(index)
+            }
+        }
+    }
+}

@@ -1,0 +1,58 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lumaport.Stage
+import Lumaport.Vocabulary
+
+// The round badge on the folder's front; each of its faces fades into the next.
+Item {
+    id: badge
+
+    required property PhotoLandingStageController controller
+
+    height: 54
+    width: 54
+
+    Repeater {
+        model: ["arrow.down", "checkmark", "exclamationmark"]
+
+        Rectangle {
+            id: face
+
+            required property string modelData
+
+            anchors.fill: parent
+            border.color: Qt.alpha("white", 0.3)
+            border.width: 1
+            color: Qt.alpha("white", 0.13)
+            opacity: badge.controller.badgeSymbol === modelData ? 1 : 0
+            radius: width / 2
+            visible: opacity > 0
+
+            Behavior on opacity {
+                EasedAnimation {
+                }
+            }
+
+            Symbol {
+                anchors.centerIn: parent
+                color: "white"
+                name: face.modelData
+                pointSize: 24
+            }
+        }
+    }
+
+    ConversionFluid {
+        active: badge.controller.fluidActive
+        anchors.fill: parent
+        opacity: badge.controller.showsFluid ? 1 : 0
+        reduceMotion: SystemAppearance.reduceMotion
+        visible: opacity > 0
+
+        Behavior on opacity {
+            EasedAnimation {
+            }
+        }
+    }
+}

@@ -1,0 +1,344 @@
+#include "PictureReader.h"
+
+#include "Boxes.h"
+#include "CodecConfiguration.h"
+#include "ItemData.h"
+#include "PictureProperties.h"
+#include "TileDecoder.h"
+
+#include <algorithm>
+
+namespace imageworker {
+
+namespace {
+
+constexpr int MaximumDepth = 8;
+constexpr std::size_t MaximumLayers = 64;
+constexpr std::size_t MaximumPictures = 256; // overlays of overlays multiply
+
+/// The stated extent is that of the coded picture before any turn and may leave out what pads it. Some
+/// writers state it after the turn, where it does not fit: then all of what is coded is shown.
+PixelSize sizeOfSingle(const CodedPicture &coded, PixelSize extent)
+{
+    const auto decoder = TileDecoder::create(coded);
+    const auto announced = decoder != nullptr ? decoder->announcedSize() : std::nullopt;
+    const bool fits = !announced || (extent.width <= announced->width && extent.height <= announced->height);
+    return fits ? extent : *announced;
+}
+
+/// Whether the tiles together cover the canvas: a hole could not be told from the photo.
+bool isCovered(const TileGrid &grid)
+{
+    return std::int64_t{grid.tile.width} * grid.columns >= grid.canvas.width &&
+           std::int64_t{grid.tile.height} * grid.rows >= grid.canvas.height;
+}
+
+class PictureReader
+{
+public:
+    PictureReader(const Source &source, const ItemTable &table)
+        : m_source(source)
+        , m_table(table)
+    {}
+
+    Result<ReadPicture> read(std::uint32_t identifier, int depth);
+
+private:
+    Result<void> readContent(const Item &item, int depth, ReadPicture &result);
+    Result<CodedPicture> readCoded(const Item &item) const;
+    Result<void> readSingle(const Item &item, Picture &picture) const;
+    Result<void> readGrid(const Item &item, int depth, Picture &picture);
+    bool canJoin(const Item *tile, const TileGrid &grid) const;
+    Result<void> readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, Picture &picture) const;
+    Result<void> layTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, int depth,
+                          Picture &picture);
+    Result<void> readIdentity(const Item &item, int depth, ReadPicture &result);
+    Result<void> readOverlay(const Item &item, int depth, Picture &picture);
+    Result<void> readAlpha(std::uint32_t identifier, int depth, Picture &picture);
+    Result<Bytes> readDerivation(const Item &item) const;
+
+    const Source &m_source;
+    const ItemTable &m_table;
+    std::size_t m_pictures = 0; ///< read so far, however deep
+};
+
+Result<ReadPicture> PictureReader::read(std::uint32_t identifier, int depth)
+{
+    const Item *item = m_table.find(identifier);
+    if (item == nullptr || depth > MaximumDepth || ++m_pictures > MaximumPictures) {
+        return unreadable();
+    }
+    ReadPicture result;
+    Picture &picture = result.picture;
+    if (!readContent(*item, depth, result)) {
+        return unreadable();
+    }
+    // A tone map describes what it would make of its base, which is shown as it is.
+    ColourDescription colour =
+        item->type == fourCharacters("tmap") ? ColourDescription{} : colourOf(m_table, *item);
+    if (colour.codePoints) {
+        picture.colour.codePoints = colour.codePoints;
+    }
+    if (!colour.iccProfile.empty()) {
+        picture.colour.iccProfile = std::move(colour.iccProfile);
+    }
+    const auto turned = applyTransformations(m_table, *item, picture.upright);
+    if (!turned) {
+        return unreadable();
+    }
+    if (picture.alpha != nullptr) { // of the picture that an identity shows again: it turns along
+        auto alpha = std::make_shared<Picture>(*picture.alpha);
+        if (!applyTransformations(m_table, *item, alpha->upright)) {
+            return unreadable();
+        }
+        picture.alpha = std::move(alpha);
+    }
+    if (!readAlpha(identifier, depth, picture)) {
+        return unreadable();
+    }
+    result.turnsItself = result.turnsItself || *turned;
+    return result;
+}
+
+Result<void> PictureReader::readContent(const Item &item, int depth, ReadPicture &result)
+{
+    Picture &picture = result.picture;
+    switch (item.type) {
+    case fourCharacters("grid"):
+        return readGrid(item, depth, picture);
+    case fourCharacters("iden"):
+        return readIdentity(item, depth, result);
+    case fourCharacters("iovl"):
+        return readOverlay(item, depth, picture);
+    case fourCharacters("tmap"): { // the first input is the picture, the second its gain map
+        const auto inputs = referencesOf(item, fourCharacters("dimg"));
+        const Item *base = inputs.empty() ? nullptr : m_table.find(inputs.front());
+        if (base == nullptr || base->type == item.type) {
+            return unreadable();
+        }
+        return readIdentity(item, depth, result);
+    }
+    default:
+        return readSingle(item, picture);
+    }
+}
+
+Result<CodedPicture> PictureReader::readCoded(const Item &item) const
+{
+    CodedPicture coded;
+    const ItemProperty *record = m_table.property(item, configurationTypeOf(item.type));
+    if (!readCodecConfiguration(item.type, record, coded)) {
+        return unreadable();
+    }
+    auto location = locateItem(m_source, m_table, item);
+    if (!location) {
+        return unreadable();
+    }
+    coded.data = std::move(*location);
+    return coded;
+}
+
+Result<void> PictureReader::readSingle(const Item &item, Picture &picture) const
+{
+    const auto extent = spatialExtent(m_table, item);
+    auto coded = extent ? readCoded(item) : unreadable();
+    if (!coded) {
+        return unreadable();
+    }
+    TileGrid grid;
+    grid.tile = sizeOfSingle(*coded, *extent);
+    grid.canvas = grid.tile;
+    grid.tiles.push_back(std::move(*coded));
+    picture.upright = Upright(grid.canvas);
+    picture.content = std::move(grid);
+    return {};
+}
+
+Result<Bytes> PictureReader::readDerivation(const Item &item) const
+{
+    constexpr std::uint64_t LongestDerivation = 65'536;
+    const auto location = locateItem(m_source, m_table, item);
+    if (!location || lengthOf(*location) > LongestDerivation) {
+        return unreadable();
+    }
+    return m_source.read(*location);
+}
+
+/// Grid derivation, ISO/IEC 23008-12, 6.6.2.3.
+Result<void> PictureReader::readGrid(const Item &item, int depth, Picture &picture)
+{
+    const auto bytes = readDerivation(item);
+    if (!bytes) {
+        return unreadable();
+    }
+    ByteReader reader(*bytes);
+    const unsigned version = reader.u8();
+    const unsigned width = (reader.u8() & 1) != 0 ? 4 : 2;
+    TileGrid grid;
+    grid.rows = reader.u8() + 1;
+    grid.columns = reader.u8() + 1;
+    const auto canvasWidth = static_cast<std::int64_t>(reader.number(width));
+    const auto canvasHeight = static_cast<std::int64_t>(reader.number(width));
+    const auto inputs = referencesOf(item, fourCharacters("dimg"));
+    if (reader.failed() || version != 0 || !isAcceptable(canvasWidth, canvasHeight) ||
+        inputs.size() != static_cast<std::size_t>(grid.rows) * static_cast<std::size_t>(grid.columns)) {
+        return unreadable();
+    }
+    grid.canvas = {static_cast<int>(canvasWidth), static_cast<int>(canvasHeight)};
+    picture.upright = Upright(grid.canvas);
+    const bool join = std::ranges::all_of(
+        inputs, [this, &grid](std::uint32_t input) { return canJoin(m_table.find(input), grid); });
+    return join ? readTiles(inputs, std::move(grid), picture)
+                : layTiles(inputs, std::move(grid), depth, picture);
+}
+
+/// Whether planes of @p tile can be put side by side: it is coded and shown as it is, and no colour sample
+/// belongs to two tiles.
+bool PictureReader::canJoin(const Item *tile, const TileGrid &grid) const
+{
+    const auto size = tile != nullptr ? spatialExtent(m_table, *tile) : unreadable();
+    return size && configurationTypeOf(tile->type) != 0 && !isTransformed(m_table, *tile) &&
+           (grid.columns == 1 || size->width % 2 == 0) && (grid.rows == 1 || size->height % 2 == 0);
+}
+
+Result<void> PictureReader::readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid,
+                                      Picture &picture) const
+{
+    for (const std::uint32_t input : inputs) {
+        const Item &tile = *m_table.find(input);
+        const auto size = spatialExtent(m_table, tile);
+        auto coded = size ? readCoded(tile) : unreadable();
+        if (!coded || (!grid.tiles.empty() && *size != grid.tile)) {
+            return unreadable();
+        }
+        if (grid.tiles.empty()) {
+            grid.tile = *size;
+            picture.colour = colourOf(m_table, tile);
+        }
+        grid.tiles.push_back(std::move(*coded));
+    }
+    if (!isCovered(grid)) {
+        return unreadable();
+    }
+    picture.content = std::move(grid);
+    return {};
+}
+
+/// Tiles that are more than coded planes: no camera writes them, so they may be decoded whole, as layers that
+/// lie side by side.
+Result<void> PictureReader::layTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, int depth,
+                                     Picture &picture)
+{
+    Overlay overlay;
+    overlay.canvas = grid.canvas;
+    for (const std::uint32_t input : inputs) {
+        auto tile = read(input, depth + 1);
+        if (!tile) {
+            return unreadable();
+        }
+        const PixelSize size = tile->picture.upright.size();
+        const int index = static_cast<int>(overlay.layers.size());
+        grid.tile = index == 0 ? size : grid.tile;
+        if (size != grid.tile) {
+            return unreadable();
+        }
+        overlay.layers.push_back({index % grid.columns * size.width, index / grid.columns * size.height,
+                                  std::make_shared<Picture>(std::move(tile->picture))});
+    }
+    if (!isCovered(grid)) {
+        return unreadable();
+    }
+    picture.content = std::move(overlay);
+    return {};
+}
+
+/// Identity derivation, ISO/IEC 23008-12, 6.6.2.1: the input as it is shown, ready to be turned once more.
+Result<void> PictureReader::readIdentity(const Item &item, int depth, ReadPicture &result)
+{
+    const auto inputs = referencesOf(item, fourCharacters("dimg"));
+    auto input = inputs.empty() ? unreadable() : read(inputs.front(), depth + 1);
+    if (!input) {
+        return unreadable();
+    }
+    result = std::move(*input);
+    return {};
+}
+
+/// Overlay derivation, ISO/IEC 23008-12, 6.6.2.2.
+Result<void> PictureReader::readOverlay(const Item &item, int depth, Picture &picture)
+{
+    const auto bytes = readDerivation(item);
+    const auto inputs = referencesOf(item, fourCharacters("dimg"));
+    if (!bytes || inputs.empty() || inputs.size() > MaximumLayers) {
+        return unreadable();
+    }
+    ByteReader reader(*bytes);
+    const unsigned version = reader.u8();
+    const unsigned width = (reader.u8() & 1) != 0 ? 4 : 2;
+    Overlay overlay;
+    for (std::uint16_t &channel : overlay.fill) {
+        channel = reader.u16();
+    }
+    const auto canvasWidth = static_cast<std::int64_t>(reader.number(width));
+    const auto canvasHeight = static_cast<std::int64_t>(reader.number(width));
+    const auto offset = [&reader, width] {
+        const std::uint64_t value = reader.number(width);
+        return width == 2 ? static_cast<std::int16_t>(value) : static_cast<std::int32_t>(value);
+    };
+    if (version != 0 || !isAcceptable(canvasWidth, canvasHeight)) {
+        return unreadable();
+    }
+    overlay.canvas = {static_cast<int>(canvasWidth), static_cast<int>(canvasHeight)};
+    for (const std::uint32_t input : inputs) {
+        Overlay::Layer layer;
+        layer.x = offset();
+        layer.y = offset();
+        auto read = reader.failed() ? unreadable() : this->read(input, depth + 1);
+        if (!read) {
+            return unreadable();
+        }
+        layer.picture = std::make_shared<Picture>(std::move(read->picture));
+        overlay.layers.push_back(std::move(layer));
+    }
+    picture.upright = Upright(overlay.canvas);
+    picture.content = std::move(overlay);
+    return {};
+}
+
+/// An auxiliary picture that gives the opacity, ISO/IEC 23008-12, 6.4.5.
+Result<void> PictureReader::readAlpha(std::uint32_t identifier, int depth, Picture &picture)
+{
+    for (const auto &[auxiliary, item] : m_table.items) {
+        const auto masters = referencesOf(item, fourCharacters("auxl"));
+        if (std::ranges::find(masters, identifier) == masters.end() || !isAlpha(m_table, item)) {
+            continue;
+        }
+        auto alpha = read(auxiliary, depth + 1);
+        if (!alpha || alpha->picture.alpha != nullptr ||
+            !std::holds_alternative<TileGrid>(alpha->picture.content)) {
+            return unreadable();
+        }
+        alpha->picture.colour.iccProfile.clear();
+        alpha->picture.colour.isOpacity = true;
+        picture.alpha = std::make_shared<Picture>(std::move(alpha->picture));
+        const Item *master = m_table.find(identifier);
+        const auto premultipliedBy = referencesOf(*master, fourCharacters("prem"));
+        picture.premultiplied = std::ranges::find(premultipliedBy, auxiliary) != premultipliedBy.end();
+        return {};
+    }
+    return {};
+}
+
+} // namespace
+
+Result<ReadPicture> readPicture(const Source &source, const ItemTable &table, std::uint32_t identifier)
+{
+    return PictureReader(source, table).read(identifier, 0);
+}
+
+const Upright &Photo::upright() const
+{
+    return std::visit([](const auto &content) -> const Upright & { return content.upright; }, picture);
+}
+
+} // namespace imageworker

@@ -1,0 +1,225 @@
+#include "PngDecoder.h"
+
+#include "ByteReader.h"
+#include "FileMarks.h"
+#include "PngScanlines.h"
+#include "SrgbStage.h"
+
+#include <algorithm>
+#include <isa-l.h>
+#include <png.h>
+
+namespace imageworker {
+
+namespace {
+
+/// W3C PNG, 11.2.1.
+void readImageHeader(ByteReader reader, PngHeader &header)
+{
+    const std::int64_t width = reader.u32();
+    const std::int64_t height = reader.u32();
+    const unsigned depth = reader.u8();
+    const unsigned colourType = reader.u8();
+    reader.take(2); // methods of packing and filtering, of which there is one each
+    const unsigned interlacing = reader.u8();
+    if (reader.failed() || !isAcceptable(width, height)) {
+        return;
+    }
+    header.size = {static_cast<int>(width), static_cast<int>(height)};
+    const bool isPlain = depth == 8 && interlacing == 0 && (colourType == 2 || colourType == 6);
+    header.isGrey = colourType == 0 || colourType == 4;
+    header.channels = !isPlain ? 0 : colourType == 6 ? 4 : 3;
+}
+
+/// An embedded profile: a name, a method that is always 0, and a zlib stream (W3C PNG, 11.3.2.3). Empty when
+/// it is broken or larger than any profile is.
+Bytes profileOf(ByteReader chunk)
+{
+    constexpr std::size_t LargestProfile = std::size_t{4} << 20U;
+    chunk.text(); // name
+    chunk.u8();
+    auto compressed = chunk.rest();
+    if (chunk.failed() || compressed.empty()) {
+        return {};
+    }
+    Bytes profile(LargestProfile);
+    inflate_state stream;
+    isal_inflate_init(&stream);
+    stream.crc_flag = ISAL_ZLIB;
+    stream.next_in = const_cast<std::uint8_t *>(compressed.data());
+    stream.avail_in = static_cast<std::uint32_t>(compressed.size());
+    stream.next_out = profile.data();
+    stream.avail_out = static_cast<std::uint32_t>(profile.size());
+    if (isal_inflate(&stream) != ISAL_DECOMP_OK || stream.block_state != ISAL_BLOCK_FINISH) {
+        return {};
+    }
+    profile.resize(stream.total_out);
+    return profile;
+}
+
+} // namespace
+
+/// Walks the chunks (W3C PNG, 5.3).
+Result<PngHeader> readPngHeader(std::span<const std::uint8_t> file)
+{
+    PngHeader header;
+    bool isPlain = true;
+    bool hasGamma = false;
+    bool isSrgb = false; // which then counts, not the gamma
+    ByteReader reader(file);
+    reader.take(PngSignature.size());
+    while (!reader.atEnd()) {
+        const std::uint32_t length = reader.u32();
+        const std::uint32_t type = reader.u32();
+        const auto content = reader.take(length);
+        reader.u32(); // checksum
+        if (reader.failed()) {
+            return unreadable();
+        }
+        if (type == fourCharacters("IHDR")) {
+            readImageHeader(ByteReader(content), header);
+        } else if (type == fourCharacters("IDAT")) {
+            header.data.push_back(content);
+        } else if (type == fourCharacters("tRNS")) {
+            isPlain = false;
+        } else if (type == fourCharacters("gAMA")) {
+            hasGamma = true;
+        } else if (type == fourCharacters("sRGB")) {
+            isSrgb = true;
+        } else if (type == fourCharacters("eXIf")) {
+            header.exif.assign(content.begin(), content.end());
+        } else if (type == fourCharacters("iTXt") && content.size() > PngXmpStart.size() &&
+                   std::equal(PngXmpStart.begin(), PngXmpStart.end(), content.begin())) {
+            header.xmp.assign(content.begin() + PngXmpStart.size(), content.end());
+        } else if (type == fourCharacters("iCCP")) {
+            header.iccProfile = profileOf(ByteReader(content));
+        } else if (type == fourCharacters("IEND") && header.size.width > 0) {
+            if (!isPlain || header.channels == 0 || (hasGamma && !isSrgb)) {
+                header.data.clear();
+            }
+            return header;
+        }
+    }
+    return unreadable();
+}
+
+namespace {
+
+/// Sums of squares of pixels, colours weighted by their opacity.
+class SquareSums
+{
+public:
+    SquareSums(int width, int side)
+        : m_side(side)
+        , m_sums(static_cast<std::size_t>((width + side - 1) / side))
+        , m_width(width)
+    {}
+
+    template<int Channels>
+    void add(const std::uint8_t *row)
+    {
+        int x = 0;
+        for (Sum &sum : m_sums) {
+            for (const int end = std::min(x + m_side, m_width); x < end; ++x, row += Channels) {
+                const std::uint32_t opacity = Channels == 4 ? row[3] : 255;
+                sum.red += row[0] * opacity;
+                sum.green += row[1] * opacity;
+                sum.blue += row[2] * opacity;
+                sum.opacity += opacity;
+                ++sum.count;
+            }
+        }
+    }
+
+    /// Writes the means and starts anew.
+    void take(std::uint8_t *rgba)
+    {
+        const auto mean = [](std::uint32_t sum, std::uint32_t count) {
+            return static_cast<std::uint8_t>(count == 0 ? 0 : (sum + count / 2) / count);
+        };
+        for (Sum &sum : m_sums) {
+            *rgba++ = mean(sum.red, sum.opacity);
+            *rgba++ = mean(sum.green, sum.opacity);
+            *rgba++ = mean(sum.blue, sum.opacity);
+            *rgba++ = mean(sum.opacity, sum.count);
+            sum = {};
+        }
+    }
+
+private:
+    struct Sum
+    {
+        std::uint32_t red = 0;
+        std::uint32_t green = 0;
+        std::uint32_t blue = 0;
+        std::uint32_t opacity = 0;
+        std::uint32_t count = 0;
+    };
+
+    int m_side;
+    std::vector<Sum> m_sums;
+    int m_width;
+};
+
+Result<Raster> decodeReduced(const PngHeader &header, int reduction)
+{
+    const auto channels = static_cast<std::size_t>(header.channels);
+    PngScanlines rows(header.data, static_cast<std::size_t>(header.size.width) * channels, channels);
+    SquareSums sums(header.size.width, reduction);
+    Raster raster(
+        {(header.size.width + reduction - 1) / reduction, (header.size.height + reduction - 1) / reduction});
+    for (int y = 0; y < header.size.height; ++y) {
+        const std::uint8_t *row = rows.next();
+        if (row == nullptr) {
+            return unreadable();
+        }
+        if (header.channels == 4) {
+            sums.add<4>(row);
+        } else {
+            sums.add<3>(row);
+        }
+        if ((y + 1) % reduction == 0 || y + 1 == header.size.height) {
+            sums.take(raster.row(y / reduction));
+        }
+    }
+    return rows.hasEnded() ? Result<Raster>(std::move(raster)) : unreadable();
+}
+
+Result<Raster> decodeWhole(std::span<const std::uint8_t> file)
+{
+    png_image image = {};
+    image.version = PNG_IMAGE_VERSION;
+    if (png_image_begin_read_from_memory(&image, file.data(), file.size()) == 0 ||
+        !isAcceptable(image.width, image.height)) {
+        png_image_free(&image);
+        return unreadable();
+    }
+    image.format = PNG_FORMAT_RGBA;
+    image.flags |= PNG_IMAGE_FLAG_16BIT_sRGB; // without it, 16 bits are taken for linear light
+    Raster raster({static_cast<int>(image.width), static_cast<int>(image.height)});
+    if (png_image_finish_read(&image, nullptr, raster.rgba.data(), 0, nullptr) == 0) {
+        return unreadable();
+    }
+    return raster;
+}
+
+} // namespace
+
+Result<Raster> decodePng(std::span<const std::uint8_t> file, unsigned reduction)
+{
+    const auto header = readPngHeader(file);
+    if (!header) {
+        return unreadable();
+    }
+    auto raster = reduction > 1 && !header->data.empty() ? decodeReduced(*header, static_cast<int>(reduction))
+                                                         : decodeWhole(file);
+    if (raster && !header->iccProfile.empty()) {
+        const auto stage = makeSrgbStage(header->iccProfile, {}, 255, header->isGrey);
+        for (int y = 0; y < raster->size.height; ++y) {
+            convertInPlace(*stage, raster->row(y), raster->size.width);
+        }
+    }
+    return raster;
+}
+
+} // namespace imageworker
