@@ -75,7 +75,11 @@ private Q_SLOTS:
         };
         row("file added", [=] { return QFile(path("new.heic")).open(QIODevice::WriteOnly); });
         row("file removed", [=] { return QFile::remove(path("old.heic")); });
-        row("file renamed", [=] { return QFile::rename(path("old.heic"), path("b.heic")); });
+        row("file moved in", [=] {
+            touch(path("../outside.heic"));
+            return QFile::rename(path("../outside.heic"), path("new.heic"));
+        });
+        row("file moved out", [=] { return QFile::rename(path("old.heic"), path("../outside.heic")); });
         row("attributes", [this] { return ::chmod(qPrintable(folder().toLocalFile()), 0711) == 0; });
         row("folder renamed", [this] {
             return QDir().rename(folder().toLocalFile(), m_folder->path() + QStringLiteral("/other"));

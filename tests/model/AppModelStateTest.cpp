@@ -92,24 +92,6 @@ private Q_SLOTS:
         QVERIFY(m_fixture->engine->running.empty());
     }
 
-    void shouldAskForNotificationsOnlyWhenTheyAreSwitchedOn()
-    {
-        AppModel &model = m_fixture->launch();
-        QCOMPARE(m_fixture->center->authorizationRequests, 1); // at launch, because they are on
-        ConversionSettings settings = model.settings();
-        settings.notificationsEnabled = false;
-        model.setSettings(settings);
-        settings.notificationsEnabled = true;
-        model.setSettings(settings);
-        model.setSettings(settings);
-        QCOMPARE(m_fixture->center->authorizationRequests, 2);
-
-        settings.notificationsEnabled = false;
-        model.setSettings(settings);
-        m_fixture->launch();
-        QCOMPARE(m_fixture->center->authorizationRequests, 2);
-    }
-
     void shouldAnnounceEachChange()
     {
         AppModel &model = m_fixture->launch();

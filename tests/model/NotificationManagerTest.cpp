@@ -20,21 +20,6 @@ private Q_SLOTS:
         m_manager = std::make_unique<NotificationManager>(m_center, m_workspace);
     }
 
-    void shouldRegisterOnceAndAskEachTime()
-    {
-        m_manager->configure(NotificationManager::Authorization::leave);
-        QCOMPARE(m_center->authorizationRequests, 0);
-        m_manager->configure(NotificationManager::Authorization::request);
-        m_manager->configure(NotificationManager::Authorization::request);
-        QCOMPARE(m_center->authorizationRequests, 2);
-        QCOMPARE(m_center->categories.size(), 1);
-        const NotificationCategory category = m_center->categories.first().first();
-        QCOMPARE(category.identifier, QStringLiteral("LUMAPORT_CONVERSION_READY"));
-        QCOMPARE(category.actions.size(), 1);
-        QCOMPARE(category.actions.first().identifier, QStringLiteral("LUMAPORT_SHOW_IN_FINDER"));
-        QCOMPARE(category.actions.first().title, QStringLiteral("Show in Finder"));
-    }
-
     void shouldAnnounceEachPhotoByItself()
     {
         const QUrl photo = QUrl::fromLocalFile(QStringLiteral("/home/a/Übung 1.png"));
@@ -44,6 +29,9 @@ private Q_SLOTS:
         QCOMPARE(first.title, QStringLiteral("Photo landed ready"));
         QCOMPARE(first.subtitle, QStringLiteral("Übung 1.png"));
         QCOMPARE(first.body, QStringLiteral("Converted locally. Click to reveal it in Finder."));
+        QCOMPARE(first.categoryIdentifier, QStringLiteral("LUMAPORT_CONVERSION_READY"));
+        QCOMPARE(first.action.identifier, QStringLiteral("LUMAPORT_SHOW_IN_FINDER"));
+        QCOMPARE(first.action.title, QStringLiteral("Show in Finder"));
         QCOMPARE(first.payload,
                  (QVariantMap{{QStringLiteral("outputPath"), QStringLiteral("/home/a/Übung 1.png")}}));
         QCOMPARE(first.delay, std::chrono::milliseconds(250));
@@ -56,7 +44,7 @@ private Q_SLOTS:
 
     void shouldRevealOnAClickOnly()
     {
-        m_manager->configure(NotificationManager::Authorization::leave);
+        m_manager->configure();
         const QVariantMap payload{{QStringLiteral("outputPath"), QStringLiteral("/home/a/1.png")}};
         m_center->respond({.actionIdentifier = QStringLiteral("dismissed"), .payload = payload});
         m_center->respond({.actionIdentifier = NotificationCenter::defaultAction, .payload = {}});

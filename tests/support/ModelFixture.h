@@ -54,20 +54,13 @@ public:
 
 struct RecordingNotificationCenter : NotificationCenter
 {
-    void setCategories(const QList<NotificationCategory> &newCategories) override
-    {
-        categories.append(newCategories);
-    }
     void onResponse(std::function<void(const NotificationResponse &)> newHandler) override
     {
         respond = std::move(newHandler);
     }
-    void requestAuthorization() override { ++authorizationRequests; }
     void add(const NotificationRequest &request) override { requests.append(request); }
 
-    QList<QList<NotificationCategory>> categories; ///< one entry for each registration
     QList<NotificationRequest> requests;
-    int authorizationRequests = 0;
     std::function<void(const NotificationResponse &)> respond;
 };
 
