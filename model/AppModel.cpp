@@ -85,9 +85,7 @@ AppModel::AppModel(AppModelServices services, QObject *parent)
         connect(this, signal, this, &AppModel::monitorTextsChanged);
     }
     loadStoredState();
-    m_services.notifications->configure(m_settings.notificationsEnabled
-                                            ? NotificationManager::Authorization::request
-                                            : NotificationManager::Authorization::leave);
+    m_services.notifications->configure();
     applyAppearance();
     seedKnownFiles();
     startMonitoringFolder();
@@ -160,12 +158,8 @@ void AppModel::applyAppearance()
 
 void AppModel::setSettings(const ConversionSettings &settings)
 {
-    const bool turnedNotificationsOn = settings.notificationsEnabled && !m_settings.notificationsEnabled;
     m_settings = settings;
     saveSettings();
-    if (turnedNotificationsOn) {
-        m_services.notifications->requestAuthorization();
-    }
     Q_EMIT settingsChanged();
 }
 

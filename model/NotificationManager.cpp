@@ -12,11 +12,6 @@ namespace {
 
 constexpr auto announceDelay = 250ms;
 
-QString categoryIdentifier()
-{
-    return QStringLiteral("LUMAPORT_CONVERSION_READY");
-}
-
 QString showActionIdentifier()
 {
     return QStringLiteral("LUMAPORT_SHOW_IN_FINDER");
@@ -46,39 +41,27 @@ NotificationManager::NotificationManager(std::shared_ptr<NotificationCenter> cen
     , m_workspace(std::move(workspace))
 {}
 
-void NotificationManager::configure(Authorization authorization)
+void NotificationManager::configure()
 {
-    if (!m_isConfigured) {
-        m_isConfigured = true;
-        m_center->onResponse([this](const NotificationResponse &response) { didReceive(response); });
-        m_center->setCategories({{.identifier = categoryIdentifier(),
-                                  .actions = {{.identifier = showActionIdentifier(),
-                                               .title = translated(QT_TRANSLATE_NOOP("NotificationManager",
-                                                                                     "Show in Finder"))}}}});
-    }
-    if (authorization == Authorization::request) {
-        requestAuthorization();
-    }
-}
-
-void NotificationManager::requestAuthorization()
-{
-    m_center->requestAuthorization();
+    m_center->onResponse([this](const NotificationResponse &response) { didReceive(response); });
 }
 
 void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
 {
-    m_center->add({.identifier = QStringLiteral("lumaport-ready-") +
-                                 QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(),
-                   .title = translated(QT_TRANSLATE_NOOP("NotificationManager", "Photo landed ready")),
-                   .subtitle = outputURL.fileName(),
-                   .body = translated(QT_TRANSLATE_NOOP("NotificationManager",
-                                                        "Converted locally. Click to reveal it in Finder.")),
-                   .categoryIdentifier = categoryIdentifier(),
-                   .payload = {{outputPathKey(), outputURL.toLocalFile()}},
-                   .soundName = QStringLiteral("LumaportArrival.wav"),
-                   .image = outputURL,
-                   .delay = announceDelay});
+    m_center->add(
+        {.identifier =
+             QStringLiteral("lumaport-ready-") + QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(),
+         .title = translated(QT_TRANSLATE_NOOP("NotificationManager", "Photo landed ready")),
+         .subtitle = outputURL.fileName(),
+         .body = translated(
+             QT_TRANSLATE_NOOP("NotificationManager", "Converted locally. Click to reveal it in Finder.")),
+         .categoryIdentifier = QStringLiteral("LUMAPORT_CONVERSION_READY"),
+         .action = {.identifier = showActionIdentifier(),
+                    .title = translated(QT_TRANSLATE_NOOP("NotificationManager", "Show in Finder"))},
+         .payload = {{outputPathKey(), outputURL.toLocalFile()}},
+         .soundName = QStringLiteral("LumaportArrival.wav"),
+         .image = outputURL,
+         .delay = announceDelay});
 }
 
 void NotificationManager::didReceive(const NotificationResponse &response) const

@@ -14,16 +14,13 @@ struct NotificationResponse;
 class NotificationManager
 {
 public:
-    enum class Authorization { leave, request };
-
     /// The one of the process, made on first use.
     static NotificationManager &shared();
 
     NotificationManager(std::shared_ptr<NotificationCenter> center, std::shared_ptr<Workspace> workspace);
 
-    /// Registers the category of finished photos, once; asks for permission each time that is wanted.
-    void configure(Authorization authorization);
-    void requestAuthorization();
+    /// From here on, clicks are answered. The desktop has no permission that would have to be asked for.
+    void configure();
     void notifyConversionFinished(const QUrl &outputURL);
 
 private:
@@ -31,5 +28,4 @@ private:
 
     std::shared_ptr<NotificationCenter> m_center;
     std::shared_ptr<Workspace> m_workspace;
-    bool m_isConfigured = false;
 };

@@ -25,7 +25,7 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::applicationDidFinishLaunching(NotificationManager &notifications)
 {
     QGuiApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
-    notifications.configure(NotificationManager::Authorization::leave);
+    notifications.configure();
 }
 
 void AppDelegate::configureMenuBar(AppModel &model, std::function<void()> openMain)

@@ -84,18 +84,6 @@ private Q_SLOTS:
         QCOMPARE(second.readyCount(), 11);
         QVERIFY(second.isBusy() && m_fixture->engine->running.empty());
     }
-
-    void shouldAskForNotificationsOnlyWhenTheyAreSwitchedOn()
-    {
-        AppModel &model = m_fixture->launch();
-        QCOMPARE(m_fixture->center->authorizationRequests, 1); // at launch, because they are on
-        for (const bool isEnabled : {false, true, true, false}) {
-            model.setSettings({.notificationsEnabled = isEnabled});
-        }
-        QCOMPARE(m_fixture->center->authorizationRequests, 2);
-        m_fixture->launch();
-        QCOMPARE(m_fixture->center->authorizationRequests, 2);
-    }
 };
 
 QTEST_MAIN(AppModelStateTest)

@@ -19,21 +19,6 @@ private Q_SLOTS:
         m_manager.emplace(m_center, m_workspace);
     }
 
-    void shouldRegisterOnceAndAskEachTime()
-    {
-        m_manager->configure(NotificationManager::Authorization::leave);
-        QCOMPARE(m_center->authorizationRequests, 0);
-        m_manager->configure(NotificationManager::Authorization::request);
-        m_manager->configure(NotificationManager::Authorization::request);
-        QCOMPARE(m_center->authorizationRequests, 2);
-        QCOMPARE(m_center->categories.size(), 1);
-        const NotificationCategory category = m_center->categories.first().first();
-        QCOMPARE(category.identifier, "LUMAPORT_CONVERSION_READY");
-        QCOMPARE(category.actions.size(), 1);
-        QCOMPARE(category.actions.first().identifier, "LUMAPORT_SHOW_IN_FINDER");
-        QCOMPARE(category.actions.first().title, "Show in Finder");
-    }
-
     void shouldAnnounceEachPhotoByItself()
     {
         const QUrl photo = QUrl::fromLocalFile("/home/a/Übung 1.png");
@@ -44,6 +29,8 @@ private Q_SLOTS:
         QCOMPARE(first.subtitle, "Übung 1.png");
         QCOMPARE(first.body, "Converted locally. Click to reveal it in Finder.");
         QCOMPARE(first.categoryIdentifier, "LUMAPORT_CONVERSION_READY");
+        QCOMPARE(first.action.identifier, "LUMAPORT_SHOW_IN_FINDER");
+        QCOMPARE(first.action.title, "Show in Finder");
         QCOMPARE(first.payload, (QVariantMap{{"outputPath", "/home/a/Übung 1.png"}}));
         QCOMPARE(first.delay, std::chrono::milliseconds(250));
         QCOMPARE(first.soundName, "LumaportArrival.wav");
@@ -54,7 +41,7 @@ private Q_SLOTS:
 
     void shouldRevealOnAClickOnly()
     {
-        m_manager->configure(NotificationManager::Authorization::leave);
+        m_manager->configure();
         const QString click = NotificationCenter::defaultAction;
         const QVariantMap payload{{"outputPath", "/home/a/1.png"}};
         m_center->respond({.actionIdentifier = "dismissed", .payload = payload});

@@ -76,14 +76,10 @@ private:
 
 struct RecordingNotificationCenter : NotificationCenter
 {
-    void setCategories(const QList<NotificationCategory> &each) override { categories << each; }
     void onResponse(std::function<void(const NotificationResponse &)> handler) override { respond = handler; }
-    void requestAuthorization() override { ++authorizationRequests; }
     void add(const NotificationRequest &request) override { requests.append(request); }
 
-    QList<QList<NotificationCategory>> categories; ///< one entry for each registration
     QList<NotificationRequest> requests;
-    int authorizationRequests = 0;
     std::function<void(const NotificationResponse &)> respond;
 };
 

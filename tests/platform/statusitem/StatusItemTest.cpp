@@ -1,26 +1,17 @@
 #include "DesktopStatusItem.h"
+#include "FakeService.h"
 #include "StatusNotifierItem.h"
 #include "StatusNotifierMenu.h"
 #include "TrayIconItem.h"
 
 #include <QApplication>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
-#include <QtEndian>
 
-namespace {
-
-QString watcherName()
-{
-    return QStringLiteral("org.kde.StatusNotifierWatcher");
-}
-
-/// A panel's side of the bus, on a connection of its own.
-class FakeWatcher : public QObject
+/// A panel's side of the bus.
+class FakeWatcher : public FakeService
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
@@ -28,50 +19,33 @@ class FakeWatcher : public QObject
 
 public:
     FakeWatcher()
-        : bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("watcher")))
-    {
-        bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
-                           QDBusConnection::ExportAllContents);
-    }
-    ~FakeWatcher() override
-    {
-        leave();
-        QDBusConnection::disconnectFromBus(QStringLiteral("watcher"));
-    }
-
-    void come() { bus.registerService(watcherName()); }
-    void leave() { bus.unregisterService(watcherName()); }
+        : FakeService(QStringLiteral("org.kde.StatusNotifierWatcher"),
+                      QStringLiteral("/StatusNotifierWatcher"))
+    {}
 
     /// Calls what registered itself last, and waits for the answer.
-    QDBusMessage call(const QString &path, const QString &interface, const QString &method,
-                      const QVariantList &arguments = {})
+    QVariantList call(const QString &path, const QString &interface, const char *method,
+                      const QVariantList &arguments)
     {
-        QDBusMessage message = QDBusMessage::createMethodCall(items.last(), path, interface, method);
+        QDBusMessage message =
+            QDBusMessage::createMethodCall(items.last(), path, interface, QLatin1String(method));
         message.setArguments(arguments);
         QDBusPendingCallWatcher watcher(bus.asyncCall(message));
         QSignalSpy finished(&watcher, &QDBusPendingCallWatcher::finished);
         finished.wait();
-        return watcher.reply();
+        return watcher.reply().arguments();
     }
-    QDBusMessage item(const QString &method, const QVariantList &arguments = {})
+    void activate(int x, int y)
     {
-        return call(QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.kde.StatusNotifierItem"),
-                    method, arguments);
+        call(QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.kde.StatusNotifierItem"), "Activate",
+             {x, y});
     }
-    QDBusMessage menu(const QString &method, const QVariantList &arguments = {})
+    QVariantList menu(const char *method, const QVariantList &arguments)
     {
         return call(StatusNotifierMenu::objectPath, QStringLiteral("com.canonical.dbusmenu"), method,
                     arguments);
     }
-    QVariantMap properties()
-    {
-        const QDBusMessage reply =
-            call(QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.freedesktop.DBus.Properties"),
-                 QStringLiteral("GetAll"), {QStringLiteral("org.kde.StatusNotifierItem")});
-        return qdbus_cast<QVariantMap>(reply.arguments().value(0));
-    }
 
-    QDBusConnection bus;
     bool hasHost = true;
     QStringList items;
 
@@ -80,10 +54,9 @@ public Q_SLOTS:
     {
         items.append(service);
     }
-
-Q_SIGNALS:
-    void StatusNotifierHostRegistered(); // NOLINT(readability-identifier-naming)
 };
+
+namespace {
 
 /// Stands for the icon in an XEmbed tray.
 struct RecordingItem : StatusItem
@@ -119,34 +92,44 @@ class StatusItemTest : public QObject
 {
     Q_OBJECT
 
+    std::unique_ptr<FakeWatcher> m_watcher;
+    std::unique_ptr<StatusNotifierItem> m_item;
+
 private Q_SLOTS:
+    void init()
+    {
+        m_watcher = std::make_unique<FakeWatcher>();
+        m_watcher->come();
+        m_item = std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus());
+        QTRY_COMPARE(m_watcher->items.size(), 1);
+    }
+
+    void cleanup()
+    {
+        m_item.reset();
+        m_watcher.reset();
+    }
+
     void shouldRegisterWithEveryWatcherThatComes()
     {
-        StatusNotifierItem item(QDBusConnection::sessionBus());
-        QSignalSpy presence(&item, &StatusNotifierItem::hostPresenceChanged);
-        QTRY_COMPARE(presence.size(), 1);
-        QCOMPARE(presence.takeFirst().first().toBool(), false);
-
-        FakeWatcher watcher;
-        watcher.come();
-        QTRY_COMPARE(watcher.items.size(), 1);
-        QVERIFY(watcher.items.last().startsWith(QLatin1String("org.kde.StatusNotifierItem-")));
+        QVERIFY(m_watcher->items.last().startsWith(QLatin1String("org.kde.StatusNotifierItem-")));
+        const QSignalSpy presence(m_item.get(), &StatusNotifierItem::hostPresenceChanged);
         QTRY_VERIFY(!presence.isEmpty() && presence.last().first().toBool());
-        watcher.leave();
+        m_watcher->leave();
         QTRY_VERIFY(!presence.last().first().toBool());
-        watcher.come();
-        QTRY_COMPARE(watcher.items.size(), 2);
+        m_watcher->come();
+        QTRY_COMPARE(m_watcher->items.size(), 2);
     }
 
     void shouldShowItsLookOnTheBus()
     {
-        FakeWatcher watcher;
-        watcher.come();
-        StatusNotifierItem item(QDBusConnection::sessionBus());
-        item.setLook(someLook());
-        QTRY_COMPARE(watcher.items.size(), 1);
-
-        const QVariantMap properties = watcher.properties();
+        m_item->setLook(someLook());
+        const auto properties =
+            qdbus_cast<QVariantMap>(m_watcher
+                                        ->call(QStringLiteral("/StatusNotifierItem"),
+                                               QStringLiteral("org.freedesktop.DBus.Properties"), "GetAll",
+                                               {QStringLiteral("org.kde.StatusNotifierItem")})
+                                        .value(0));
         QCOMPARE(properties.value(QStringLiteral("Id")).toString(), QStringLiteral("io.lumaport.Lumaport"));
         QCOMPARE(properties.value(QStringLiteral("Status")).toString(), QStringLiteral("Active"));
         QCOMPARE(properties.value(QStringLiteral("ItemIsMenu")), QVariant(false));
@@ -166,31 +149,22 @@ private Q_SLOTS:
 
     void shouldTellWhereItWasClicked()
     {
-        FakeWatcher watcher;
-        watcher.come();
-        StatusNotifierItem item(QDBusConnection::sessionBus());
-        QTRY_COMPARE(watcher.items.size(), 1);
-        QSignalSpy activated(&item, &StatusItem::activated);
-        QVERIFY(!item.place());
-
-        watcher.item(QStringLiteral("Activate"), {700, 12});
+        QSignalSpy activated(m_item.get(), &StatusItem::activated);
+        QVERIFY(!m_item->place());
+        m_watcher->activate(700, 12);
         QCOMPARE(activated.size(), 1);
-        QCOMPARE(item.place(), std::optional(QRect(700, 12, 1, 1)));
+        QCOMPARE(m_item->place(), std::optional(QRect(700, 12, 1, 1)));
         // A host that does not know says 0, 0: an old place must not stay.
-        watcher.item(QStringLiteral("Activate"), {0, 0});
+        m_watcher->activate(0, 0);
         QCOMPARE(activated.size(), 2);
-        QVERIFY(!item.place());
+        QVERIFY(!m_item->place());
     }
 
     void shouldOfferItsMenuOnTheBus()
     {
-        FakeWatcher watcher;
-        watcher.come();
-        StatusNotifierItem item(QDBusConnection::sessionBus());
-        QTRY_COMPARE(watcher.items.size(), 1);
         int opened = 0;
         int forbidden = 0;
-        item.setMenu(
+        m_item->setMenu(
             {{.title = QStringLiteral("Open _it"), .isChecked = {}, .action = [&opened] { ++opened; }},
              {.kind = StatusMenuEntry::Kind::separator, .title = {}, .isChecked = {}, .action = {}},
              {.title = QStringLiteral("PNG"), .isChecked = true, .action = {}},
@@ -198,10 +172,10 @@ private Q_SLOTS:
                   ++forbidden;
               }}});
 
-        const QDBusMessage reply = watcher.menu(QStringLiteral("GetLayout"), {0, -1, QStringList()});
-        QCOMPARE(reply.arguments().size(), 2);
-        QVERIFY(reply.arguments().at(0).toUInt() > 1); // it changed since the start
-        const auto root = qdbus_cast<StatusNotifierMenuNode>(reply.arguments().at(1));
+        const QVariantList layout = m_watcher->menu("GetLayout", {0, -1, QStringList()});
+        QCOMPARE(layout.size(), 2);
+        QVERIFY(layout.at(0).toUInt() > 1); // it changed since the start
+        const auto root = qdbus_cast<StatusNotifierMenuNode>(layout.at(1));
         QCOMPARE(root.children.size(), 4);
         const auto property = [&root](int child, const char *name) {
             return root.children.at(child).properties.value(QLatin1String(name));
@@ -212,17 +186,17 @@ private Q_SLOTS:
         QCOMPARE(property(2, "toggle-state").toInt(), 1);
         QCOMPARE(property(3, "enabled"), QVariant(false));
 
-        const auto answered = [&watcher](const QList<int> &ids) {
-            const QDBusMessage properties =
-                watcher.menu(QStringLiteral("GetGroupProperties"), {QVariant::fromValue(ids), QStringList()});
-            return qdbus_cast<StatusNotifierMenuProperties>(properties.arguments().value(0)).size();
+        const auto answered = [this](const QList<int> &ids) {
+            const QVariantList properties =
+                m_watcher->menu("GetGroupProperties", {QVariant::fromValue(ids), QStringList()});
+            return qdbus_cast<StatusNotifierMenuProperties>(properties.value(0)).size();
         };
         QCOMPARE(answered({1, 4, 99}), 2);
         QCOMPARE(answered({}), 5); // all of them, and the root
 
-        const auto event = [&watcher](int id, const char *kind) {
-            watcher.menu(QStringLiteral("Event"),
-                         {id, QLatin1String(kind), QVariant::fromValue(QDBusVariant(QString())), 0U});
+        const auto event = [this](int id, const char *kind) {
+            m_watcher->menu("Event",
+                            {id, QLatin1String(kind), QVariant::fromValue(QDBusVariant(QString())), 0U});
         };
         event(root.children.at(0).id, "hovered");
         QCOMPARE(opened, 0);
@@ -268,19 +242,18 @@ private Q_SLOTS:
 
     void shouldUseTheOldTrayOnlyWhileNoHostShowsTheItem()
     {
-        FakeWatcher watcher;
-        watcher.hasHost = false;
-        watcher.come();
+        m_watcher->hasHost = false;
         RecordingItem *fallback = nullptr;
-        DesktopStatusItem item(std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus()),
-                               [&fallback] {
-                                   auto made = std::make_unique<RecordingItem>();
-                                   fallback = made.get();
-                                   return made;
-                               });
+        DesktopStatusItem item(std::move(m_item), [&fallback] {
+            auto made = std::make_unique<RecordingItem>();
+            fallback = made.get();
+            return made;
+        });
         item.setLook(someLook());
         item.setMenu({{.title = QStringLiteral("Open"), .isChecked = {}, .action = {}}});
         QSignalSpy activated(&item, &StatusItem::activated);
+        const QString hostCame = QStringLiteral("StatusNotifierHostRegistered");
+        m_watcher->emitSignal(hostCame);
         QTRY_COMPARE(RecordingItem::shown, 1);
         QCOMPARE(fallback->look.toolTip, someLook().toolTip); // also what was set before it came
         QCOMPARE(fallback->entries.size(), 1);
@@ -288,12 +261,12 @@ private Q_SLOTS:
         Q_EMIT fallback->activated();
         QCOMPARE(activated.size(), 1);
 
-        watcher.hasHost = true;
-        Q_EMIT watcher.StatusNotifierHostRegistered();
+        m_watcher->hasHost = true;
+        m_watcher->emitSignal(hostCame);
         QTRY_COMPARE(RecordingItem::shown, 0);
-        watcher.item(QStringLiteral("Activate"), {1, 1});
+        m_watcher->activate(1, 1);
         QCOMPARE(activated.size(), 2);
-        watcher.leave();
+        m_watcher->leave();
         QTRY_COMPARE(RecordingItem::shown, 1);
     }
 };
