@@ -3,7 +3,6 @@
 #include "NotificationCenter.h"
 #include "Workspace.h"
 
-#include <QCoreApplication>
 #include <QUuid>
 
 using namespace std::chrono_literals;
@@ -12,20 +11,8 @@ namespace {
 
 constexpr auto announceDelay = 250ms;
 
-QString showActionIdentifier()
-{
-    return QStringLiteral("LUMAPORT_SHOW_IN_FINDER");
-}
-
-QString outputPathKey()
-{
-    return QStringLiteral("outputPath");
-}
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("NotificationManager", text);
-}
+const QString showActionIdentifier = QStringLiteral("LUMAPORT_SHOW_IN_FINDER");
+const QString outputPathKey = QStringLiteral("outputPath");
 
 } // namespace
 
@@ -48,29 +35,26 @@ void NotificationManager::configure()
 
 void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
 {
-    m_center->add(
-        {.identifier =
-             QStringLiteral("lumaport-ready-") + QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(),
-         .title = translated(QT_TRANSLATE_NOOP("NotificationManager", "Photo landed ready")),
-         .subtitle = outputURL.fileName(),
-         .body = translated(
-             QT_TRANSLATE_NOOP("NotificationManager", "Converted locally. Click to reveal it in Finder.")),
-         .categoryIdentifier = QStringLiteral("LUMAPORT_CONVERSION_READY"),
-         .action = {.identifier = showActionIdentifier(),
-                    .title = translated(QT_TRANSLATE_NOOP("NotificationManager", "Show in Finder"))},
-         .payload = {{outputPathKey(), outputURL.toLocalFile()}},
-         .soundName = QStringLiteral("LumaportArrival.wav"),
-         .image = outputURL,
-         .delay = announceDelay});
+    m_center->add({.identifier = QStringLiteral("lumaport-ready-") +
+                                 QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(),
+                   .title = tr("Photo landed ready"),
+                   .subtitle = outputURL.fileName(),
+                   .body = tr("Converted locally. Click to reveal it in Finder."),
+                   .categoryIdentifier = QStringLiteral("LUMAPORT_CONVERSION_READY"),
+                   .action = {.identifier = showActionIdentifier, .title = tr("Show in Finder")},
+                   .payload = {{outputPathKey, outputURL.toLocalFile()}},
+                   .soundName = QStringLiteral("LumaportArrival.wav"),
+                   .image = outputURL,
+                   .delay = announceDelay});
 }
 
 void NotificationManager::didReceive(const NotificationResponse &response) const
 {
     if (response.actionIdentifier != NotificationCenter::defaultAction &&
-        response.actionIdentifier != showActionIdentifier()) {
+        response.actionIdentifier != showActionIdentifier) {
         return;
     }
-    const QVariant path = response.payload.value(outputPathKey());
+    const QVariant path = response.payload.value(outputPathKey);
     if (path.typeId() == QMetaType::QString) {
         m_workspace->reveal(QUrl::fromLocalFile(path.toString()), response.activationToken);
     }

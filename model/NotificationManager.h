@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QCoreApplication>
 #include <QUrl>
 
 #include <memory>
@@ -13,6 +13,8 @@ struct NotificationResponse;
 /// converted file in the file manager when its notification is clicked. Nothing here reports an error.
 class NotificationManager
 {
+    Q_DECLARE_TR_FUNCTIONS(NotificationManager)
+
 public:
     /// The one of the process, made on first use.
     static NotificationManager &shared();

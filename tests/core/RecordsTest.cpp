@@ -43,11 +43,7 @@ QJsonObject recordOf(const ConversionItem &item)
 template<typename Option>
 QStringList choices()
 {
-    QStringList texts;
-    for (const auto &each : OptionCases<Option>::cases) {
-        texts << rawValue(each.option);
-    }
-    return texts;
+    return {rawValues<Option>.begin(), rawValues<Option>.end()};
 }
 
 } // namespace
