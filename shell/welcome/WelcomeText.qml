@@ -14,8 +14,8 @@ BodyText {
         blurRadius: 6
         color: Qt.alpha("black", 0.5)
         font: line.font
+        shapeSize: Qt.size(line.implicitWidth, line.implicitHeight)
         text: line.text
-        textSize: Qt.size(line.implicitWidth, line.implicitHeight)
         z: -1
     }
 }
