@@ -22,15 +22,15 @@ struct RecordingChime : ArrivalChime
 
 NotificationRequest request()
 {
-    return {.identifier = QStringLiteral("one"),
-            .title = QStringLiteral("Title"),
-            .subtitle = QStringLiteral("<b>&.png"),
-            .body = QStringLiteral("Body"),
-            .categoryIdentifier = QStringLiteral("ready"),
-            .action = {.identifier = QStringLiteral("show"), .title = QStringLiteral("Show")},
-            .payload = {{QStringLiteral("outputPath"), QStringLiteral("/a")}},
-            .soundName = QStringLiteral("a.wav"),
-            .image = QUrl::fromLocalFile(QStringLiteral("/a 1.png")),
+    return {.identifier = "one",
+            .title = "Title",
+            .subtitle = "<b>&.png",
+            .body = "Body",
+            .categoryIdentifier = "ready",
+            .action = {.identifier = "show", .title = "Show"},
+            .payload = {{"outputPath", "/a"}},
+            .soundName = "a.wav",
+            .image = QUrl::fromLocalFile("/a 1.png"),
             .delay = 250ms};
 }
 
@@ -43,8 +43,7 @@ class NotificationService : public FakeService
 
 public:
     NotificationService()
-        : FakeService(QStringLiteral("org.freedesktop.Notifications"),
-                      QStringLiteral("/org/freedesktop/Notifications"))
+        : FakeService("org.freedesktop.Notifications", "/org/freedesktop/Notifications")
     {}
 
     QStringList capabilities;
@@ -67,8 +66,7 @@ class FileManagerService : public FakeService
 
 public:
     FileManagerService()
-        : FakeService(QStringLiteral("org.freedesktop.FileManager1"),
-                      QStringLiteral("/org/freedesktop/FileManager1"))
+        : FakeService("org.freedesktop.FileManager1", "/org/freedesktop/FileManager1")
     {}
 
     QStringList shown;
@@ -119,35 +117,40 @@ private Q_SLOTS:
         m_center->onResponse([this](const NotificationResponse &response) { m_responses << response; });
     }
 
+    void cleanup()
+    {
+        m_center.reset();
+        m_service.reset();
+    }
+
     void shouldPostAfterTheDelayAndReportClicks()
     {
         m_center->add(request());
         m_jobs->advance(249ms);
         QCOMPARE(m_jobs->waitingJobs(), 1);
         m_jobs->advance(1ms);
-        QTRY_COMPARE(m_chime->played, QStringList{QStringLiteral("a.wav")});
+        QTRY_COMPARE(m_chime->played, QStringList{"a.wav"});
         QCOMPARE(m_service->calls.size(), 1);
         const QVariantList call = m_service->calls.first();
-        QCOMPARE(call[3].toString(), QStringLiteral("Title"));
-        QCOMPARE(call[4].toString(), QStringLiteral("<b>&.png\nBody"));
-        QCOMPARE(call[5].toStringList(), QStringList({QStringLiteral("default"), QString(),
-                                                      QStringLiteral("show"), QStringLiteral("Show")}));
+        QCOMPARE(call[3].toString(), "Title");
+        QCOMPARE(call[4].toString(), "<b>&.png\nBody");
+        QCOMPARE(call[5].toStringList(), QStringList({"default", QString(), "show", "Show"}));
         const QVariantMap hints = call[6].toMap();
-        QCOMPARE(hints.value(QStringLiteral("suppress-sound")), QVariant(true));
-        QCOMPARE(hints.value(QStringLiteral("image-path")), QVariant(QStringLiteral("file:///a%201.png")));
-        QCOMPARE(hints.value(QStringLiteral("x-lumaport-category")), QVariant(QStringLiteral("ready")));
+        QCOMPARE(hints.value("suppress-sound"), QVariant(true));
+        QCOMPARE(hints.value("image-path"), QVariant("file:///a%201.png"));
+        QCOMPARE(hints.value("x-lumaport-category"), QVariant("ready"));
 
-        const QString action = QStringLiteral("ActionInvoked");
-        m_service->emitSignal(action, {99U, QStringLiteral("default")}); // another program's
-        m_service->emitSignal(QStringLiteral("ActivationToken"), {1U, QStringLiteral("token")});
-        m_service->emitSignal(action, {1U, QStringLiteral("show")});
+        const QString action = "ActionInvoked";
+        m_service->emitSignal(action, {99U, "default"}); // another program's
+        m_service->emitSignal("ActivationToken", {1U, "token"});
+        m_service->emitSignal(action, {1U, "show"});
         QTRY_COMPARE(m_responses.size(), 1);
-        QCOMPARE(m_responses.first().actionIdentifier, QStringLiteral("show"));
+        QCOMPARE(m_responses.first().actionIdentifier, "show");
         QCOMPARE(m_responses.first().payload, request().payload);
-        QCOMPARE(m_responses.first().activationToken, QStringLiteral("token"));
+        QCOMPARE(m_responses.first().activationToken, "token");
 
-        m_service->emitSignal(QStringLiteral("NotificationClosed"), {1U, 2U});
-        m_service->emitSignal(action, {1U, QStringLiteral("default")});
+        m_service->emitSignal("NotificationClosed", {1U, 2U});
+        m_service->emitSignal(action, {1U, "default"});
         post();
         QTRY_COMPARE(m_service->calls.size(), 2); // whatever was sent before has arrived by now
         QCOMPARE(m_responses.size(), 1);
@@ -155,49 +158,48 @@ private Q_SLOTS:
 
     void shouldEscapeNamesForMarkupAndForgetAServiceThatIsGone()
     {
-        m_service->capabilities << QStringLiteral("body-markup");
+        m_service->capabilities << "body-markup";
         post();
         QTRY_COMPARE(m_chime->played.size(), 1);
-        QCOMPARE(m_service->calls.last()[4].toString(), QStringLiteral("&lt;b&gt;&amp;.png\nBody"));
+        QCOMPARE(m_service->calls.last()[4].toString(), "&lt;b&gt;&amp;.png\nBody");
 
-        const QDBusServiceWatcher watcher(QStringLiteral("org.freedesktop.Notifications"),
-                                          QDBusConnection::sessionBus());
+        const QDBusServiceWatcher watcher("org.freedesktop.Notifications", QDBusConnection::sessionBus());
         QSignalSpy changes(&watcher, &QDBusServiceWatcher::serviceOwnerChanged);
         m_service->leave();
         m_service->capabilities.clear();
         m_service->come();
         QTRY_COMPARE(changes.size(), 2); // the center has heard of it before
-        m_service->emitSignal(QStringLiteral("ActionInvoked"), {1U, QStringLiteral("show")});
+        m_service->emitSignal("ActionInvoked", {1U, "show"});
         post();
         QTRY_COMPARE(m_service->calls.size(), 2);
-        QCOMPARE(m_service->calls.last()[4].toString(), QStringLiteral("<b>&.png\nBody"));
+        QCOMPARE(m_service->calls.last()[4].toString(), "<b>&.png\nBody");
         QVERIFY(m_responses.isEmpty()); // the number 1 was another service's
     }
 
     void shouldRevealThroughTheFileManagerElseOpenTheFolder()
     {
-        QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open");
+        QDesktopServices::setUrlHandler("file", this, "open");
         FileManagerService manager;
         manager.come();
         DesktopWorkspace workspace(QDBusConnection::sessionBus());
-        const auto reveal = [&](const char *file, const char *error) {
+        const auto reveal = [&](const QString &file, const QString &error) {
             const auto before = manager.shown.size();
-            manager.error = QLatin1String(error);
-            workspace.reveal(QUrl::fromLocalFile(QString::fromUtf8(file)), QStringLiteral("token"));
+            manager.error = error;
+            workspace.reveal(QUrl::fromLocalFile(file), "token");
             QTRY_COMPARE(manager.shown.size(), before + 1);
         };
         reveal("/done/Ö 1#.png", "");
-        QCOMPARE(manager.shown, QStringList{QStringLiteral("file:///done/%C3%96%201%23.png")});
-        QCOMPARE(manager.startups, QStringList{QStringLiteral("token")});
+        QCOMPARE(manager.shown, QStringList{"file:///done/%C3%96%201%23.png"});
+        QCOMPARE(manager.startups, QStringList{"token"});
         reveal("/slow/1.png", "org.freedesktop.DBus.Error.NoReply");
         reveal("/refused/1.png", "org.freedesktop.DBus.Error.Failed");
         // Answers come in order: what the first ones might have opened would stand before this.
-        QTRY_COMPARE(m_opened, QList{QUrl(QStringLiteral("file:///refused/"))});
+        QTRY_COMPARE(m_opened, QList{QUrl("file:///refused/")});
 
-        DesktopWorkspace busless(QDBusConnection(QStringLiteral("no bus")));
-        busless.reveal(QUrl::fromLocalFile(QStringLiteral("/alone/1.png")), QString());
-        QCOMPARE(m_opened.last(), QUrl(QStringLiteral("file:///alone/")));
-        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+        DesktopWorkspace busless(QDBusConnection("no bus"));
+        busless.reveal(QUrl::fromLocalFile("/alone/1.png"), QString());
+        QCOMPARE(m_opened.last(), QUrl("file:///alone/"));
+        QDesktopServices::unsetUrlHandler("file");
     }
 };
 

@@ -25,16 +25,13 @@ class FakePortal : public FakeService
 
 public:
     FakePortal()
-        : FakeService(QStringLiteral("org.freedesktop.portal.Desktop"),
-                      QStringLiteral("/org/freedesktop/portal/desktop"))
+        : FakeService("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop")
     {}
 
     void change(const Key &key, const QVariant &value)
     {
-        const QString group = QLatin1String(key.first);
-        const QString name = QLatin1String(key.second);
-        m_values[group + name] = value;
-        emitSignal(QStringLiteral("SettingChanged"), {group, name, QVariant::fromValue(QDBusVariant(value))});
+        m_values[QString(key.first) + key.second] = value;
+        emitSignal("SettingChanged", {key.first, key.second, QVariant::fromValue(QDBusVariant(value))});
     }
 
 public Q_SLOTS:
@@ -42,7 +39,7 @@ public Q_SLOTS:
     {
         const QVariant value = m_values.value(group + name);
         if (!value.isValid()) {
-            refuse(message, QStringLiteral("org.freedesktop.portal.Error.NotFound"));
+            refuse(message, "org.freedesktop.portal.Error.NotFound");
         }
         // As the portal does it: a variant in a variant.
         return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));
@@ -86,13 +83,13 @@ private Q_SLOTS:
         QTRY_VERIFY(appearance.isDark());
         portal.change(scheme, 2U);
         QTRY_VERIFY(!appearance.isDark());
-        portal.change(factor, QStringLiteral("0"));
+        portal.change(factor, "0");
         QTRY_VERIFY(appearance.reduceMotion());
         portal.change(animations, true); // the other desktop's key does not take it back
         portal.change(scheme, 1U);
         QTRY_VERIFY(appearance.isDark());
         QVERIFY(appearance.reduceMotion());
-        portal.change(factor, QStringLiteral("0.5"));
+        portal.change(factor, "0.5");
         QTRY_VERIFY(!appearance.reduceMotion());
     }
 

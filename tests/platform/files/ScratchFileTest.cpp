@@ -100,15 +100,15 @@ class ScratchFileTest : public QObject
 
     std::unique_ptr<QTemporaryDir> m_here;
     std::unique_ptr<QTemporaryDir> m_there;
-    QString here(const char *name = "") const { return m_here->filePath(QLatin1String(name)); }
-    QString there(const char *name) const { return m_there->filePath(QLatin1String(name)); }
+    QString here(const QString &name = {}) const { return m_here->filePath(name); }
+    QString there(const QString &name = {}) const { return m_there->filePath(name); }
 
     /// Makes two folders, the second on the file system of `root`.
     void makeFolders(const QString &root, bool isLacking)
     {
         m_here = std::make_unique<QTemporaryDir>();
-        m_there = std::make_unique<QTemporaryDir>(root + QStringLiteral("/scratch-XXXXXX"));
-        lacking = isLacking ? QFile::encodeName(m_there->path()) : QByteArray();
+        m_there = std::make_unique<QTemporaryDir>(root + "/scratch-XXXXXX");
+        lacking = isLacking ? QFile::encodeName(there()) : QByteArray();
     }
 
 private Q_SLOTS:
@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("root");
         QTest::addColumn<bool>("isLacking");
-        const QString other = QStringLiteral("/dev/shm");
+        const QString other = "/dev/shm";
         QTest::newRow("same file system") << QDir::tempPath() << false;
         QTest::newRow("one that lacks much") << QDir::tempPath() << true;
         if (::access(qPrintable(other), W_OK) == 0 &&
@@ -149,7 +149,7 @@ private Q_SLOTS:
         put(there("taken"), "mine");
         QVERIFY(file.placeAs(there("taken")) == std::errc::file_exists);
         QVERIFY(file.placeAs(there("gone/a.png")) == std::errc::no_such_file_or_directory);
-        QCOMPARE(fileCount(m_there->path()), 1);
+        QCOMPARE(fileCount(there()), 1);
         QVERIFY(!file.placeAs(there("a.png")));
         QCOMPARE(content(there("a.png")), picture);
         QCOMPARE(statusOf(there("a.png")).st_mode & 07777U, 0644U);
@@ -167,7 +167,7 @@ private Q_SLOTS:
             limitFiles(RLIM_INFINITY);
         }
         QCOMPARE(content(here("photo")), picture);
-        QCOMPARE(fileCount(m_there->path()), 2);
+        QCOMPARE(fileCount(there()), 2);
         QVERIFY(!FileOperations::move(here("photo"), there("photo")));
         QCOMPARE(content(there("photo")), picture);
         QCOMPARE(statusOf(there("photo")).st_mode & 07777U, 0604U);
@@ -177,9 +177,8 @@ private Q_SLOTS:
 
     void shouldLeaveAFileAloneThatAnotherProcessHasJustFinished()
     {
-        const QString other = QStringLiteral("/dev/shm");
-        makeFolders(other, true);
-        if (!m_there->isValid() || statusOf(m_there->path()).st_dev == statusOf(here()).st_dev) {
+        makeFolders("/dev/shm", true);
+        if (!m_there->isValid() || statusOf(there()).st_dev == statusOf(here()).st_dev) {
             QSKIP("there is no second file system to write to");
         }
         whenPartHasOpened = [this] {
@@ -189,7 +188,7 @@ private Q_SLOTS:
         QVERIFY(!scratch(here(), "mine").placeAs(there("mine.png")));
         QCOMPARE(content(there("finished.png")), "finished");
         QCOMPARE(content(there("mine.png")), "mine");
-        QCOMPARE(fileCount(m_there->path()), 2);
+        QCOMPARE(fileCount(there()), 2);
     }
 };
 

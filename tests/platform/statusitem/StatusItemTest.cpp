@@ -19,16 +19,14 @@ class FakeWatcher : public FakeService
 
 public:
     FakeWatcher()
-        : FakeService(QStringLiteral("org.kde.StatusNotifierWatcher"),
-                      QStringLiteral("/StatusNotifierWatcher"))
+        : FakeService("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher")
     {}
 
     /// Calls what registered itself last, and waits for the answer.
-    QVariantList call(const QString &path, const QString &interface, const char *method,
+    QVariantList call(const QString &path, const QString &interface, const QString &method,
                       const QVariantList &arguments)
     {
-        QDBusMessage message =
-            QDBusMessage::createMethodCall(items.last(), path, interface, QLatin1String(method));
+        QDBusMessage message = QDBusMessage::createMethodCall(items.last(), path, interface, method);
         message.setArguments(arguments);
         QDBusPendingCallWatcher watcher(bus.asyncCall(message));
         QSignalSpy finished(&watcher, &QDBusPendingCallWatcher::finished);
@@ -37,13 +35,11 @@ public:
     }
     void activate(int x, int y)
     {
-        call(QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.kde.StatusNotifierItem"), "Activate",
-             {x, y});
+        call("/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", {x, y});
     }
-    QVariantList menu(const char *method, const QVariantList &arguments)
+    QVariantList menu(const QString &method, const QVariantList &arguments)
     {
-        return call(StatusNotifierMenu::objectPath, QStringLiteral("com.canonical.dbusmenu"), method,
-                    arguments);
+        return call(StatusNotifierMenu::objectPath, "com.canonical.dbusmenu", method, arguments);
     }
 
     bool hasHost = true;
@@ -82,8 +78,8 @@ StatusItemLook someLook()
     image.setPixelColor(0, 0, QColor(0x80, 0x40, 0x20, 0xFF));
     image.setPixelColor(1, 0, QColor(0xFF, 0xFF, 0xFF, 0x80));
     return {.images = {image, image.scaled(4, 2)},
-            .toolTip = QStringLiteral("Lumaport: Auto-convert: On"),
-            .accessibilityLabel = QStringLiteral("Lumaport, Auto-convert: On")};
+            .toolTip = "Lumaport: Auto-convert: On",
+            .accessibilityLabel = "Lumaport, Auto-convert: On"};
 }
 
 } // namespace
@@ -112,7 +108,7 @@ private Q_SLOTS:
 
     void shouldRegisterWithEveryWatcherThatComes()
     {
-        QVERIFY(m_watcher->items.last().startsWith(QLatin1String("org.kde.StatusNotifierItem-")));
+        QVERIFY(m_watcher->items.last().startsWith("org.kde.StatusNotifierItem-"));
         const QSignalSpy presence(m_item.get(), &StatusNotifierItem::hostPresenceChanged);
         QTRY_VERIFY(!presence.isEmpty() && presence.last().first().toBool());
         m_watcher->leave();
@@ -126,20 +122,17 @@ private Q_SLOTS:
         m_item->setLook(someLook());
         const auto properties =
             qdbus_cast<QVariantMap>(m_watcher
-                                        ->call(QStringLiteral("/StatusNotifierItem"),
-                                               QStringLiteral("org.freedesktop.DBus.Properties"), "GetAll",
-                                               {QStringLiteral("org.kde.StatusNotifierItem")})
+                                        ->call("/StatusNotifierItem", "org.freedesktop.DBus.Properties",
+                                               "GetAll", {"org.kde.StatusNotifierItem"})
                                         .value(0));
-        QCOMPARE(properties.value(QStringLiteral("Id")).toString(), QStringLiteral("io.lumaport.Lumaport"));
-        QCOMPARE(properties.value(QStringLiteral("Status")).toString(), QStringLiteral("Active"));
-        QCOMPARE(properties.value(QStringLiteral("ItemIsMenu")), QVariant(false));
-        QCOMPARE(properties.value(QStringLiteral("IconAccessibleDesc")).toString(),
-                 QStringLiteral("Lumaport, Auto-convert: On"));
-        const auto toolTip = qdbus_cast<StatusNotifierToolTip>(properties.value(QStringLiteral("ToolTip")));
-        QCOMPARE(toolTip.title, QStringLiteral("Lumaport: Auto-convert: On"));
+        QCOMPARE(properties.value("Id").toString(), "io.lumaport.Lumaport");
+        QCOMPARE(properties.value("Status").toString(), "Active");
+        QCOMPARE(properties.value("ItemIsMenu"), QVariant(false));
+        QCOMPARE(properties.value("IconAccessibleDesc").toString(), "Lumaport, Auto-convert: On");
+        const auto toolTip = qdbus_cast<StatusNotifierToolTip>(properties.value("ToolTip"));
+        QCOMPARE(toolTip.title, "Lumaport: Auto-convert: On");
 
-        const auto pixmaps =
-            qdbus_cast<StatusNotifierPixmaps>(properties.value(QStringLiteral("IconPixmap")));
+        const auto pixmaps = qdbus_cast<StatusNotifierPixmaps>(properties.value("IconPixmap"));
         QCOMPARE(pixmaps.size(), 2);
         QCOMPARE(pixmaps.at(1).width, 4);
         QCOMPARE(pixmaps.at(0).height, 1);
@@ -165,10 +158,10 @@ private Q_SLOTS:
         int opened = 0;
         int forbidden = 0;
         m_item->setMenu(
-            {{.title = QStringLiteral("Open _it"), .isChecked = {}, .action = [&opened] { ++opened; }},
+            {{.title = "Open _it", .isChecked = {}, .action = [&opened] { ++opened; }},
              {.kind = StatusMenuEntry::Kind::separator, .title = {}, .isChecked = {}, .action = {}},
-             {.title = QStringLiteral("PNG"), .isChecked = true, .action = {}},
-             {.title = QStringLiteral("Reveal"), .isEnabled = false, .isChecked = {}, .action = [&forbidden] {
+             {.title = "PNG", .isChecked = true, .action = {}},
+             {.title = "Reveal", .isEnabled = false, .isChecked = {}, .action = [&forbidden] {
                   ++forbidden;
               }}});
 
@@ -177,12 +170,12 @@ private Q_SLOTS:
         QVERIFY(layout.at(0).toUInt() > 1); // it changed since the start
         const auto root = qdbus_cast<StatusNotifierMenuNode>(layout.at(1));
         QCOMPARE(root.children.size(), 4);
-        const auto property = [&root](int child, const char *name) {
-            return root.children.at(child).properties.value(QLatin1String(name));
+        const auto property = [&root](int child, const QString &name) {
+            return root.children.at(child).properties.value(name);
         };
-        QCOMPARE(property(0, "label").toString(), QStringLiteral("Open __it"));
-        QCOMPARE(property(1, "type").toString(), QStringLiteral("separator"));
-        QCOMPARE(property(2, "toggle-type").toString(), QStringLiteral("radio"));
+        QCOMPARE(property(0, "label").toString(), "Open __it");
+        QCOMPARE(property(1, "type").toString(), "separator");
+        QCOMPARE(property(2, "toggle-type").toString(), "radio");
         QCOMPARE(property(2, "toggle-state").toInt(), 1);
         QCOMPARE(property(3, "enabled"), QVariant(false));
 
@@ -194,9 +187,8 @@ private Q_SLOTS:
         QCOMPARE(answered({1, 4, 99}), 2);
         QCOMPARE(answered({}), 5); // all of them, and the root
 
-        const auto event = [this](int id, const char *kind) {
-            m_watcher->menu("Event",
-                            {id, QLatin1String(kind), QVariant::fromValue(QDBusVariant(QString())), 0U});
+        const auto event = [this](int id, const QString &kind) {
+            m_watcher->menu("Event", {id, kind, QVariant::fromValue(QDBusVariant(QString())), 0U});
         };
         event(root.children.at(0).id, "hovered");
         QCOMPARE(opened, 0);
@@ -212,12 +204,12 @@ private Q_SLOTS:
         TrayIconItem item;
         int chosen = 0;
         int opened = 0;
-        const auto entries = [&](const char *title, bool isPng) {
+        const auto entries = [&](const QString &title, bool isPng) {
             return QList<StatusMenuEntry>{
-                {.title = QLatin1String(title), .isChecked = {}, .action = [&opened] { ++opened; }},
+                {.title = title, .isChecked = {}, .action = [&opened] { ++opened; }},
                 {.kind = StatusMenuEntry::Kind::separator, .title = {}, .isChecked = {}, .action = {}},
-                {.title = QStringLiteral("PNG"), .isChecked = isPng, .action = [&chosen] { ++chosen; }},
-                {.title = QStringLiteral("JPEG"), .isChecked = !isPng, .action = [&chosen] { ++chosen; }}};
+                {.title = "PNG", .isChecked = isPng, .action = [&chosen] { ++chosen; }},
+                {.title = "JPEG", .isChecked = !isPng, .action = [&chosen] { ++chosen; }}};
         };
         item.setMenu(entries("Pause", true));
         const QWidgetList widgets = QApplication::topLevelWidgets();
@@ -232,7 +224,7 @@ private Q_SLOTS:
 
         item.setMenu(entries("Resume", false)); // as under the pointer
         QCOMPARE(menu->actions(), lines);
-        QCOMPARE(lines.at(0)->text(), QStringLiteral("Resume"));
+        QCOMPARE(lines.at(0)->text(), "Resume");
         QVERIFY(lines.at(3)->isChecked() && !lines.at(2)->isChecked());
         lines.at(0)->trigger();
         QCOMPARE(opened, 1);
@@ -250,9 +242,9 @@ private Q_SLOTS:
             return made;
         });
         item.setLook(someLook());
-        item.setMenu({{.title = QStringLiteral("Open"), .isChecked = {}, .action = {}}});
+        item.setMenu({{.title = "Open", .isChecked = {}, .action = {}}});
         QSignalSpy activated(&item, &StatusItem::activated);
-        const QString hostCame = QStringLiteral("StatusNotifierHostRegistered");
+        const QString hostCame = "StatusNotifierHostRegistered";
         m_watcher->emitSignal(hostCame);
         QTRY_COMPARE(RecordingItem::shown, 1);
         QCOMPARE(fallback->look.toolTip, someLook().toolTip); // also what was set before it came
