@@ -28,25 +28,10 @@ template<typename Option>
 QStringList optionTexts()
 {
     QStringList texts;
-    for (const auto &each : OptionCases<Option>::cases) {
-        texts.append(optionText(each.option));
+    for (const char *text : rawValues<Option>) {
+        texts.append(QCoreApplication::translate("Options", text));
     }
     return texts;
-}
-
-template<typename Option>
-int choiceOf(Option option)
-{
-    const auto &cases = OptionCases<Option>::cases;
-    const auto found = std::find_if(cases.begin(), cases.end(),
-                                    [option](const auto &each) { return each.option == option; });
-    return static_cast<int>(found - cases.begin());
-}
-
-template<typename Option>
-Option optionOf(int choice)
-{
-    return OptionCases<Option>::cases.at(static_cast<std::size_t>(choice)).option;
 }
 
 } // namespace
@@ -91,7 +76,7 @@ bool OptionsController::canConvertExisting() const
 
 int OptionsController::format() const
 {
-    return choiceOf(m_model.settings().format);
+    return static_cast<int>(m_model.settings().format);
 }
 
 bool OptionsController::hasQuality() const
@@ -121,7 +106,7 @@ QString OptionsController::outputLocationText() const
 
 int OptionsController::outputLocation() const
 {
-    return choiceOf(m_model.settings().outputLocation);
+    return static_cast<int>(m_model.settings().outputLocation);
 }
 
 QStringList OptionsController::originalPolicies()
@@ -131,7 +116,7 @@ QStringList OptionsController::originalPolicies()
 
 int OptionsController::originalPolicy() const
 {
-    return choiceOf(m_model.settings().originalPolicy);
+    return static_cast<int>(m_model.settings().originalPolicy);
 }
 
 bool OptionsController::notificationsEnabled() const
@@ -141,12 +126,13 @@ bool OptionsController::notificationsEnabled() const
 
 int OptionsController::appearanceMode() const
 {
-    return choiceOf(m_model.appearanceMode());
+    return static_cast<int>(m_model.appearanceMode());
 }
 
 void OptionsController::setFormat(int choice)
 {
-    changeSettings([=](ConversionSettings &settings) { settings.format = optionOf<OutputFormat>(choice); });
+    changeSettings(
+        [=](ConversionSettings &settings) { settings.format = static_cast<OutputFormat>(choice); });
 }
 
 void OptionsController::setJpegQuality(double quality)
@@ -162,13 +148,13 @@ void OptionsController::moveQuality(double position)
 void OptionsController::setOutputLocation(int choice)
 {
     changeSettings(
-        [=](ConversionSettings &settings) { settings.outputLocation = optionOf<OutputLocation>(choice); });
+        [=](ConversionSettings &settings) { settings.outputLocation = static_cast<OutputLocation>(choice); });
 }
 
 void OptionsController::setOriginalPolicy(int choice)
 {
     changeSettings(
-        [=](ConversionSettings &settings) { settings.originalPolicy = optionOf<OriginalPolicy>(choice); });
+        [=](ConversionSettings &settings) { settings.originalPolicy = static_cast<OriginalPolicy>(choice); });
 }
 
 void OptionsController::setNotificationsEnabled(bool enabled)
@@ -178,5 +164,5 @@ void OptionsController::setNotificationsEnabled(bool enabled)
 
 void OptionsController::setAppearanceMode(int choice)
 {
-    m_model.setAppearanceMode(optionOf<AppearanceMode>(choice));
+    m_model.setAppearanceMode(static_cast<AppearanceMode>(choice));
 }
