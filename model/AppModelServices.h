@@ -12,7 +12,7 @@ class SystemAppearance;
 class WallClock;
 class Workspace;
 
-/// What the model uses of the world around it.
+/// The services that the model uses.
 struct AppModelServices
 {
     std::shared_ptr<JobScheduler> jobs;

@@ -9,8 +9,8 @@ class NotificationCenter;
 class Workspace;
 struct NotificationResponse;
 
-/// The one front to the desktop's notifications: announces each photo that became ready, and shows the
-/// converted file in the file manager when its notification is clicked. Nothing here reports an error.
+/// Announces each photo that became ready, and shows the converted file in the file manager when its
+/// notification is clicked. Nothing here reports an error.
 class NotificationManager
 {
     Q_DECLARE_TR_FUNCTIONS(NotificationManager)
@@ -21,7 +21,7 @@ public:
 
     NotificationManager(std::shared_ptr<NotificationCenter> center, std::shared_ptr<Workspace> workspace);
 
-    /// From here on, clicks are answered. The desktop has no permission that would have to be asked for.
+    /// From now on clicks are answered. This desktop asks for no permission to notify.
     void configure();
     void notifyConversionFinished(const QUrl &outputURL);
 
