@@ -35,7 +35,7 @@ QStringList photoNames(const QByteArray &path)
         }
         const QByteArrayView bytes(&entry->d_name[0]);
         if (bytes.startsWith('.') || bytes.size() < 6 || bytes[bytes.size() - 5] != '.') {
-            continue; // a folder may have tens of thousands of other names: decode photos' only
+            continue; // not decoded: a folder may have tens of thousands of other names
         }
         const QString name = QFile::decodeName(bytes.toByteArray());
         if (PhotoFileName::isHeic(name)) {
