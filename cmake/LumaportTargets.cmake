@@ -11,8 +11,10 @@ function(lumaport_target name)
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
     -Wformat=2 -Wimplicit-fallthrough -Wno-missing-field-initializers -Werror)
   target_compile_definitions(${name} PRIVATE
-    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
-    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+    QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+  if(NOT LUMAPORT_PLAIN_LITERALS)
+    target_compile_definitions(${name} PRIVATE QT_NO_CAST_FROM_ASCII)
+  endif()
   lumaport_hardening(${name})
   if(LUMAPORT_SANITIZE)
     lumaport_sanitize(${name} ${LUMAPORT_SANITIZE})

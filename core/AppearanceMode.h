@@ -6,11 +6,4 @@
 enum class AppearanceMode { system, light, dark };
 
 template<>
-struct OptionCases<AppearanceMode>
-{
-    static constexpr std::array<OptionCase<AppearanceMode>, 3> cases{{
-        {AppearanceMode::system, "System"},
-        {AppearanceMode::light, "Light"},
-        {AppearanceMode::dark, "Dark"},
-    }};
-};
+inline constexpr std::array rawValues<AppearanceMode>{"System", "Light", "Dark"};

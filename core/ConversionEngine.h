@@ -28,13 +28,12 @@ class ConversionEngine
 public:
     virtual ~ConversionEngine() = default;
 
-    /// Takes the photo and returns at once. `done` is called on the thread that the engine lives in, the main
-    /// one, when the photo's turn is over; not at all when `receiver` or the engine is gone by then.
+    /// Queues the photo and returns at once. `done` is called on the main thread when the photo is converted
+    /// or has failed; not at all when `receiver` or the engine is gone by then.
     virtual void convert(const QUrl &sourceURL, const ConversionSettings &settings, QObject *receiver,
                          std::function<void(const ConversionOutcome &)> done) = 0;
 
-    /// A photo is about to be converted: whatever takes time and needs no photo may start now. Returns at
-    /// once.
+    /// A photo is about to be converted: starts what takes time and needs no photo. Returns at once.
     virtual void prepare() = 0;
 
     /// The engine that hands photos to image workers.

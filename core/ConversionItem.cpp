@@ -1,11 +1,12 @@
 #include "ConversionItem.h"
 
-#include "JsonFields.h"
-
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cmath>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,12 +33,11 @@ std::optional<QUrl> fileUrlFromText(const QString &text)
     return url.isValid() && url.isLocalFile() ? std::optional(url) : std::nullopt;
 }
 
-/// An optional field: `field` stays absent when the key is missing or null. False when the value is
+/// Reads an optional field, which stays absent when the key is missing or null. False when the value is
 /// malformed.
 template<typename Value, typename Parse>
-bool readOptional(const QJsonObject &object, QLatin1String key, std::optional<Value> &field, Parse parse)
+bool readOptional(const QJsonValue &value, std::optional<Value> &field, Parse parse)
 {
-    const QJsonValue value = object.value(key);
     if (value.isUndefined() || value.isNull()) {
         return true;
     }
@@ -48,48 +48,44 @@ bool readOptional(const QJsonObject &object, QLatin1String key, std::optional<Va
 QJsonObject toObject(const ConversionItem &item)
 {
     QJsonObject object{
-        {QStringLiteral("id"), canonicalText(item.id)},
-        {QStringLiteral("sourceName"), item.sourceName},
-        {QStringLiteral("status"), rawValue(item.status)},
-        {QStringLiteral("createdAt"), item.createdAt.seconds},
-        {QStringLiteral("sourceURL"), encodedText(item.sourceURL)},
+        {u"id"_s, canonicalText(item.id)},
+        {u"sourceName"_s, item.sourceName},
+        {u"status"_s, rawValue(item.status)},
+        {u"createdAt"_s, item.createdAt.seconds},
+        {u"sourceURL"_s, encodedText(item.sourceURL)},
     };
     if (item.outputName) {
-        object.insert(QStringLiteral("outputName"), *item.outputName);
+        object.insert(u"outputName", *item.outputName);
     }
     if (item.outputURL) {
-        object.insert(QStringLiteral("outputURL"), encodedText(*item.outputURL));
+        object.insert(u"outputURL", encodedText(*item.outputURL));
     }
     if (item.errorMessage) {
-        object.insert(QStringLiteral("errorMessage"), *item.errorMessage);
+        object.insert(u"errorMessage", *item.errorMessage);
     }
     return object;
 }
 
 std::optional<ConversionItem> fromObject(const QJsonObject &object)
 {
-    const auto identifier = textField(object, QLatin1String("id"));
-    const auto sourceName = textField(object, QLatin1String("sourceName"));
-    const auto status = optionField<ConversionStatus>(object, QLatin1String("status"));
-    const QJsonValue createdAt = object.value(QLatin1String("createdAt"));
-    const auto sourceText = textField(object, QLatin1String("sourceURL"));
-    if (!identifier || !sourceName || !status || !createdAt.isDouble() || !sourceText) {
-        return std::nullopt;
-    }
-    const auto id = uuidFromText(*identifier);
-    const auto sourceURL = fileUrlFromText(*sourceText);
-    if (!id || !sourceURL) {
+    // A value of another type reads as an empty text, which is no identifier, no status and no URL.
+    const auto id = uuidFromText(object[u"id"].toString());
+    const auto status = optionFromRawValue<ConversionStatus>(object[u"status"].toString());
+    const auto sourceURL = fileUrlFromText(object[u"sourceURL"].toString());
+    const QJsonValue sourceName = object[u"sourceName"];
+    const QJsonValue createdAt = object[u"createdAt"];
+    if (!id || !status || !sourceURL || !sourceName.isString() || !createdAt.isDouble()) {
         return std::nullopt;
     }
     ConversionItem item{.id = *id,
-                        .sourceName = *sourceName,
+                        .sourceName = sourceName.toString(),
                         .status = *status,
                         .createdAt = {createdAt.toDouble()},
                         .sourceURL = *sourceURL};
     const auto plainText = [](const QString &text) { return std::optional(text); };
-    if (!readOptional(object, QLatin1String("outputName"), item.outputName, plainText) ||
-        !readOptional(object, QLatin1String("outputURL"), item.outputURL, fileUrlFromText) ||
-        !readOptional(object, QLatin1String("errorMessage"), item.errorMessage, plainText)) {
+    if (!readOptional(object[u"outputName"], item.outputName, plainText) ||
+        !readOptional(object[u"outputURL"], item.outputURL, fileUrlFromText) ||
+        !readOptional(object[u"errorMessage"], item.errorMessage, plainText)) {
         return std::nullopt;
     }
     return item;
@@ -127,7 +123,7 @@ std::optional<QList<ConversionItem>> ConversionItem::listFromJson(const QByteArr
     QList<ConversionItem> items;
     const QJsonArray array = document.array();
     for (const auto &value : array) {
-        const auto item = value.isObject() ? fromObject(value.toObject()) : std::nullopt;
+        const auto item = fromObject(value.toObject());
         if (!item) {
             return std::nullopt;
         }

@@ -17,15 +17,7 @@ enum class ConversionStatus {
 };
 
 template<>
-struct OptionCases<ConversionStatus>
-{
-    static constexpr std::array<OptionCase<ConversionStatus>, 4> cases{{
-        {ConversionStatus::queued, "queued"},
-        {ConversionStatus::converting, "converting"},
-        {ConversionStatus::ready, "ready"},
-        {ConversionStatus::failed, "failed"},
-    }};
-};
+inline constexpr std::array rawValues<ConversionStatus>{"queued", "converting", "ready", "failed"};
 
 /// One entry of the history and of the queue.
 struct ConversionItem

@@ -1,10 +1,11 @@
 #include "ConversionSettings.h"
 
-#include "JsonFields.h"
-
 #include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cmath>
+
+using namespace Qt::StringLiterals;
 
 std::optional<QByteArray> ConversionSettings::toJson() const
 {
@@ -12,27 +13,24 @@ std::optional<QByteArray> ConversionSettings::toJson() const
         return std::nullopt; // JSON has no such number
     }
     const QJsonObject object{
-        {QStringLiteral("format"), rawValue(format)},
-        {QStringLiteral("outputLocation"), rawValue(outputLocation)},
-        {QStringLiteral("originalPolicy"), rawValue(originalPolicy)},
-        {QStringLiteral("jpegQuality"), jpegQuality},
-        {QStringLiteral("notificationsEnabled"), notificationsEnabled},
+        {u"format"_s, rawValue(format)},
+        {u"outputLocation"_s, rawValue(outputLocation)},
+        {u"originalPolicy"_s, rawValue(originalPolicy)},
+        {u"jpegQuality"_s, jpegQuality},
+        {u"notificationsEnabled"_s, notificationsEnabled},
     };
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
 std::optional<ConversionSettings> ConversionSettings::fromJson(const QByteArray &json)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(json);
-    if (!document.isObject()) {
-        return std::nullopt;
-    }
-    const QJsonObject object = document.object();
-    const auto format = optionField<OutputFormat>(object, QLatin1String("format"));
-    const auto location = optionField<OutputLocation>(object, QLatin1String("outputLocation"));
-    const auto policy = optionField<OriginalPolicy>(object, QLatin1String("originalPolicy"));
-    const QJsonValue quality = object.value(QLatin1String("jpegQuality"));
-    const QJsonValue notifications = object.value(QLatin1String("notificationsEnabled"));
+    // A value of another type reads as an empty text, which stands for no option.
+    const QJsonObject object = QJsonDocument::fromJson(json).object();
+    const auto format = optionFromRawValue<OutputFormat>(object[u"format"].toString());
+    const auto location = optionFromRawValue<OutputLocation>(object[u"outputLocation"].toString());
+    const auto policy = optionFromRawValue<OriginalPolicy>(object[u"originalPolicy"].toString());
+    const QJsonValue quality = object[u"jpegQuality"];
+    const QJsonValue notifications = object[u"notificationsEnabled"];
     if (!format || !location || !policy || !quality.isDouble() || !notifications.isBool()) {
         return std::nullopt;
     }

@@ -20,31 +20,11 @@ enum class OriginalPolicy {
 };
 
 template<>
-struct OptionCases<OutputFormat>
-{
-    static constexpr std::array<OptionCase<OutputFormat>, 2> cases{{
-        {OutputFormat::png, "PNG"},
-        {OutputFormat::jpeg, "JPEG"},
-    }};
-};
-
+inline constexpr std::array rawValues<OutputFormat>{"PNG", "JPEG"};
 template<>
-struct OptionCases<OutputLocation>
-{
-    static constexpr std::array<OptionCase<OutputLocation>, 2> cases{{
-        {OutputLocation::alongside, "Beside originals"},
-        {OutputLocation::convertedFolder, "Lumaport folder"},
-    }};
-};
-
+inline constexpr std::array rawValues<OutputLocation>{"Beside originals", "Lumaport folder"};
 template<>
-struct OptionCases<OriginalPolicy>
-{
-    static constexpr std::array<OptionCase<OriginalPolicy>, 2> cases{{
-        {OriginalPolicy::keep, "Keep originals"},
-        {OriginalPolicy::archive, "Move to Originals"},
-    }};
-};
+inline constexpr std::array rawValues<OriginalPolicy>{"Keep originals", "Move to Originals"};
 
 /// What the user has set about conversions.
 struct ConversionSettings

@@ -31,11 +31,11 @@ QStringList photoNames(const QByteArray &path)
         // readdir is safe on a stream that no other thread has.
         const dirent *entry = ::readdir(directory.get()); // NOLINT(concurrency-mt-unsafe)
         if (!entry) {
-            return errno == 0 ? names : QStringList(); // half a list would pass for the whole folder
+            return errno == 0 ? names : QStringList(); // a part must not pass for the whole folder
         }
         const QByteArrayView bytes(&entry->d_name[0]);
         if (bytes.startsWith('.') || bytes.size() < 6 || bytes[bytes.size() - 5] != '.') {
-            continue; // tens of thousands of other names pass here: look before decoding
+            continue; // not decoded: a folder may have tens of thousands of other names
         }
         const QString name = QFile::decodeName(bytes.toByteArray());
         if (PhotoFileName::isHeic(name)) {
@@ -46,7 +46,7 @@ QStringList photoNames(const QByteArray &path)
 
 void sortAsInFileManager(QStringList &names)
 {
-    // The C locale has no notion of numbers in names.
+    // The collator of the C locale does not sort numbers by value.
     const QLocale locale;
     QCollator collator(locale.language() == QLocale::C ? QLocale(QLocale::English) : locale);
     collator.setNumericMode(true);

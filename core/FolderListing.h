@@ -6,8 +6,8 @@
 /// What lies directly in a folder.
 namespace FolderListing {
 
-/// The photos by name (HEIC or HEIF, not hidden), in the order of a file manager: letter case apart, numbers
-/// by value. One pass over the names. Empty when the folder is missing or cannot be read to its end.
+/// The files that are HEIC or HEIF by name and not hidden, sorted as in a file manager: numbers by value,
+/// case ignored. Empty when the folder is missing or cannot be read to its end.
 QList<QUrl> photos(const QUrl &folder);
 
 } // namespace FolderListing

@@ -8,10 +8,9 @@
 
 class FolderWatch;
 
-/// Tells its owner that the watched folder itself changed: an entry was added, removed or renamed in it, its
-/// attributes changed, or it was renamed or deleted. It neither says what changed nor looks into files and
-/// subfolders. Watches at most one folder at a time; a renamed or deleted folder stays the watched one until
-/// the owner stops or restarts.
+/// Reports that the watched folder itself changed: an entry was added, removed or renamed, its attributes
+/// changed, or it was renamed or deleted. Does not say what changed, and does not watch the contents of files
+/// and subfolders. Watches at most one folder at a time. A renamed folder stays the watched one.
 class FolderMonitor
 {
 public:
@@ -20,15 +19,14 @@ public:
     FolderMonitor(const FolderMonitor &) = delete;
     FolderMonitor &operator=(const FolderMonitor &) = delete;
 
-    /// Ends any earlier watch, then watches the folder `at`. False when it cannot be opened; nothing is
-    /// watched then. A folder that the kernel has no watch left for counts as watched, but may miss changes.
-    /// `onChange` is called on a background thread of the watch; reports that arrive while it
-    /// runs become one call.
+    /// Ends any earlier watch, then watches the folder `at`. False when it cannot be opened; then nothing is
+    /// watched. When the kernel has no watch left the folder counts as watched, and may miss changes.
+    /// `onChange` is called on the watch's own thread. Changes that come while it runs become one call.
     virtual bool start(const QUrl &at, std::function<void()> onChange);
 
     virtual void stop();
 
-    /// Whether the watched folder may change without a report, as folders of other machines do.
+    /// The watched folder may change without a report, as folders of other machines do.
     virtual bool mayMissChanges() const;
 
 private:

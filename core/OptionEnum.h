@@ -3,43 +3,28 @@
 #include <QString>
 #include <QStringView>
 
+#include <algorithm>
 #include <array>
 #include <optional>
-#include <utility>
 
-/// One case of a closed set and its text, which is what is stored; where the user has the choice, it is also
-/// what the user reads.
+/// The texts of an enumeration's cases, in the order of the cases, which are numbered from 0. A text is what
+/// is stored; where the user has the choice, it is also what the user reads. Each enumeration specialises
+/// this.
 template<typename Option>
-struct OptionCase
-{
-    Option option;
-    const char *rawValue;
-};
-
-/// The cases of an enumeration, in the order of the choices in its control if it has one. Each enumeration
-/// specialises this.
-template<typename Option>
-struct OptionCases;
+inline constexpr std::array<const char *, 0> rawValues;
 
 template<typename Option>
 QString rawValue(Option option)
 {
-    for (const auto &each : OptionCases<Option>::cases) {
-        if (each.option == option) {
-            return QString::fromLatin1(each.rawValue);
-        }
-    }
-    Q_UNREACHABLE();
+    return QString::fromLatin1(rawValues<Option>.at(static_cast<std::size_t>(option)));
 }
 
 /// The case whose text is exactly `text` (letter case counts), or none.
 template<typename Option>
 std::optional<Option> optionFromRawValue(QStringView text)
 {
-    for (const auto &each : OptionCases<Option>::cases) {
-        if (text == QLatin1String(each.rawValue)) {
-            return each.option;
-        }
-    }
-    return std::nullopt;
+    const auto &texts = rawValues<Option>;
+    const auto found = std::find_if(texts.begin(), texts.end(),
+                                    [text](const char *each) { return text == QLatin1String(each); });
+    return found != texts.end() ? std::optional(static_cast<Option>(found - texts.begin())) : std::nullopt;
 }

@@ -4,9 +4,9 @@
 
 class QUrl;
 
-/// A file of this machine that is HEIC or HEIF by name; whether it is there, opening it tells.
+/// The URL is of a file of this machine that is HEIC or HEIF by name. The file need not exist.
 bool isPhotoFile(const QUrl &url);
 
-/// Opens a photo for reading. None (a descriptor that is not open) for what is missing, closed to the user or
-/// no regular file: a pipe named like a photo must not be waited for.
+/// Opens a photo for reading. The descriptor is not open when the file is missing, may not be read or is no
+/// regular file; a pipe that is named like a photo is not waited for.
 FileDescriptor openPhoto(const QUrl &file);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Names of photo files. Only the name counts here; what a file really holds is found out by opening it.
+/// Names of photo files. The content is not looked at.
 namespace PhotoFileName {
 
 /// The part after the last point, as written; empty when there is none. A leading point only hides a file.

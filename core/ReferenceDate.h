@@ -2,8 +2,8 @@
 
 #include <chrono>
 
-/// A moment as seconds, with fraction, since 2001-01-01 00:00:00 UTC. Kept as the very number that is stored,
-/// because a calendar type of millisecond resolution would change it on the way through.
+/// A moment as seconds, with fraction, since 2001-01-01 00:00:00 UTC. Kept as the number that is stored: a
+/// type of millisecond resolution would change it.
 struct ReferenceDate
 {
     double seconds = 0;

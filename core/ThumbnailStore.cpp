@@ -6,11 +6,10 @@
 
 namespace {
 
-// A full thumbnail takes 230,400 bytes in memory; this many stay below 8 MiB by far.
+// A thumbnail takes up to 230,400 bytes, so this many stay below 8 MiB.
 constexpr int maximumCount = 24;
 
-// Each worker takes a core and some tens of megabytes; the conversion under way is not to wait for
-// thumbnails.
+// Each worker takes a core and some tens of megabytes. A conversion must not wait for thumbnails.
 constexpr int maximumReaders = 2;
 
 ThumbnailStore *replacement = nullptr;
@@ -77,7 +76,7 @@ std::unique_ptr<ThumbnailRequest> ThumbnailStore::image(const QUrl &url, Thumbna
     auto request = std::make_unique<ThumbnailRequest>(std::move(answer));
     m_readers.start([this, url, waiting = std::weak_ptr(request->m_answer)] {
         if (waiting.expired()) {
-            return; // given up before its turn: those that are still wanted come sooner
+            return; // cancelled before its turn
         }
         const QByteArray png = readThumbnail(*m_launcher, url);
         QMetaObject::invokeMethod(

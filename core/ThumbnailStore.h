@@ -11,7 +11,7 @@
 
 class ImageWorkerLauncher;
 
-/// A wish for one thumbnail; destroying it cancels the wish, and its answer is dropped.
+/// A request for one thumbnail. Destroying it cancels the request; its answer is dropped.
 class ThumbnailRequest
 {
 public:
@@ -27,10 +27,10 @@ private:
     std::shared_ptr<Answer> m_answer;
 };
 
-/// Small pictures of photo files, and the most recent of them kept in memory.
+/// Small pictures of photo files. The most recent are kept in memory.
 ///
-/// It is used on the main thread. Photos are decoded by image workers, at low priority and never more than
-/// two at a time; only the small PNG that comes back is decoded here, on the main thread.
+/// Used on the main thread. Image workers decode the photos, two at a time at most. Only the small PNG that
+/// comes back is decoded on the main thread.
 class ThumbnailStore : public QObject
 {
     Q_OBJECT
@@ -45,12 +45,12 @@ public:
 
     /// The one of this process.
     static ThumbnailStore &shared();
-    /// Takes the place of the one of this process until `store` is gone; null brings it back.
+    /// Replaces the one of this process until `store` is gone; null brings it back.
     static void setShared(ThumbnailStore *store);
 
-    /// Gives the thumbnail to `answer`: at once, and null as result, when it is in memory; else later, as
-    /// long as the result is kept. A file that gives no picture is answered with a null image, and read again
-    /// the next time.
+    /// Hands the thumbnail to `answer`. When it is in memory this happens before the call returns, and the
+    /// result is null; else it happens later, if the result is still kept. A file that cannot be decoded
+    /// gives a null image and is read again the next time.
     [[nodiscard]] std::unique_ptr<ThumbnailRequest> image(const QUrl &url, ThumbnailRequest::Answer answer);
 
 private:

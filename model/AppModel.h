@@ -1,48 +1,24 @@
 #pragma once
 
+#include "AppModelServices.h"
 #include "AppearanceMode.h"
+#include "ConversionEngine.h"
 #include "ConversionItem.h"
 #include "ConversionSettings.h"
 #include "FileSignature.h"
 
 #include <QHash>
 #include <QObject>
+#include <QProperty>
 #include <QSet>
 
 #include <chrono>
-#include <memory>
 
-class ConversionEngine;
-class DefaultsStore;
-class FolderMonitor;
-class JobScheduler;
-class NotificationManager;
-class OpenPanel;
 class ScheduledJob;
-class SystemAppearance;
-class WallClock;
-class Workspace;
 
-/// What the model uses of the world around it.
-struct AppModelServices
-{
-    std::shared_ptr<JobScheduler> jobs;
-    std::shared_ptr<WallClock> clock;
-    std::shared_ptr<DefaultsStore> defaults;
-    NotificationManager *notifications = nullptr;
-    std::shared_ptr<Workspace> workspace;
-    std::shared_ptr<OpenPanel> openPanel;
-    std::shared_ptr<SystemAppearance> appearance;
-    std::shared_ptr<ConversionEngine> engine;
-    std::shared_ptr<FolderMonitor> folderMonitor;
-
-    /// The real ones.
-    static AppModelServices standard();
-};
-
-/// All state of the application, in one place: settings, history, watched folder and status line. It runs the
-/// conversion queue and finds new arrivals in the watched folder. Everything here happens on the main thread;
-/// jobs end with the model.
+/// All state of the application: settings, history, watched folder and status line. It runs the conversion
+/// queue and finds new arrivals in the watched folder. Everything here happens on the main thread. Jobs end
+/// with the model.
 class AppModel : public QObject
 {
     Q_OBJECT
@@ -64,9 +40,7 @@ class AppModel : public QObject
     Q_PROPERTY(QString monitorSymbol READ monitorSymbol NOTIFY monitorTextsChanged)
 
 public:
-    /// With the real services.
-    AppModel();
-    explicit AppModel(AppModelServices services, QObject *parent = nullptr);
+    explicit AppModel(AppModelServices services);
     ~AppModel() override;
 
     /// The history, newest first; at most 20 entries.
@@ -80,23 +54,23 @@ public:
     ConversionSettings settings() const { return m_settings; }
     void setSettings(const ConversionSettings &settings);
     bool isDropTargeted() const { return m_isDropTargeted; }
-    void setIsDropTargeted(bool targeted);
+    void setIsDropTargeted(bool targeted) { m_isDropTargeted = targeted; }
     /// The status line.
     QString lastEventText() const { return m_lastEventText; }
-    void setLastEventText(const QString &text);
+    void setLastEventText(const QString &text) { m_lastEventText = text; }
     /// The phase that the landing stage shows; none when idle.
     std::optional<ConversionStatus> activeStatus() const { return m_activeStatus; }
     bool monitorAvailable() const { return m_monitorAvailable; }
     int welcomeReplayToken() const { return m_welcomeReplayToken; }
-    void setWelcomeReplayToken(int token);
+    void setWelcomeReplayToken(int token) { m_welcomeReplayToken = token; }
 
     /// Any entry is queued or converting.
     bool isBusy() const;
     /// Number of entries that are ready.
     int readyCount() const;
-    QString monitorTitle() const;
-    QString monitorDetail() const;
-    QString monitorSymbol() const;
+    QString monitorTitle() const { return monitorTexts().title; }
+    QString monitorDetail() const { return monitorTexts().detail; }
+    QString monitorSymbol() const { return monitorTexts().symbol; }
 
     /// Photos that the user dropped or chose. Files that are not HEIC or HEIF by name are left out.
     void convertManually(const QList<QUrl> &urls);
@@ -132,49 +106,55 @@ Q_SIGNALS:
     void monitorTextsChanged();
 
 private:
+    struct MonitorTexts
+    {
+        QString title;
+        QString detail;
+        QString symbol;
+    };
+
     // State and persistence: AppModel.cpp
     void loadStoredState();
     void setWatchFolder(const QUrl &folder);
     void saveSettings();
     void applyAppearance();
-    void didSetIsWatching();
 
     // The conversion queue: AppModelQueue.cpp
     void enqueue(const QList<QUrl> &urls);
     void startConversions(const QList<ConversionItem> &accepted, const ConversionSettings &settings);
-    void finishConversion(const QUuid &id, const QUrl &sourceURL, const ConversionSettings &settings,
-                          const QUrl &outputURL);
-    void failConversion(const QUuid &id, const QUrl &sourceURL, const QString &errorMessage);
-    void endConversion(const QUrl &sourceURL, ConversionStatus outcome, std::chrono::seconds shownFor);
+    void endConversion(const ConversionItem &accepted, const ConversionSettings &settings,
+                       const ConversionOutcome &outcome);
     ConversionItem *find(const QUuid &id);
     void trimAndSaveItems();
     void showStatus(ConversionStatus status, std::optional<std::chrono::milliseconds> clearAfter = {});
-    void setActiveStatus(std::optional<ConversionStatus> status);
+    void clearStatus();
 
     // Watching and scanning: AppModelWatching.cpp
     void startMonitoringFolder();
     void seedKnownFiles();
     void scheduleScan(std::chrono::milliseconds after);
     void scanForNewFiles();
-    void lookNowAndThen();
+    void pollSilentFolder();
     void reactToWatching();
+    MonitorTexts monitorTexts() const;
     static QList<QUrl> heicFiles(const QUrl &folder);
     static std::optional<FileSignature> signature(const QUrl &file);
 
     QList<ConversionItem> m_items;
-    bool m_isWatching = true;
-    QUrl m_watchFolder;
-    AppearanceMode m_appearanceMode = AppearanceMode::system;
-    ConversionSettings m_settings;
-    bool m_isDropTargeted = false;
-    QString m_lastEventText;
-    std::optional<ConversionStatus> m_activeStatus;
-    bool m_monitorAvailable = false;
-    int m_welcomeReplayToken = 0;
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppModel, bool, m_isWatching, true, &AppModel::isWatchingChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QUrl, m_watchFolder, &AppModel::watchFolderChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, AppearanceMode, m_appearanceMode, &AppModel::appearanceModeChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, ConversionSettings, m_settings, &AppModel::settingsChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, bool, m_isDropTargeted, &AppModel::isDropTargetedChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, QString, m_lastEventText, &AppModel::lastEventTextChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, std::optional<ConversionStatus>, m_activeStatus,
+                               &AppModel::activeStatusChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, bool, m_monitorAvailable, &AppModel::monitorAvailableChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(AppModel, int, m_welcomeReplayToken, &AppModel::welcomeReplayTokenChanged)
 
     AppModelServices m_services;
     std::unique_ptr<ScheduledJob> m_pendingScanTask;
-    std::unique_ptr<ScheduledJob> m_lookTask; ///< for folders that change without a report
+    std::unique_ptr<ScheduledJob> m_pollTask; ///< for folders that change without a report
     std::unique_ptr<ScheduledJob> m_statusClearTask;
     QHash<QString, FileSignature> m_knownFiles; ///< by path: photos that need no conversion
     QHash<QString, FileSignature> m_candidates; ///< by path: new or changed photos waiting to settle

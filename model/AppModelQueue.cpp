@@ -1,9 +1,7 @@
-// The conversion queue of AppModel: from accepted files to history entries, and the status line on the way.
+// The conversion queue of AppModel: accepted files become history entries, and the status line follows.
 
 #include "AppModel.h"
-#include "ConversionEngine.h"
 #include "JobScheduler.h"
-#include "ModelTexts.h"
 #include "NotificationManager.h"
 #include "OpenPanel.h"
 #include "PhotoFile.h"
@@ -27,7 +25,7 @@ void AppModel::convertManually(const QList<QUrl> &urls)
     QList<QUrl> photos;
     std::copy_if(urls.begin(), urls.end(), std::back_inserter(photos), isPhotoFile);
     if (photos.isEmpty()) {
-        setLastEventText(ModelTexts::dropPhotosHere());
+        setLastEventText(tr("Drop HEIC or HEIF photos here"));
         return;
     }
     enqueue(photos);
@@ -49,11 +47,11 @@ void AppModel::enqueue(const QList<QUrl> &urls)
         return;
     }
     trimAndSaveItems(); // once for all of a burst: each time may wait for the disk
-    setLastEventText(ModelTexts::landed(accepted.last().sourceName));
+    setLastEventText(tr("%1 landed").arg(accepted.last().sourceName));
     showStatus(ConversionStatus::queued);
     m_services.engine->prepare();
     QMetaObject::invokeMethod(
-        this, [this, accepted, settings = m_settings] { startConversions(accepted, settings); },
+        this, [this, accepted, settings = settings()] { startConversions(accepted, settings); },
         Qt::QueuedConnection);
 }
 
@@ -68,60 +66,46 @@ void AppModel::startConversions(const QList<ConversionItem> &accepted, const Con
     Q_EMIT itemsChanged();
     showStatus(ConversionStatus::converting);
     for (const ConversionItem &each : accepted) {
-        m_services.engine->convert(
-            each.sourceURL, settings, this,
-            [this, id = each.id, sourceURL = each.sourceURL, settings](const ConversionOutcome &outcome) {
-                if (outcome) {
-                    finishConversion(id, sourceURL, settings, outcome->outputURL);
-                } else {
-                    failConversion(id, sourceURL, description(outcome.error()));
-                }
-            });
+        m_services.engine->convert(each.sourceURL, settings, this,
+                                   [this, each, settings](const ConversionOutcome &outcome) {
+                                       endConversion(each, settings, outcome);
+                                   });
     }
 }
 
-void AppModel::finishConversion(const QUuid &id, const QUrl &sourceURL, const ConversionSettings &settings,
-                                const QUrl &outputURL)
+void AppModel::endConversion(const ConversionItem &accepted, const ConversionSettings &settings,
+                             const ConversionOutcome &outcome)
 {
-    if (ConversionItem *item = find(id)) {
-        item->status = ConversionStatus::ready;
-        item->outputURL = outputURL;
-        item->outputName = outputURL.fileName();
-        saveItems();
+    if (ConversionItem *item = find(accepted.id)) {
+        if (outcome) {
+            item->status = ConversionStatus::ready;
+            item->outputURL = outcome->outputURL;
+            item->outputName = outcome->outputURL.fileName();
+        } else {
+            item->status = ConversionStatus::failed;
+            item->errorMessage = description(outcome.error());
+        }
         Q_EMIT itemsChanged();
     }
-    setLastEventText(ModelTexts::ready(outputURL.fileName()));
-    endConversion(sourceURL, ConversionStatus::ready, readyShownFor);
-    if (settings.notificationsEnabled) {
-        m_services.notifications->notifyConversionFinished(outputURL);
+    // Known from now on, so that scans leave the file alone until it changes. A file that was moved away has
+    // no signature.
+    const QString path = accepted.sourceURL.toLocalFile();
+    if (const auto current = signature(accepted.sourceURL)) {
+        m_knownFiles.insert(path, *current);
     }
-}
-
-void AppModel::failConversion(const QUuid &id, const QUrl &sourceURL, const QString &errorMessage)
-{
-    if (ConversionItem *item = find(id)) {
-        item->status = ConversionStatus::failed;
-        item->errorMessage = errorMessage;
-        saveItems();
-        Q_EMIT itemsChanged();
-    }
-    setLastEventText(ModelTexts::couldNotConvert(sourceURL.fileName()));
-    endConversion(sourceURL, ConversionStatus::failed, failureShownFor);
-}
-
-void AppModel::endConversion(const QUrl &sourceURL, ConversionStatus outcome, std::chrono::seconds shownFor)
-{
-    // Known from now on, so that scans leave the file alone until it changes; one that was moved away has no
-    // signature.
-    if (const auto current = signature(sourceURL)) {
-        m_knownFiles.insert(sourceURL.toLocalFile(), *current);
-    }
+    setLastEventText(outcome ? tr("Ready: %1").arg(outcome->outputURL.fileName())
+                             : tr("Couldn’t convert %1").arg(accepted.sourceName));
     if (isBusy()) {
         showStatus(ConversionStatus::converting);
+    } else if (outcome) {
+        showStatus(ConversionStatus::ready, readyShownFor);
     } else {
-        showStatus(outcome, shownFor);
+        showStatus(ConversionStatus::failed, failureShownFor);
     }
-    m_processingPaths.remove(sourceURL.toLocalFile());
+    if (outcome && settings.notificationsEnabled) {
+        m_services.notifications->notifyConversionFinished(outcome->outputURL);
+    }
+    m_processingPaths.remove(path);
     saveItems();
 }
 
@@ -144,19 +128,16 @@ void AppModel::trimAndSaveItems()
 void AppModel::showStatus(ConversionStatus status, std::optional<std::chrono::milliseconds> clearAfter)
 {
     m_statusClearTask.reset();
-    setActiveStatus(status);
+    m_activeStatus = status;
     if (clearAfter) {
-        m_statusClearTask = m_services.jobs->after(*clearAfter, [this] {
-            setActiveStatus(std::nullopt);
-            setLastEventText(ModelTexts::waiting());
-        });
+        m_statusClearTask = m_services.jobs->after(*clearAfter, [this] { clearStatus(); });
     }
 }
 
-void AppModel::setActiveStatus(std::optional<ConversionStatus> status)
+void AppModel::clearStatus()
 {
-    m_activeStatus = status;
-    Q_EMIT activeStatusChanged();
+    m_activeStatus = std::nullopt;
+    setLastEventText(tr("Waiting for your next AirDrop"));
 }
 
 bool AppModel::isBusy() const
@@ -192,5 +173,5 @@ void AppModel::clearHistory()
 {
     setItems({});
     saveItems();
-    setLastEventText(ModelTexts::historyCleared());
+    setLastEventText(tr("History cleared"));
 }

@@ -1,4 +1,5 @@
-#include "AppModel.h"
+#include "AppModelServices.h"
+
 #include "ConversionEngine.h"
 #include "DefaultsStore.h"
 #include "FolderMonitor.h"

@@ -1,11 +1,9 @@
 // Watching and scanning of AppModel: which files of the watched folder are new, and when they have settled.
 
 #include "AppModel.h"
-#include "ConversionEngine.h"
 #include "FolderListing.h"
 #include "FolderMonitor.h"
 #include "JobScheduler.h"
-#include "ModelTexts.h"
 #include "OpenPanel.h"
 
 using namespace std::chrono_literals;
@@ -15,21 +13,20 @@ namespace {
 constexpr auto changeDebounce = 350ms;
 constexpr auto settleCheck = 850ms;
 constexpr auto resumeDelay = 100ms;
-constexpr auto silentFolderPace = 10s;
+constexpr auto pollingInterval = 10s;
 
 } // namespace
 
 void AppModel::startMonitoringFolder()
 {
     // Reports come on the monitor's thread; they end before the model does.
-    m_monitorAvailable = m_services.folderMonitor->start(m_watchFolder, [this] {
+    m_monitorAvailable = m_services.folderMonitor->start(watchFolder(), [this] {
         QMetaObject::invokeMethod(
             this, [this] { scheduleScan(changeDebounce); }, Qt::QueuedConnection);
     });
-    Q_EMIT monitorAvailableChanged();
-    lookNowAndThen();
+    pollSilentFolder();
     if (!m_monitorAvailable) {
-        setLastEventText(ModelTexts::couldNotWatch(m_watchFolder.fileName()));
+        setLastEventText(tr("Couldn’t watch %1").arg(watchFolder().fileName()));
     }
 }
 
@@ -103,23 +100,23 @@ void AppModel::scanForNewFiles()
     }
 }
 
-void AppModel::lookNowAndThen()
+void AppModel::pollSilentFolder()
 {
-    m_lookTask.reset();
+    m_pollTask.reset();
     if (!m_isWatching || !m_services.folderMonitor->mayMissChanges()) {
         return;
     }
-    m_lookTask = m_services.jobs->after(silentFolderPace, [this] {
+    m_pollTask = m_services.jobs->after(pollingInterval, [this] {
         if (!m_pendingScanTask) {
             scanForNewFiles();
         }
-        lookNowAndThen();
+        pollSilentFolder();
     });
 }
 
 void AppModel::reactToWatching()
 {
-    lookNowAndThen();
+    pollSilentFolder();
     if (m_isWatching) {
         scheduleScan(resumeDelay);
     } else {
@@ -133,7 +130,7 @@ void AppModel::chooseWatchFolder()
     m_services.openPanel->show({.choice = OpenPanelRequest::Choice::oneFolder,
                                 .title = tr("Choose the folder where AirDrop saves photos"),
                                 .prompt = tr("Watch this folder"),
-                                .folder = m_watchFolder},
+                                .folder = watchFolder()},
                                [this](const QList<QUrl> &chosen) {
                                    if (!chosen.first().isLocalFile()) {
                                        return; // a folder of another machine, in a panel that offers them
@@ -141,7 +138,7 @@ void AppModel::chooseWatchFolder()
                                    setWatchFolder(chosen.first());
                                    seedKnownFiles();
                                    startMonitoringFolder();
-                                   setLastEventText(ModelTexts::watching(m_watchFolder.fileName()));
+                                   setLastEventText(tr("Watching %1").arg(watchFolder().fileName()));
                                });
 }
 
@@ -157,33 +154,22 @@ void AppModel::convertExistingFiles()
 {
     const QList<QUrl> files = heicFiles(m_watchFolder);
     if (files.isEmpty()) {
-        setLastEventText(ModelTexts::noPhotosIn(m_watchFolder.fileName()));
+        setLastEventText(tr("No HEIC photos found in %1").arg(watchFolder().fileName()));
         return;
     }
     enqueue(files);
 }
 
-QString AppModel::monitorTitle() const
+AppModel::MonitorTexts AppModel::monitorTexts() const
 {
     if (!m_monitorAvailable) {
-        return tr("Folder unavailable");
+        return {tr("Folder unavailable"), tr("Check your watched folder, then retry."),
+                QStringLiteral("exclamationmark.triangle.fill")};
     }
-    return m_isWatching ? tr("Auto-convert: On") : tr("Auto-convert: Paused");
-}
-
-QString AppModel::monitorDetail() const
-{
-    if (!m_monitorAvailable) {
-        return tr("Check your watched folder, then retry.");
+    if (m_isWatching) {
+        return {tr("Auto-convert: On"), tr("Watching %1 for new HEIC photos.").arg(watchFolder().fileName()),
+                QStringLiteral("checkmark.circle.fill")};
     }
-    return m_isWatching ? tr("Watching %1 for new HEIC photos.").arg(m_watchFolder.fileName())
-                        : tr("New arrivals won’t convert until you resume.");
-}
-
-QString AppModel::monitorSymbol() const
-{
-    if (!m_monitorAvailable) {
-        return QStringLiteral("exclamationmark.triangle.fill");
-    }
-    return m_isWatching ? QStringLiteral("checkmark.circle.fill") : QStringLiteral("pause.circle.fill");
+    return {tr("Auto-convert: Paused"), tr("New arrivals won’t convert until you resume."),
+            QStringLiteral("pause.circle.fill")};
 }

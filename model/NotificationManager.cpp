@@ -3,7 +3,6 @@
 #include "NotificationCenter.h"
 #include "Workspace.h"
 
-#include <QCoreApplication>
 #include <QUuid>
 
 using namespace std::chrono_literals;
@@ -12,25 +11,8 @@ namespace {
 
 constexpr auto announceDelay = 250ms;
 
-QString categoryIdentifier()
-{
-    return QStringLiteral("LUMAPORT_CONVERSION_READY");
-}
-
-QString showActionIdentifier()
-{
-    return QStringLiteral("LUMAPORT_SHOW_IN_FINDER");
-}
-
-QString outputPathKey()
-{
-    return QStringLiteral("outputPath");
-}
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("NotificationManager", text);
-}
+const QString showActionIdentifier = QStringLiteral("LUMAPORT_SHOW_IN_FINDER");
+const QString outputPathKey = QStringLiteral("outputPath");
 
 } // namespace
 
@@ -46,36 +28,21 @@ NotificationManager::NotificationManager(std::shared_ptr<NotificationCenter> cen
     , m_workspace(std::move(workspace))
 {}
 
-void NotificationManager::configure(Authorization authorization)
+void NotificationManager::configure()
 {
-    if (!m_isConfigured) {
-        m_isConfigured = true;
-        m_center->onResponse([this](const NotificationResponse &response) { didReceive(response); });
-        m_center->setCategories({{.identifier = categoryIdentifier(),
-                                  .actions = {{.identifier = showActionIdentifier(),
-                                               .title = translated(QT_TRANSLATE_NOOP("NotificationManager",
-                                                                                     "Show in Finder"))}}}});
-    }
-    if (authorization == Authorization::request) {
-        requestAuthorization();
-    }
-}
-
-void NotificationManager::requestAuthorization()
-{
-    m_center->requestAuthorization();
+    m_center->onResponse([this](const NotificationResponse &response) { didReceive(response); });
 }
 
 void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
 {
     m_center->add({.identifier = QStringLiteral("lumaport-ready-") +
                                  QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(),
-                   .title = translated(QT_TRANSLATE_NOOP("NotificationManager", "Photo landed ready")),
+                   .title = tr("Photo landed ready"),
                    .subtitle = outputURL.fileName(),
-                   .body = translated(QT_TRANSLATE_NOOP("NotificationManager",
-                                                        "Converted locally. Click to reveal it in Finder.")),
-                   .categoryIdentifier = categoryIdentifier(),
-                   .payload = {{outputPathKey(), outputURL.toLocalFile()}},
+                   .body = tr("Converted locally. Click to reveal it in Finder."),
+                   .categoryIdentifier = QStringLiteral("LUMAPORT_CONVERSION_READY"),
+                   .action = {.identifier = showActionIdentifier, .title = tr("Show in Finder")},
+                   .payload = {{outputPathKey, outputURL.toLocalFile()}},
                    .soundName = QStringLiteral("LumaportArrival.wav"),
                    .image = outputURL,
                    .delay = announceDelay});
@@ -84,10 +51,10 @@ void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
 void NotificationManager::didReceive(const NotificationResponse &response) const
 {
     if (response.actionIdentifier != NotificationCenter::defaultAction &&
-        response.actionIdentifier != showActionIdentifier()) {
+        response.actionIdentifier != showActionIdentifier) {
         return;
     }
-    const QVariant path = response.payload.value(outputPathKey());
+    const QVariant path = response.payload.value(outputPathKey);
     if (path.typeId() == QMetaType::QString) {
         m_workspace->reveal(QUrl::fromLocalFile(path.toString()), response.activationToken);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QCoreApplication>
 #include <QUrl>
 
 #include <memory>
@@ -9,21 +9,20 @@ class NotificationCenter;
 class Workspace;
 struct NotificationResponse;
 
-/// The one front to the desktop's notifications: announces each photo that became ready, and shows the
-/// converted file in the file manager when its notification is clicked. Nothing here reports an error.
+/// Announces each photo that became ready, and shows the converted file in the file manager when its
+/// notification is clicked. Nothing here reports an error.
 class NotificationManager
 {
-public:
-    enum class Authorization { leave, request };
+    Q_DECLARE_TR_FUNCTIONS(NotificationManager)
 
+public:
     /// The one of the process, made on first use.
     static NotificationManager &shared();
 
     NotificationManager(std::shared_ptr<NotificationCenter> center, std::shared_ptr<Workspace> workspace);
 
-    /// Registers the category of finished photos, once; asks for permission each time that is wanted.
-    void configure(Authorization authorization);
-    void requestAuthorization();
+    /// From now on clicks are answered. This desktop asks for no permission to notify.
+    void configure();
     void notifyConversionFinished(const QUrl &outputURL);
 
 private:
@@ -31,5 +30,4 @@ private:
 
     std::shared_ptr<NotificationCenter> m_center;
     std::shared_ptr<Workspace> m_workspace;
-    bool m_isConfigured = false;
 };

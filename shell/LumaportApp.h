@@ -12,16 +12,16 @@ class SettingsPortal;
 class SingleInstance;
 class SystemAppearance;
 
-/// The application: its one model, its one window, its status item, and what other starts of it ask for.
+/// The application: owns its one model, its one window and its status item, and serves further starts.
 class LumaportApp
 {
 public:
-    /// `instance` owns the application's name already.
+    /// `instance` owns the application's bus name already.
     explicit LumaportApp(SingleInstance &instance);
     ~LumaportApp();
 
 private:
-    // What is below uses what is above, and ends before it.
+    // Each member uses those above it, and so is destroyed before them.
     std::shared_ptr<SystemAppearance> m_appearance;
     std::unique_ptr<SettingsPortal> m_portal;
     std::unique_ptr<AppModel> m_model;

@@ -14,8 +14,8 @@
 
 namespace {
 
-/// Qt's software renderer where there is no graphics processor, unless whoever starts the program says
-/// otherwise by Qt's own means.
+/// Chooses Qt's software renderer where there is no graphics processor, unless Qt's own environment variables
+/// name a renderer.
 void chooseRenderer()
 {
     if (!GraphicsHardware::isPresent() && !qEnvironmentVariableIsSet("QT_QUICK_BACKEND") &&
@@ -24,7 +24,7 @@ void chooseRenderer()
     }
 }
 
-constexpr int mostUnanswered = 3;
+constexpr int mostAttempts = 3; // to hand the files to the first process
 
 } // namespace
 
@@ -47,14 +47,13 @@ int main(int argc, char **argv)
         files.append(QUrl::fromUserInput(argument, QDir::currentPath(), QUrl::AssumeLocalFile));
     }
     SingleInstance instance(QDBusConnection::sessionBus());
-    int unanswered = 0;
+    int attempts = 0;
     while (!instance.claim()) {
         if (instance.forward(files)) {
             return 0;
         }
-        // The first process was on its way out, and this one takes its place unless another does; or it
-        // hangs.
-        if (++unanswered == mostUnanswered) {
+        // The first process is ending, so that this one or another takes its place; or it hangs.
+        if (++attempts == mostAttempts) {
             return 1;
         }
     }

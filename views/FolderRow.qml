@@ -1,29 +1,27 @@
 import QtQuick
 import Lumaport.Interaction
-import Lumaport.Views
+import Lumaport.Options
 import Lumaport.Vocabulary
 
 // The watched folder, which a click opens, and whether photos are being converted.
 Item {
     id: row
 
-    required property MainViewController controller
-
     implicitHeight: folder.implicitHeight
 
     PlainButton {
         id: folder
 
-        Accessible.name: row.controller.openFolderLabel
+        Accessible.name: qsTr("Open watched folder: %1").arg(text)
         color: LumaportPalette.muted
         font.pixelSize: 11
         font.weight: Font.Medium
-        help: row.controller.watchFolderPath
+        help: OptionsController.watchFolderPath
         objectName: "folderButton"
         symbol: "folder"
-        text: row.controller.watchFolderName
+        text: OptionsController.watchFolderName
         width: Math.min(implicitWidth, row.width - (busy.visible ? busy.width + 8 : 0))
-        onClicked: row.controller.openWatchFolder()
+        onClicked: AppModel.openWatchFolder()
 
         InteractionFeedback {
         }
@@ -39,6 +37,6 @@ Item {
         font.weight: Font.Medium
         symbol: "arrow.triangle.2.circlepath"
         text: qsTr("Converting photos")
-        visible: row.controller.isBusy
+        visible: AppModel.isBusy
     }
 }

@@ -14,8 +14,8 @@ Rectangle {
 
     readonly property real padding: compact ? 14 : 18
 
-    border.color: controller.isDropTargeted ? LumaportPalette.iris : LumaportPalette.softLine
-    border.width: controller.isDropTargeted ? 2 : 1
+    border.color: AppModel.isDropTargeted ? LumaportPalette.iris : LumaportPalette.softLine
+    border.width: AppModel.isDropTargeted ? 2 : 1
     color: LumaportPalette.panel
     implicitHeight: column.height + 2 * padding
     radius: 22
@@ -36,7 +36,6 @@ Rectangle {
         y: workspace.padding
 
         FolderRow {
-            controller: workspace.controller
             width: parent.width
         }
 
@@ -63,7 +62,7 @@ Rectangle {
                     }
                 }
 
-                onClicked: workspace.controller.choosePhotos()
+                onClicked: AppModel.choosePhotos()
 
                 InteractionFeedback {
                 }
@@ -104,7 +103,7 @@ Rectangle {
                 objectName: "chooseButton"
                 symbol: "plus"
                 text: qsTr("Choose photos manually")
-                onClicked: workspace.controller.choosePhotos()
+                onClicked: AppModel.choosePhotos()
             }
         }
 
@@ -126,7 +125,6 @@ Rectangle {
         }
 
         OutputRow {
-            controller: workspace.controller
             topPadding: 16
             width: parent.width
         }

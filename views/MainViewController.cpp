@@ -1,9 +1,7 @@
 #include "MainViewController.h"
 
 #include "AppModel.h"
-#include "ConversionItemTexts.h"
 #include "DefaultsStore.h"
-#include "OptionTexts.h"
 #include "PhotoFile.h"
 #include "PhotoLandingStageController.h"
 
@@ -12,16 +10,13 @@
 namespace {
 
 constexpr double compactBelow = 650.0;
-constexpr double reservedHeight = 460.0; ///< what stands above and below the stage
+constexpr double reservedHeight = 460.0; ///< of all that is above and below the stage
 constexpr double reservedHeightCompact = 430.0;
-constexpr double reservedForOptions = 24.0; ///< the narrower column breaks one more line
+constexpr double reservedForOptions = 24.0; ///< for one more line of text in the narrower column
 constexpr double tallestStage = 222.0;
 constexpr double lowestStage = 60.0;
 
-QString hasSeenWelcomeKey()
-{
-    return QStringLiteral("hasSeenSignatureWelcome");
-}
+constexpr QLatin1StringView hasSeenWelcomeKey("hasSeenSignatureWelcome");
 
 } // namespace
 
@@ -31,36 +26,17 @@ MainViewController::MainViewController(AppModel &model, std::shared_ptr<Defaults
     , m_model(model)
     , m_defaults(std::move(defaults))
     , m_stage(std::make_unique<PhotoLandingStageController>(model))
-    , m_hasSeenWelcome(m_defaults->boolean(hasSeenWelcomeKey()).value_or(false))
+    , m_hasSeenWelcome(m_defaults->boolean(hasSeenWelcomeKey).value_or(false))
 {
     for (const auto signal :
          {&AppModel::activeStatusChanged, &AppModel::lastEventTextChanged, &AppModel::monitorAvailableChanged,
           &AppModel::isWatchingChanged, &AppModel::isDropTargetedChanged, &AppModel::settingsChanged}) {
         connect(&model, signal, this, &MainViewController::textsChanged);
     }
-    connect(&model, &AppModel::itemsChanged, this, &MainViewController::itemsChanged);
-    connect(&model, &AppModel::watchFolderChanged, this, &MainViewController::watchFolderChanged);
-    connect(&model, &AppModel::settingsChanged, this, &MainViewController::settingsChanged);
     connect(&model, &AppModel::welcomeReplayTokenChanged, this, &MainViewController::replayWelcome);
 }
 
 MainViewController::~MainViewController() = default;
-
-void MainViewController::setOptionsVisible(bool visible)
-{
-    if (m_optionsVisible != visible) {
-        m_optionsVisible = visible;
-        Q_EMIT optionsVisibleChanged();
-    }
-}
-
-void MainViewController::setShowingHistory(bool showing)
-{
-    if (m_showingHistory != showing) {
-        m_showingHistory = showing;
-        Q_EMIT showingHistoryChanged();
-    }
-}
 
 void MainViewController::replayWelcome()
 {
@@ -71,7 +47,7 @@ void MainViewController::replayWelcome()
 void MainViewController::finishWelcome()
 {
     m_hasSeenWelcome = true;
-    m_defaults->store(hasSeenWelcomeKey(), true);
+    m_defaults->store(hasSeenWelcomeKey, true);
     m_replayingWelcome = false;
     Q_EMIT showsWelcomeChanged();
 }
@@ -123,43 +99,7 @@ QString MainViewController::workspaceDetail() const
         return tr("Resume automatic conversion, or choose photos manually.");
     }
     return tr("New HEIC photos in your watched folder become %1, automatically.")
-        .arg(m_model.settings().format == OutputFormat::jpeg ? QStringLiteral("JPEG")
-                                                             : QStringLiteral("PNG"));
-}
-
-QString MainViewController::readyText() const
-{
-    return ConversionItemTexts::readyText(m_model.readyCount());
-}
-
-bool MainViewController::isBusy() const
-{
-    return m_model.isBusy();
-}
-
-bool MainViewController::isDropTargeted() const
-{
-    return m_model.isDropTargeted();
-}
-
-QString MainViewController::watchFolderName() const
-{
-    return m_model.watchFolder().fileName();
-}
-
-QString MainViewController::watchFolderPath() const
-{
-    return m_model.watchFolder().toLocalFile();
-}
-
-QString MainViewController::openFolderLabel() const
-{
-    return tr("Open watched folder: %1").arg(watchFolderName());
-}
-
-QString MainViewController::outputLocationText() const
-{
-    return optionText(m_model.settings().outputLocation);
+        .arg(rawValue(m_model.settings().format));
 }
 
 bool MainViewController::dragEntered(const QList<QUrl> &urls)
@@ -181,14 +121,4 @@ bool MainViewController::drop(const QList<QUrl> &urls)
     m_model.setIsDropTargeted(false);
     m_model.convertManually(urls);
     return std::any_of(urls.begin(), urls.end(), isPhotoFile);
-}
-
-void MainViewController::choosePhotos()
-{
-    m_model.choosePhotos();
-}
-
-void MainViewController::openWatchFolder()
-{
-    m_model.openWatchFolder();
 }

@@ -1,13 +1,11 @@
 import QtQuick
 import Lumaport.Options
-import Lumaport.Views
 import Lumaport.Vocabulary
 
 // What photos become, and where the copies go.
 Item {
     id: row
 
-    required property MainViewController controller
     property real topPadding: 0
 
     implicitHeight: format.height + topPadding
@@ -37,6 +35,6 @@ Item {
         font.pixelSize: 11
         font.weight: Font.Medium
         symbol: "folder"
-        text: row.controller.outputLocationText
+        text: OptionsController.outputLocationText
     }
 }

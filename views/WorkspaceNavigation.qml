@@ -1,5 +1,6 @@
 import QtQuick
 import Lumaport.Drawing
+import Lumaport.Interaction
 import Lumaport.Views
 import Lumaport.Vocabulary
 
@@ -94,6 +95,6 @@ FocusScope {
         color: LumaportPalette.mint
         font.weight: Font.Medium
         size: 11
-        text: navigation.controller.readyText
+        text: qsTr("%1 ready").arg(AppModel.readyCount)
     }
 }

@@ -79,12 +79,12 @@ QList<State> states()
               [](ModelScene &scene, MainViewController &controller) {
                   fillHistory(scene);
                   scene.watch(QStringLiteral("Downloads"));
-                  controller.setOptionsVisible(true);
+                  controller.setProperty("optionsVisible", true);
               }),
         named("recent",
               [](ModelScene &scene, MainViewController &controller) {
                   fillHistory(scene);
-                  controller.setShowingHistory(true);
+                  controller.setProperty("showingHistory", true);
               }),
     };
 }

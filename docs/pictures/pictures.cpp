@@ -154,7 +154,7 @@ QImage rendered(const Picture &picture, SystemAppearance::ColorScheme scheme)
     scene.appearance.setMotion(SystemAppearance::Motion::Reduced);
     scene.appearance.setSystemScheme(scheme);
     picture.prepare(scene);
-    MenuBarViewController panel(scene.model, {.openMain = [] {}, .quit = [] {}});
+    MenuBarViewController panel(scene.model, [] {});
     scene.show(picture.content.constData(),
                {{QStringLiteral("panelController"), QVariant::fromValue(&panel)}});
     const qsizetype thumbnails = scene.find(QStringLiteral("thumbnail")) ? scene.model.items().size() : 0;

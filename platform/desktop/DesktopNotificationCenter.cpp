@@ -8,7 +8,6 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -56,11 +55,6 @@ DesktopNotificationCenter::DesktopNotificationCenter(const QDBusConnection &bus,
 }
 
 DesktopNotificationCenter::~DesktopNotificationCenter() = default;
-
-void DesktopNotificationCenter::setCategories(const QList<NotificationCategory> &categories)
-{
-    m_categories = categories;
-}
 
 void DesktopNotificationCenter::onResponse(std::function<void(const NotificationResponse &)> handler)
 {
@@ -112,13 +106,16 @@ void DesktopNotificationCenter::post(const NotificationRequest &request)
     const QVariantMap hints{
         {QStringLiteral("desktop-entry"), QStringLiteral("io.lumaport.Lumaport")},
         {QStringLiteral("category"), QStringLiteral("transfer.complete")},
+        {QStringLiteral("x-lumaport-category"), request.categoryIdentifier},
         {QStringLiteral("image-path"), QString::fromLatin1(request.image.toEncoded())},
         {QStringLiteral("urgency"), QVariant::fromValue<uchar>(1)},
         {QStringLiteral("suppress-sound"), true},
     };
-    constexpr int serviceDecides = -1;
+    // An empty title for the click on the notification itself: services draw a button for any other.
+    const QStringList actions{defaultAction, QString(), request.action.identifier, request.action.title};
+    constexpr int serviceDecides = -1; // how long it shows
     message << QStringLiteral("Lumaport") << 0U << QStringLiteral("io.lumaport.Lumaport") << request.title
-            << bodyOf(request) << actionsOf(request.categoryIdentifier) << hints << serviceDecides;
+            << bodyOf(request) << actions << hints << serviceDecides;
 
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request] {
@@ -129,22 +126,6 @@ void DesktopNotificationCenter::post(const NotificationRequest &request)
         }
         watcher->deleteLater();
     });
-}
-
-QStringList DesktopNotificationCenter::actionsOf(const QString &categoryIdentifier) const
-{
-    // An empty title for the click on the notification itself: services draw a button for any other.
-    QStringList actions{defaultAction, QString()};
-    const auto category = std::find_if(m_categories.begin(), m_categories.end(),
-                                       [&categoryIdentifier](const NotificationCategory &each) {
-                                           return each.identifier == categoryIdentifier;
-                                       });
-    if (category != m_categories.end()) {
-        for (const NotificationAction &action : category->actions) {
-            actions << action.identifier << action.title;
-        }
-    }
-    return actions;
 }
 
 QString DesktopNotificationCenter::bodyOf(const NotificationRequest &request) const
@@ -167,8 +148,7 @@ void DesktopNotificationCenter::actionInvoked(uint id, const QString &action)
 
 void DesktopNotificationCenter::activationToken(uint id, const QString &token)
 {
-    // Comes just before the action.
-    const auto shown = m_shown.find(id);
+    const auto shown = m_shown.find(id); // it comes just before the action
     if (shown != m_shown.end()) {
         shown->activationToken = token;
     }
@@ -181,7 +161,7 @@ void DesktopNotificationCenter::notificationClosed(uint id, uint /*reason*/)
 
 void DesktopNotificationCenter::forgetService()
 {
-    // The next one counts anew, and may be another program.
+    // Its numbers start again, and it may be another program.
     m_shown.clear();
     m_capabilities.reset();
 }

@@ -4,6 +4,7 @@
 
 #include <QDBusConnection>
 #include <QHash>
+#include <QList>
 #include <QObject>
 
 #include <optional>
@@ -12,8 +13,8 @@ class ArrivalChime;
 class JobScheduler;
 class ScheduledJob;
 
-/// `org.freedesktop.Notifications` (Desktop Notifications protocol, 1.2). The service plays no sound of
-/// ours, so the chime is played here, once the service has taken the notification.
+/// `org.freedesktop.Notifications` (Desktop Notifications protocol, 1.2). The service cannot play the
+/// application's sound, so it is played here, once the service has taken the notification.
 class DesktopNotificationCenter : public QObject, public NotificationCenter
 {
     Q_OBJECT
@@ -23,9 +24,7 @@ public:
                               std::shared_ptr<ArrivalChime> chime);
     ~DesktopNotificationCenter() override;
 
-    void setCategories(const QList<NotificationCategory> &categories) override;
     void onResponse(std::function<void(const NotificationResponse &)> handler) override;
-    void requestAuthorization() override {}
     void add(const NotificationRequest &request) override;
 
 private Q_SLOTS:
@@ -38,13 +37,11 @@ private:
     void postWhenCapabilitiesAreKnown(const NotificationRequest &request);
     void askForCapabilities();
     void post(const NotificationRequest &request);
-    QStringList actionsOf(const QString &categoryIdentifier) const;
     QString bodyOf(const NotificationRequest &request) const;
 
     QDBusConnection m_bus;
     std::shared_ptr<JobScheduler> m_jobs;
     std::shared_ptr<ArrivalChime> m_chime;
-    QList<NotificationCategory> m_categories;
     std::function<void(const NotificationResponse &)> m_handler;
     std::optional<QStringList> m_capabilities;
     QHash<QString, std::shared_ptr<ScheduledJob>> m_waiting; ///< by request identifier

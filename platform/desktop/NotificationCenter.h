@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QList>
 #include <QString>
 #include <QUrl>
 #include <QVariantMap>
@@ -9,17 +8,11 @@
 #include <functional>
 #include <memory>
 
+/// A button of a notification.
 struct NotificationAction
 {
     QString identifier;
     QString title;
-};
-
-/// Notifications of one category carry the same buttons.
-struct NotificationCategory
-{
-    QString identifier;
-    QList<NotificationAction> actions;
 };
 
 struct NotificationRequest
@@ -28,7 +21,8 @@ struct NotificationRequest
     QString title;
     QString subtitle;
     QString body;
-    QString categoryIdentifier;
+    QString categoryIdentifier; ///< for rules that the user gives the notification service
+    NotificationAction action;
     QVariantMap payload; ///< comes back with the response
     QString soundName;   ///< a sound file shipped with the application
     QUrl image;          ///< a picture for the notification, where the desktop shows one
@@ -51,12 +45,8 @@ public:
 
     virtual ~NotificationCenter() = default;
 
-    virtual void setCategories(const QList<NotificationCategory> &categories) = 0;
     /// `handler` is called on the main thread.
     virtual void onResponse(std::function<void(const NotificationResponse &)> handler) = 0;
-    /// Asks the user to allow alerts and sounds, where the desktop has such a question. This desktop has
-    /// none.
-    virtual void requestAuthorization() = 0;
     virtual void add(const NotificationRequest &request) = 0;
 
     static std::shared_ptr<NotificationCenter> create();

@@ -1,6 +1,6 @@
 #include "ScratchFile.h"
 
-#include "FileOperations.h"
+#include "SystemCalls.h"
 
 #include <QDir>
 #include <QFile>
@@ -15,21 +15,21 @@ namespace {
 
 FileDescriptor openUnnamed(const QString &folder)
 {
-    constexpr mode_t asAllowed = 0666; // less what the user's mask takes away
+    constexpr mode_t mode = 0666; // less what the user's mask takes away
     return FileDescriptor(
-        ::open(QFile::encodeName(folder).constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, asAllowed));
+        ::open(QFile::encodeName(folder).constData(), O_TMPFILE | O_RDWR | O_CLOEXEC, mode));
 }
 
 std::error_code flush(const FileDescriptor &file)
 {
-    return ::fdatasync(file.number()) == 0 ? std::error_code() : FileOperations::lastError();
+    return ::fdatasync(file.number()) == 0 ? std::error_code() : SystemCalls::lastError();
 }
 
 std::error_code giveName(const FileDescriptor &file, const QByteArray &path)
 {
     const QByteArray self = "/proc/self/fd/" + QByteArray::number(file.number());
     const int linked = ::linkat(AT_FDCWD, self.constData(), AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW);
-    return linked == 0 ? std::error_code() : FileOperations::lastError();
+    return linked == 0 ? std::error_code() : SystemCalls::lastError();
 }
 
 bool bearsName(const FileDescriptor &file, const QByteArray &path)
@@ -40,19 +40,19 @@ bool bearsName(const FileDescriptor &file, const QByteArray &path)
            opened.st_dev == named.st_dev && opened.st_ino == named.st_ino;
 }
 
-/// A hidden file for the while of copying. What an end of the process left under this name is taken over.
+/// A hidden file to copy into. One that an earlier process left under this name is used again.
 tl::expected<FileDescriptor, std::error_code> openPart(const QByteArray &path)
 {
     FileDescriptor part;
     do {
         part = FileDescriptor(::open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0666));
         if (!part.isOpen() || ::flock(part.number(), LOCK_EX | LOCK_NB) != 0) {
-            return tl::unexpected(FileOperations::lastError());
+            return tl::unexpected(SystemCalls::lastError());
         }
         // Before the lock was taken, another process may have finished this very file and renamed it.
     } while (!bearsName(part, path));
     if (::ftruncate(part.number(), 0) != 0) {
-        return tl::unexpected(FileOperations::lastError());
+        return tl::unexpected(SystemCalls::lastError());
     }
     return part;
 }
@@ -65,12 +65,12 @@ std::error_code placeThroughPart(const FileDescriptor &content, const QByteArray
     if (!part) {
         return part.error();
     }
-    auto error = FileOperations::copyContents(content.number(), part->number());
+    auto error = SystemCalls::copyContents(content.number(), part->number());
     if (!error) {
         error = flush(*part);
     }
     if (!error) {
-        error = FileOperations::renameWithoutReplacing(partPath, path);
+        error = SystemCalls::renameWithoutReplacing(partPath, path);
     }
     if (error) {
         ::unlink(partPath.constData());
@@ -91,7 +91,7 @@ tl::expected<ScratchFile, std::error_code> ScratchFile::create(const QString &fo
         file = openUnnamed(QDir::tempPath());
     }
     if (!file.isOpen()) {
-        return tl::unexpected(FileOperations::lastError());
+        return tl::unexpected(SystemCalls::lastError());
     }
     return ScratchFile(std::move(file));
 }
@@ -109,8 +109,7 @@ std::error_code ScratchFile::placeAs(const QString &path) const
     // Another file system, or one that cannot link: the content has to be copied there.
     const QString folder = QFileInfo(path).path();
     const FileDescriptor copy = openUnnamed(folder);
-    if (copy.isOpen() && !FileOperations::copyContents(m_descriptor.number(), copy.number()) &&
-        !flush(copy)) {
+    if (copy.isOpen() && !SystemCalls::copyContents(m_descriptor.number(), copy.number()) && !flush(copy)) {
         const auto linkError = giveName(copy, target);
         if (!linkError || linkError == std::errc::file_exists) {
             return linkError;

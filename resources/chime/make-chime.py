@@ -11,16 +11,16 @@ import wave
 
 RATE = 48_000  # samples a second
 LENGTH = 0.92  # seconds
-PEAK = 0.5  # of full scale, -6 dB: a chime, not an alarm
+PEAK = 0.5  # of full scale (-6 dB)
 
 # Start in seconds, frequency in hertz, loudness: D5, then A5, in equal temperament (A4 = 440 Hz).
 TONES = [(0.0, 587.33, 0.8), (0.11, 880.0, 1.0)]
 
-# A struck bar: ratio to the lowest partial, loudness, and how fast it dies (seconds to 1/e). The higher partials die first,
-# which is what makes it sound warm.
+# The partials of a struck bar: ratio to the lowest frequency, loudness, seconds to 1/e. The higher ones decay faster, for a
+# softer sound.
 PARTIALS = [(1.0, 1.0, 0.26), (2.0, 0.28, 0.17), (3.0, 0.10, 0.09), (4.16, 0.05, 0.05)]
 
-ATTACK = 0.006  # seconds; without it the strike clicks
+ATTACK = 0.006  # seconds; without it each tone starts with a click
 FADE = 0.12  # seconds to silence at the end
 
 

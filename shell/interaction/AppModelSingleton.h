@@ -5,8 +5,8 @@
 #include <QJSEngine>
 #include <QtQml/qqml.h>
 
-/// Shows the program's one AppModel to QML, as the singleton `AppModel`. Whoever owns it provides it before
-/// the first QML file is loaded, and keeps it for as long as an engine lives.
+/// Makes the program's one AppModel the QML singleton `AppModel`. Its owner provides it before the first QML
+/// file is loaded, and keeps it until the last engine has ended.
 struct AppModelSingleton
 {
     Q_GADGET

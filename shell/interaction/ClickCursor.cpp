@@ -2,18 +2,12 @@
 
 #include <QCursor>
 
-void ClickCursor::componentComplete()
+ClickCursor::ClickCursor(QQuickItem *parent)
+    : QQuickItem(parent)
 {
-    QQuickItem::componentComplete();
+    connect(this, &QQuickItem::enabledChanged, this, &ClickCursor::updateCursor);
+    connect(this, &QQuickItem::visibleChanged, this, &ClickCursor::updateCursor);
     updateCursor();
-}
-
-void ClickCursor::itemChange(ItemChange change, const ItemChangeData &data)
-{
-    QQuickItem::itemChange(change, data);
-    if (change == ItemEnabledHasChanged || change == ItemVisibleHasChanged) {
-        updateCursor();
-    }
 }
 
 void ClickCursor::updateCursor()

@@ -4,11 +4,10 @@
 #include <QtQml/qqmlregistration.h>
 
 /**
- * Shows the pointing hand over its bounds while it is enabled and visible, and takes it back the moment it is
- * not: a hand is never left behind. It takes no mouse events.
+ * Shows the pointing hand over its bounds while it is enabled and visible, and takes no mouse events.
  *
- * A pointer handler's cursor would stay until the pointer moves when its control is disabled or hidden under
- * it.
+ * The cursor of a pointer handler would stay until the pointer moves when its control is disabled or hidden
+ * under it.
  */
 class ClickCursor : public QQuickItem
 {
@@ -16,11 +15,7 @@ class ClickCursor : public QQuickItem
     QML_ELEMENT
 
 public:
-    using QQuickItem::QQuickItem;
-
-protected:
-    void componentComplete() override;
-    void itemChange(ItemChange change, const ItemChangeData &data) override;
+    explicit ClickCursor(QQuickItem *parent = nullptr);
 
 private:
     void updateCursor();

@@ -2,8 +2,8 @@ import QtQuick
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
-// Makes the control it lies in feel alive: a soft highlight under the pointer and the hand cursor, both only while the
-// control is enabled. Clicks pass through to the control.
+// A soft highlight and the hand cursor while the pointer is over the control around it, both only while that control is
+// enabled. Clicks pass through to the control.
 Item {
     id: feedback
 

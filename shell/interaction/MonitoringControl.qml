@@ -2,11 +2,11 @@ import QtQuick
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
-// The card of the watching state: what is watched, and one button to pause, resume or retry.
+// The card that shows the state of watching, with one button to pause, resume or retry.
 Item {
     id: card
 
-    readonly property color accent: controller.automatic ? LumaportPalette.mint : LumaportPalette.photon
+    readonly property color accent: MonitoringControlController.automatic ? LumaportPalette.mint : LumaportPalette.photon
     readonly property real padding: 13
     readonly property real spacing: 12
 
@@ -14,12 +14,6 @@ Item {
     Accessible.role: Accessible.Grouping
     implicitHeight: Math.max(badge.height, texts.implicitHeight, button.implicitHeight) + 2 * padding
     implicitWidth: 360
-
-    MonitoringControlController {
-        id: controller
-
-        model: AppModel
-    }
 
     Rectangle {
         anchors.fill: parent
@@ -87,7 +81,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         color: card.accent
         objectName: "monitoringButton"
-        text: controller.buttonTitle
-        onClicked: controller.act()
+        text: MonitoringControlController.buttonTitle
+        onClicked: MonitoringControlController.act()
     }
 }

@@ -1,38 +1,38 @@
 #include "MonitoringControlController.h"
 
-void MonitoringControlController::setModel(AppModel *model)
+#include "AppModelSingleton.h"
+
+MonitoringControlController::MonitoringControlController(AppModel &model, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
 {
-    if (m_model == model) {
-        return;
-    }
-    if (m_model) {
-        m_model->disconnect(this);
-    }
-    m_model = model;
-    connect(model, &AppModel::isWatchingChanged, this, &MonitoringControlController::stateChanged);
-    connect(model, &AppModel::monitorAvailableChanged, this, &MonitoringControlController::stateChanged);
-    Q_EMIT modelChanged();
-    Q_EMIT stateChanged();
+    connect(&model, &AppModel::isWatchingChanged, this, &MonitoringControlController::changed);
+    connect(&model, &AppModel::monitorAvailableChanged, this, &MonitoringControlController::changed);
+}
+
+MonitoringControlController *MonitoringControlController::create(QQmlEngine *engine, QJSEngine *scriptEngine)
+{
+    return new MonitoringControlController(*AppModelSingleton::create(engine, scriptEngine));
 }
 
 bool MonitoringControlController::isAutomatic() const
 {
-    return m_model && m_model->monitorAvailable() && m_model->isWatching();
+    return m_model.monitorAvailable() && m_model.isWatching();
 }
 
 QString MonitoringControlController::buttonTitle() const
 {
-    if (m_model && !m_model->monitorAvailable()) {
+    if (!m_model.monitorAvailable()) {
         return tr("Retry");
     }
-    return isAutomatic() ? tr("Pause") : tr("Resume");
+    return m_model.isWatching() ? tr("Pause") : tr("Resume");
 }
 
 void MonitoringControlController::act()
 {
-    if (m_model->monitorAvailable()) {
-        m_model->setIsWatching(!m_model->isWatching());
+    if (m_model.monitorAvailable()) {
+        m_model.setIsWatching(!m_model.isWatching());
     } else {
-        m_model->retryMonitoring();
+        m_model.retryMonitoring();
     }
 }

@@ -1,38 +1,38 @@
 #pragma once
 
-#include "AppModel.h"
-
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
-/// What the card of the watching state shows beyond the model's own texts, and what its button does.
+class AppModel;
+class QJSEngine;
+class QQmlEngine;
+
+/// What the monitoring control shows beyond the model's own texts, and what its button does.
 class MonitoringControlController : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(AppModel *model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
-    Q_PROPERTY(bool automatic READ isAutomatic NOTIFY stateChanged)
-    Q_PROPERTY(QString buttonTitle READ buttonTitle NOTIFY stateChanged)
+    QML_SINGLETON
+    Q_PROPERTY(bool automatic READ isAutomatic NOTIFY changed)
+    Q_PROPERTY(QString buttonTitle READ buttonTitle NOTIFY changed)
 
 public:
-    using QObject::QObject;
+    /// `model` must outlive the controller.
+    explicit MonitoringControlController(AppModel &model, QObject *parent = nullptr);
+    static MonitoringControlController *create(QQmlEngine *engine, QJSEngine *scriptEngine);
 
-    AppModel *model() const { return m_model; }
-    void setModel(AppModel *model);
-
-    /// New arrivals are converted by themselves: the folder can be watched, and is.
+    /// New arrivals are converted: the folder can be watched, and watching is on.
     bool isAutomatic() const;
     /// "Pause", "Resume" or "Retry", in the user's language.
     QString buttonTitle() const;
 
-    /// What the button says.
+    /// Does what the button's title says.
     Q_INVOKABLE void act();
 
 Q_SIGNALS:
-    void modelChanged();
-    void stateChanged();
+    void changed();
 
 private:
-    AppModel *m_model = nullptr;
+    AppModel &m_model;
 };

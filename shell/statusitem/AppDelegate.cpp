@@ -7,7 +7,6 @@
 #include "PanelWindow.h"
 #include "StatusItem.h"
 #include "StatusMenu.h"
-#include "TemplateImages.h"
 
 #include <QGuiApplication>
 
@@ -25,7 +24,7 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::applicationDidFinishLaunching(NotificationManager &notifications)
 {
     QGuiApplication::setQuitOnLastWindowClosed(applicationShouldTerminateAfterLastWindowClosed());
-    notifications.configure(NotificationManager::Authorization::leave);
+    notifications.configure();
 }
 
 void AppDelegate::configureMenuBar(AppModel &model, std::function<void()> openMain)
@@ -35,41 +34,30 @@ void AppDelegate::configureMenuBar(AppModel &model, std::function<void()> openMa
     }
     m_openMainWindow = std::move(openMain);
     m_statusItem = m_makeStatusItem();
-    m_panelController = std::make_unique<MenuBarViewController>(
-        model, MenuBarViewController::Actions{.openMain = [this] { openMainFromPanel(); },
-                                              .quit = &QCoreApplication::quit});
+    m_panelController = std::make_unique<MenuBarViewController>(model, [this] { openMainFromPanel(); });
     m_popover = std::make_unique<PanelWindow>(m_engine, *m_panelController, m_jobs);
     connect(m_statusItem.get(), &StatusItem::activated, this,
             [this] { m_popover->toggleByClick(m_statusItem->place()); });
 
     updateMenuIcon(model);
-    updateMenu(model);
-    for (const auto signal : {&AppModel::itemsChanged, &AppModel::monitorTextsChanged}) {
-        connect(&model, signal, this, [this, &model] { updateMenuIcon(model); });
-    }
     for (const auto signal :
          {&AppModel::itemsChanged, &AppModel::monitorTextsChanged, &AppModel::settingsChanged}) {
-        connect(&model, signal, this, [this, &model] { updateMenu(model); });
+        connect(&model, signal, this, [this, &model] { updateMenuIcon(model); });
     }
 }
 
-void AppDelegate::updateMenuIcon(const AppModel &model)
+void AppDelegate::updateMenuIcon(AppModel &model)
 {
     const MenuIcon icon = MenuIcon::forModel(model);
     if (icon != m_icon) {
         m_icon = icon;
-        m_statusItem->setLook({.images = TemplateImages::forSymbol(icon.symbol),
+        m_statusItem->setLook({.images = icon.images(),
                                .toolTip = icon.toolTip,
                                .accessibilityLabel = icon.accessibilityLabel});
     }
-}
-
-void AppDelegate::updateMenu(AppModel &model)
-{
-    const auto menu = StatusMenu::entries(model, {.showQuickPanel = [this] { togglePopover(); },
-                                                  .openMain = [this] { openMainFromPanel(); },
-                                                  .quit = &QCoreApplication::quit});
-    // It may be open: it is touched only for what shows.
+    const auto menu = StatusMenu::entries(
+        model, {.showQuickPanel = [this] { togglePopover(); }, .openMain = [this] { openMainFromPanel(); }});
+    // The menu may be open: it is replaced only when it looks different.
     if (!std::ranges::equal(menu, m_menu, &StatusMenuEntry::looksLike)) {
         m_menu = menu;
         m_statusItem->setMenu(menu);
@@ -78,7 +66,7 @@ void AppDelegate::updateMenu(AppModel &model)
 
 void AppDelegate::openMainFromPanel()
 {
-    m_popover->dismiss();
+    m_popover->hide();
     m_openMainWindow();
 }
 

@@ -27,7 +27,7 @@ public:
     AppDelegate(QQmlEngine &engine, std::shared_ptr<JobScheduler> jobs, StatusItemMaker makeStatusItem);
     ~AppDelegate() override;
 
-    /// Launch-time set-up.
+    /// Sets up what does not need the model.
     static void applicationDidFinishLaunching(NotificationManager &notifications);
     /// Closing the main window leaves the application running with its status item.
     static bool applicationShouldTerminateAfterLastWindowClosed() { return false; }
@@ -43,8 +43,8 @@ public:
     void replayWelcome(AppModel &model) const;
 
 private:
-    void updateMenuIcon(const AppModel &model);
-    void updateMenu(AppModel &model);
+    /// Brings the icon, its texts and the menu in step with the model.
+    void updateMenuIcon(AppModel &model);
     void openMainFromPanel();
 
     QQmlEngine &m_engine;

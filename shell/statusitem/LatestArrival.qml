@@ -3,7 +3,7 @@ import Lumaport.History
 import Lumaport.StatusItem
 import Lumaport.Vocabulary
 
-// The newest entry of the history: its picture, its name, how far it is, and its file once there is one.
+// The newest entry of the history: its thumbnail, its name, its status, and a button that reveals its converted file.
 Rectangle {
     id: row
 

@@ -4,18 +4,18 @@ import Lumaport.Options
 import Lumaport.StatusItem
 import Lumaport.Vocabulary
 
-// The status item's panel: is conversion on, what arrived last, and the few things one does without the main window.
+// The status item's panel: the state of watching, the latest arrival, and the actions that need no main window.
 Rectangle {
     id: view
 
     required property MenuBarViewController controller
 
     readonly property int padding: 18
-    readonly property int spacing: 12 // at least, between what stands side by side
+    readonly property int spacing: 12 // least distance between items side by side
 
     Accessible.name: qsTr("Lumaport")
     Accessible.role: Accessible.Pane
-    border.color: LumaportPalette.softLine // it may stand on a window of the same colour
+    border.color: LumaportPalette.softLine // the window behind may have the same colour
     border.width: 1
     color: LumaportPalette.panel
     implicitHeight: rows.implicitHeight + 2 * padding

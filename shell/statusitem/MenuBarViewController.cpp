@@ -3,12 +3,19 @@
 #include "AppModel.h"
 #include "ConversionItemTexts.h"
 
-MenuBarViewController::MenuBarViewController(AppModel &model, Actions actions, QObject *parent)
+#include <QCoreApplication>
+
+MenuBarViewController::MenuBarViewController(AppModel &model, std::function<void()> openMain, QObject *parent)
     : QObject(parent)
     , m_model(model)
-    , m_actions(std::move(actions))
+    , m_openMain(std::move(openMain))
 {
     connect(&model, &AppModel::itemsChanged, this, &MenuBarViewController::arrivalChanged);
+}
+
+ConversionItem MenuBarViewController::arrival() const
+{
+    return m_model.items().value(0);
 }
 
 bool MenuBarViewController::hasArrival() const
@@ -18,28 +25,30 @@ bool MenuBarViewController::hasArrival() const
 
 QString MenuBarViewController::arrivalName() const
 {
-    return hasArrival() ? ConversionItemTexts::displayName(m_model.items().constFirst()) : QString();
+    return ConversionItemTexts::displayName(arrival());
 }
 
 QString MenuBarViewController::arrivalStatus() const
 {
-    return hasArrival() ? ConversionItemTexts::statusText(m_model.items().constFirst(), tr("Needs attention"))
-                        : QString();
+    return ConversionItemTexts::statusText(arrival(), tr("Needs attention"));
 }
 
 QUrl MenuBarViewController::arrivalFile() const
 {
-    return hasArrival() ? ConversionItemTexts::displayFile(m_model.items().constFirst()) : QUrl();
+    return ConversionItemTexts::displayFile(arrival());
 }
 
 bool MenuBarViewController::canReveal() const
 {
-    return hasArrival() && m_model.items().constFirst().status == ConversionStatus::ready;
+    return arrival().status == ConversionStatus::ready;
 }
 
 void MenuBarViewController::reveal()
 {
-    if (hasArrival()) {
-        m_model.reveal(m_model.items().constFirst());
-    }
+    m_model.reveal(arrival());
+}
+
+void MenuBarViewController::quit()
+{
+    QCoreApplication::quit();
 }

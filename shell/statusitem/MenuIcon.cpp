@@ -1,8 +1,7 @@
 #include "MenuIcon.h"
 
 #include "AppModel.h"
-
-#include <QCoreApplication>
+#include "Symbol.h"
 
 namespace {
 
@@ -22,10 +21,17 @@ QString symbolFor(const AppModel &model)
 MenuIcon MenuIcon::forModel(const AppModel &model)
 {
     const QString title = model.monitorTitle();
-    const QString toolTip = model.isBusy()
-                                ? QCoreApplication::translate("MenuIcon", "Lumaport: %1. Converting photos.")
-                                : QCoreApplication::translate("MenuIcon", "Lumaport: %1");
+    const QString toolTip = model.isBusy() ? tr("Lumaport: %1. Converting photos.") : tr("Lumaport: %1");
     return {.symbol = symbolFor(model),
             .toolTip = toolTip.arg(title),
-            .accessibilityLabel = QCoreApplication::translate("MenuIcon", "Lumaport, %1").arg(title)};
+            .accessibilityLabel = tr("Lumaport, %1").arg(title)};
+}
+
+QList<QImage> MenuIcon::images() const
+{
+    QList<QImage> images;
+    for (const int size : {16, 22, 24, 32, 48, 64}) {
+        images.append(Symbol::image(symbol, tint, size));
+    }
+    return images;
 }

@@ -15,9 +15,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// Longer than a busy desktop takes to pass a click on.
+// Longer than a busy desktop takes to deliver a click.
 constexpr auto sameClick = 1s;
-// A host may say of an item only where it was clicked.
+// Some hosts tell only where the item was clicked, not where it is.
 constexpr QMargins aroundItem{12, 12, 12, 12};
 
 } // namespace
@@ -29,7 +29,7 @@ PanelWindow::PanelWindow(QQmlEngine &engine, MenuBarViewController &controller,
 {
     setTitle(QStringLiteral("Lumaport Quick Panel"));
     setObjectName(QStringLiteral("panel"));
-    // A popup window would not close on a click outside the application; a tool window is told of the focus.
+    // A popup window would not close on a click outside of the application. A tool window loses the focus.
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     setResizeMode(QQuickView::SizeViewToRootObject);
     setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
@@ -43,7 +43,7 @@ PanelWindow::~PanelWindow() = default;
 void PanelWindow::toggle(const std::optional<QRect> &item)
 {
     if (isVisible()) {
-        dismiss();
+        hide();
     } else {
         open(item);
     }
@@ -67,11 +67,6 @@ void PanelWindow::open(const std::optional<QRect> &item)
     requestActivate();
 }
 
-void PanelWindow::dismiss()
-{
-    hide();
-}
-
 void PanelWindow::moveToPlace()
 {
     const QScreen *target = m_item ? QGuiApplication::screenAt(m_item->center()) : nullptr;
@@ -92,7 +87,7 @@ void PanelWindow::followFocus(const QWindow *focus)
     if (focus == this) {
         m_hadFocus = true;
     } else if (m_hadFocus) {
-        // On its way here the focus may pass through nothing; from here on it has gone elsewhere.
+        // Before its first focus the panel stays open, because until then no window may have the focus.
         hide();
         if (mayBeOnItem(QCursor::pos())) {
             m_justLostFocus = m_jobs->after(sameClick, [this] { m_justLostFocus.reset(); });
@@ -108,7 +103,7 @@ bool PanelWindow::mayBeOnItem(const QPoint &pointer) const
 void PanelWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape) {
-        dismiss();
+        hide();
     } else {
         QQuickView::keyPressEvent(event);
     }

@@ -9,8 +9,8 @@ class JobScheduler;
 class MenuBarViewController;
 class ScheduledJob;
 
-/// The window of the status item's panel: as large as its view, without a frame, above the others. It closes
-/// when the user clicks elsewhere, presses Escape or asks again.
+/// The window of the status item's panel: frameless, as large as its view, above other windows. It closes
+/// when the user clicks elsewhere, presses Escape, or asks for the panel again.
 class PanelWindow : public QQuickView
 {
     Q_OBJECT
@@ -22,10 +22,9 @@ public:
 
     /// Opens the panel at the status item's place, or closes it.
     void toggle(const std::optional<QRect> &item);
-    /// Does so for a click on the status item. When that same click has just closed the panel, by taking the
-    /// focus from it, it does not open it again.
+    /// The same for a click on the status item. A click that has just closed the panel, by taking the focus
+    /// from it, does not open it again.
     void toggleByClick(const std::optional<QRect> &item);
-    void dismiss();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -1,7 +1,7 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// A button that stands out: filled with the accent colour.
+// A button filled with the accent colour.
 PlainButton {
     id: control
 

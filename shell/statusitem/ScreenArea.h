@@ -2,6 +2,14 @@
 
 #include <QRect>
 
-/// `frame` moved inside `area` with the size it has; where it is larger than that, from the area's top left
-/// on.
-QRect movedInto(const QRect &area, QRect frame);
+#include <algorithm>
+
+/// `frame`, moved inside `area` with the size it has. One that is larger than `area` starts at its top left.
+inline QRect movedInto(const QRect &area, QRect frame)
+{
+    const int lastX = area.right() - frame.width() + 1;
+    const int lastY = area.bottom() - frame.height() + 1;
+    frame.moveTo(std::max(area.left(), std::min(lastX, frame.x())),
+                 std::max(area.top(), std::min(lastY, frame.y())));
+    return frame;
+}

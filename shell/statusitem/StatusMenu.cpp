@@ -1,51 +1,33 @@
 #include "StatusMenu.h"
 
 #include "AppModel.h"
-#include "WatchingCommand.h"
-
-#include <QCoreApplication>
 
 namespace {
 
-QString text(const char *key)
-{
-    return QCoreApplication::translate("StatusMenu", key);
-}
+const StatusMenuEntry separator{.kind = StatusMenuEntry::Kind::separator};
 
-StatusMenuEntry command(const char *title, std::function<void()> action)
+StatusMenuEntry command(const QString &title, std::function<void()> action)
 {
-    return {.title = text(title), .isChecked = {}, .action = std::move(action)};
-}
-
-StatusMenuEntry separator()
-{
-    return {.kind = StatusMenuEntry::Kind::separator, .title = {}, .isChecked = {}, .action = {}};
+    return {.title = title, .action = std::move(action)};
 }
 
 StatusMenuEntry monitoring(AppModel &model)
 {
     if (!model.monitorAvailable()) {
-        return command(QT_TRANSLATE_NOOP("StatusMenu", "Retry"), [&model] { model.retryMonitoring(); });
+        return command(StatusMenu::tr("Retry"), [&model] { model.retryMonitoring(); });
     }
-    return {.title = WatchingCommand::title(model), .isChecked = {}, .action = [&model] {
-                WatchingCommand::perform(model);
-            }};
+    return command(StatusMenu::watchingTitle(model), [&model] { model.setIsWatching(!model.isWatching()); });
 }
 
 StatusMenuEntry revealing(AppModel &model)
 {
-    const QList<ConversionItem> items = model.items();
-    const bool isReady = !items.isEmpty() && items.constFirst().status == ConversionStatus::ready;
-    StatusMenuEntry entry = command(QT_TRANSLATE_NOOP("StatusMenu", "Reveal in Finder"), [&model] {
-        if (!model.items().isEmpty()) {
-            model.reveal(model.items().constFirst());
-        }
-    });
-    entry.isEnabled = isReady;
+    StatusMenuEntry entry =
+        command(StatusMenu::tr("Reveal in Finder"), [&model] { model.reveal(model.items().value(0)); });
+    entry.isEnabled = model.items().value(0).status == ConversionStatus::ready;
     return entry;
 }
 
-StatusMenuEntry format(AppModel &model, OutputFormat choice, const char *title)
+StatusMenuEntry format(AppModel &model, OutputFormat choice, const QString &title)
 {
     StatusMenuEntry entry = command(title, [&model, choice] {
         ConversionSettings settings = model.settings();
@@ -60,17 +42,21 @@ StatusMenuEntry format(AppModel &model, OutputFormat choice, const char *title)
 
 QList<StatusMenuEntry> StatusMenu::entries(AppModel &model, const Actions &actions)
 {
-    StatusMenuEntry state{.title = model.monitorTitle(), .isEnabled = false, .isChecked = {}, .action = {}};
     return {
-        std::move(state),
+        {.title = model.monitorTitle(), .isEnabled = false},
         monitoring(model),
         revealing(model),
-        separator(),
-        format(model, OutputFormat::png, QT_TRANSLATE_NOOP("StatusMenu", "Convert to PNG")),
-        format(model, OutputFormat::jpeg, QT_TRANSLATE_NOOP("StatusMenu", "Convert to JPEG")),
-        separator(),
-        command(QT_TRANSLATE_NOOP("StatusMenu", "Show Quick Panel"), actions.showQuickPanel),
-        command(QT_TRANSLATE_NOOP("StatusMenu", "Open Lumaport"), actions.openMain),
-        command(QT_TRANSLATE_NOOP("StatusMenu", "Quit Lumaport"), actions.quit),
+        separator,
+        format(model, OutputFormat::png, tr("Convert to PNG")),
+        format(model, OutputFormat::jpeg, tr("Convert to JPEG")),
+        separator,
+        command(tr("Show Quick Panel"), actions.showQuickPanel),
+        command(tr("Open Lumaport"), actions.openMain),
+        command(tr("Quit Lumaport"), &QCoreApplication::quit),
     };
+}
+
+QString StatusMenu::watchingTitle(const AppModel &model)
+{
+    return model.isWatching() ? tr("Pause Watching") : tr("Resume Watching");
 }

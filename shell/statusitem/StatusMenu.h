@@ -2,20 +2,26 @@
 
 #include "StatusItem.h"
 
+#include <QCoreApplication>
+
 class AppModel;
 
 /// The status item's own menu. It offers what the panel does, for desktops that show only menus.
-namespace StatusMenu {
-
-/// What a menu asks of the shell.
-struct Actions
+struct StatusMenu
 {
-    std::function<void()> showQuickPanel;
-    std::function<void()> openMain;
-    std::function<void()> quit;
+    Q_DECLARE_TR_FUNCTIONS(StatusMenu)
+
+public:
+    /// What the menu's commands do outside of the model.
+    struct Actions
+    {
+        std::function<void()> showQuickPanel;
+        std::function<void()> openMain;
+    };
+
+    /// The entries for the model's present state. Their actions use `model` when they are called.
+    static QList<StatusMenuEntry> entries(AppModel &model, const Actions &actions);
+
+    /// The title of the command that pauses or resumes watching.
+    static QString watchingTitle(const AppModel &model);
 };
-
-/// The entries for the model's present state. Their actions use `model` when they are called.
-QList<StatusMenuEntry> entries(AppModel &model, const Actions &actions);
-
-} // namespace StatusMenu

@@ -46,16 +46,8 @@ void FirstLaunchSequence::setReduceMotion(bool reduce)
     if (m_reduceMotion != reduce) {
         m_reduceMotion = reduce;
         if (reduce) {
-            m_elapsed = end; // and there it stays: what has come to rest does not start again
+            m_elapsed = end; // also when motion is allowed again later: nothing starts a second time
         }
-        Q_EMIT changed();
-    }
-}
-
-void FirstLaunchSequence::setElapsed(double seconds)
-{
-    if (m_elapsed != seconds) {
-        m_elapsed = seconds;
         Q_EMIT changed();
     }
 }

@@ -3,15 +3,15 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
-/// How the welcome looks at each moment: the signature is wiped in, the title and the button come, a shimmer
-/// sweeps over the signature. Time is handed in; once motion is to be reduced, everything is in its
-/// place at once and nothing shimmers.
+/// How the welcome looks at each moment: the signature is wiped in, the title and the button appear, and a
+/// shimmer sweeps over the signature. Its owner moves `elapsed` on. With reduced motion everything is in its
+/// place at once and there is no shimmer.
 class FirstLaunchSequence : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(bool reduceMotion READ reduceMotion WRITE setReduceMotion NOTIFY changed)
-    Q_PROPERTY(double elapsed READ elapsed WRITE setElapsed NOTIFY changed)
+    Q_PROPERTY(bool reduceMotion MEMBER m_reduceMotion WRITE setReduceMotion NOTIFY changed)
+    Q_PROPERTY(double elapsed MEMBER m_elapsed NOTIFY changed)
     Q_PROPERTY(bool running READ isRunning NOTIFY changed)
     Q_PROPERTY(double revealProgress READ revealProgress NOTIFY changed)
     Q_PROPERTY(double artworkScale READ artworkScale NOTIFY changed)
@@ -23,23 +23,18 @@ class FirstLaunchSequence : public QObject
 public:
     using QObject::QObject;
 
-    bool reduceMotion() const { return m_reduceMotion; }
     void setReduceMotion(bool reduce);
-    /// Seconds since the welcome was shown.
-    double elapsed() const { return m_elapsed; }
-    void setElapsed(double seconds);
-    Q_INVOKABLE void advance(double seconds) { setElapsed(m_elapsed + seconds); }
     /// Something still moves.
     bool isRunning() const;
 
-    /// How much of the signature shows, from its leading edge: 0 to 1.
+    /// The share of the signature that shows, from its leading edge: 0 to 1.
     double revealProgress() const;
     double artworkScale() const;
     /// 0: the shimmer has not begun; 1: it has left the signature.
     double shimmerProgress() const;
     /// The title is shown and the button may be pressed.
     bool isTitleVisible() const;
-    /// How far title and button have come up: 0 to 1.
+    /// 0: transparent and below its place; 1: opaque and in its place.
     double titleProgress() const;
     double buttonProgress() const;
 
@@ -48,5 +43,5 @@ Q_SIGNALS:
 
 private:
     bool m_reduceMotion = false;
-    double m_elapsed = 0.0;
+    double m_elapsed = 0.0; ///< seconds since the welcome was shown
 };

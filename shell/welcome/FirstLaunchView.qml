@@ -3,8 +3,8 @@ import Lumaport.Interaction
 import Lumaport.Vocabulary
 import Lumaport.Welcome
 
-// The welcome itself: the signature, the title and the button that ends it. It is white on whatever lies behind it; a
-// dark backdrop of its own is there for where nothing can show through.
+// The welcome: the signature, the title and the button that ends it. All is white, in front of what is behind the window
+// or, with `backdrop`, of a dark ground.
 Item {
     id: view
 
@@ -23,7 +23,7 @@ Item {
 
     FrameAnimation {
         running: view.playing && view.visible && sequence.running
-        onTriggered: sequence.advance(frameTime)
+        onTriggered: sequence.elapsed += frameTime
     }
 
     Shortcut {
@@ -32,7 +32,7 @@ Item {
         onActivated: view.finished()
     }
 
-    // Whatever the appearance: the texts above are always white.
+    // Dark in both appearances, because the texts are always white. Nothing behind it hears the pointer.
     Rectangle {
         anchors.fill: parent
         visible: view.backdrop

@@ -1,6 +1,5 @@
 #include "PresentationView.h"
 
-#include "FilledItem.h"
 #include "WelcomePanel.h"
 #include "WindowBlending.h"
 
@@ -9,20 +8,13 @@
 
 PresentationView::PresentationView(QQuickItem *parent)
     : QQuickItem(parent)
-{}
+{
+    connect(this, &PresentationView::isPresentingChanged, this, &PresentationView::schedulePresentation);
+}
 
 PresentationView::~PresentationView()
 {
     dismiss(MainWindowAfterwards::LeftInPlace);
-}
-
-void PresentationView::setIsPresenting(bool presenting)
-{
-    if (m_isPresenting != presenting) {
-        m_isPresenting = presenting;
-        Q_EMIT isPresentingChanged();
-        schedulePresentation();
-    }
 }
 
 QQuickWindow *PresentationView::shownWindow() const
@@ -37,14 +29,14 @@ void PresentationView::itemChange(ItemChange change, const ItemChangeData &data)
         disconnect(m_visibility);
         if (data.window) {
             m_visibility =
-                connect(data.window, &QWindow::visibleChanged, this, &PresentationView::viewDidMoveToWindow);
+                connect(data.window, &QWindow::visibleChanged, this, &PresentationView::followWindow);
         }
-        viewDidMoveToWindow();
+        followWindow();
     }
 }
 
-// A closed window counts as none: it comes back as a new one.
-void PresentationView::viewDidMoveToWindow()
+// A closed window counts as no window, and an opened one as a new window.
+void PresentationView::followWindow()
 {
     if (m_mainWindow != shownWindow()) {
         dismiss(MainWindowAfterwards::LeftInPlace);
@@ -78,39 +70,30 @@ void PresentationView::updatePresentation()
         dismiss(MainWindowAfterwards::BroughtForward);
         return;
     }
-    if (!m_mainWindow || m_panel || m_overlay) {
-        return;
-    }
-    std::unique_ptr<QQuickItem> welcome(
-        qobject_cast<QQuickItem *>(m_content->create(m_content->creationContext())));
-    if (m_surface == Surface::Panel) {
-        showInPanel(std::move(welcome));
-    } else {
-        showInMainWindow(std::move(welcome));
+    if (m_mainWindow && !m_welcome) {
+        show();
     }
 }
 
-void PresentationView::showInPanel(std::unique_ptr<QQuickItem> welcome)
+void PresentationView::show()
 {
+    m_welcome.reset(qobject_cast<QQuickItem *>(m_content->create(m_content->creationContext())));
+    m_welcome->setZ(1.0);
+    if (m_surface == Surface::MainWindow) {
+        m_welcome->setParentItem(m_mainWindow->contentItem());
+        return;
+    }
     m_panel = std::make_unique<WelcomePanel>(*m_mainWindow);
-    m_panel->setContent(std::move(welcome));
-    // A panel that the window manager was told to close must not leave the main window invisible.
+    m_welcome->setParentItem(m_panel->contentItem());
+    // Without this the main window would stay invisible after the window manager closed the panel.
     connect(m_panel.get(), &WelcomePanel::closed, this, &PresentationView::finished);
     m_panel->show();
     m_panel->raise();
     m_panel->requestActivate();
 }
 
-void PresentationView::showInMainWindow(std::unique_ptr<QQuickItem> welcome)
-{
-    m_overlay = std::move(welcome);
-    QQuickItem *all = m_mainWindow->contentItem();
-    m_overlay->setZ(1.0);
-    keepFilled(*all, *m_overlay);
-}
-
-// Not at once: it may be the sender of what ends it. At the latest with this view: at the program's end no
-// event loop is left to delete it.
+// Deleted later, because it may be the sender of the signal that ends it; and at the latest with this view,
+// because no event loop runs at the end of the program.
 void PresentationView::release(std::unique_ptr<QObject> ended)
 {
     ended->setParent(this);
@@ -124,9 +107,9 @@ void PresentationView::dismiss(MainWindowAfterwards showMainWindow)
         m_panel->hide();
         release(std::move(m_panel));
     }
-    if (m_overlay) {
-        m_overlay->setVisible(false);
-        release(std::move(m_overlay));
+    if (m_welcome) {
+        m_welcome->setVisible(false);
+        release(std::move(m_welcome));
     }
     if (m_mainWindow && m_surface == Surface::Panel) {
         m_mainWindow->setOpacity(m_originalOpacity);

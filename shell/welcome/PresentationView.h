@@ -9,17 +9,17 @@
 class QQmlComponent;
 class WelcomePanel;
 
-/// The bridge between the main view, which says whether the welcome is presented, and the windows.
+/// Shows and ends the welcome as the main view says.
 ///
 /// Where the desktop blends windows, the main window becomes fully transparent and a panel over its frame
-/// shows the welcome. Elsewhere the welcome lies inside of the main window, over all of it.
+/// shows the welcome. Elsewhere the welcome covers the content of the main window.
 class PresentationView : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(bool isPresenting READ isPresenting WRITE setIsPresenting NOTIFY isPresentingChanged)
+    Q_PROPERTY(bool isPresenting MEMBER m_isPresenting NOTIFY isPresentingChanged)
     Q_PROPERTY(Surface surface READ surface NOTIFY surfaceChanged)
-    Q_PROPERTY(QQmlComponent *content MEMBER m_content NOTIFY contentChanged)
+    Q_PROPERTY(QQmlComponent *content MEMBER m_content FINAL)
 
 public:
     enum class Surface { Panel, MainWindow };
@@ -29,22 +29,19 @@ public:
     explicit PresentationView(QQuickItem *parent = nullptr);
     ~PresentationView() override;
 
-    bool isPresenting() const { return m_isPresenting; }
-    void setIsPresenting(bool presenting);
-    /// Where the welcome of now, or the last one, is shown.
+    /// Where the present welcome, or the last one, is shown.
     Surface surface() const { return m_surface; }
-    /// Where the next one is shown, whatever the desktop can do.
+    /// Where the next one is shown, whether or not the desktop blends windows.
     void setSurface(Surface surface) { m_chosenSurface = surface; }
 
-    /// Hides the main window at once when that is due; what else has to happen does so one turn later.
+    /// Hides the main window at once if the welcome begins. The welcome itself begins or ends one turn later.
     void schedulePresentation();
-    /// Ends the welcome, if there is one, and gives the main window back.
+    /// Ends the welcome, if there is one, and shows the main window again.
     void dismiss(MainWindowAfterwards showMainWindow);
 
 Q_SIGNALS:
     void isPresentingChanged();
     void surfaceChanged();
-    void contentChanged();
     /// The user finished the welcome.
     void finished();
 
@@ -53,11 +50,10 @@ protected:
 
 private:
     QQuickWindow *shownWindow() const;
-    void viewDidMoveToWindow();
+    void followWindow();
     void hideMainWindow();
     void updatePresentation();
-    void showInPanel(std::unique_ptr<QQuickItem> welcome);
-    void showInMainWindow(std::unique_ptr<QQuickItem> welcome);
+    void show();
     void release(std::unique_ptr<QObject> ended);
 
     bool m_isPresenting = false;
@@ -67,6 +63,6 @@ private:
     QPointer<QQuickWindow> m_mainWindow; ///< while the welcome is presented
     double m_originalOpacity = 1.0;      ///< the main window's, before it was hidden
     std::unique_ptr<WelcomePanel> m_panel;
-    std::unique_ptr<QQuickItem> m_overlay;
+    std::unique_ptr<QQuickItem> m_welcome;
     QMetaObject::Connection m_visibility; ///< of the window that the view is in
 };

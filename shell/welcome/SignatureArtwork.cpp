@@ -8,10 +8,11 @@
 
 namespace {
 
-// Of the frame's width.
+// Shares of the frame's width.
 constexpr double bandWidth = 0.24;
 constexpr double bandTravel = 1.24;
-constexpr float shimmerOpacity = 0.9F;
+
+constexpr double shimmerOpacity = 0.9;
 
 } // namespace
 
@@ -50,7 +51,7 @@ void SignatureArtwork::paint(QPainter *painter)
     painter->drawImage(place, m_scaled);
     painter->setClipping(false);
     if (m_shimmerProgress > 0.0 && m_shimmerProgress < 1.0) {
-        painter->setOpacity(static_cast<double>(shimmerOpacity));
+        painter->setOpacity(shimmerOpacity);
         painter->drawImage(place, shimmer(m_scaled, width() * ratio));
     }
 }

@@ -4,8 +4,8 @@
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
 
-/// The signature artwork, scaled to fit: wiped in from the leading edge, with a light that sweeps over it and
-/// touches nothing but the signature.
+/// The signature artwork, scaled to fit. It is wiped in from the leading edge, and a shimmer sweeps over it
+/// that is masked by the artwork.
 class SignatureArtwork : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -16,13 +16,12 @@ class SignatureArtwork : public QQuickPaintedItem
     Q_PROPERTY(double shimmerProgress MEMBER m_shimmerProgress NOTIFY progressChanged)
 
 public:
-    /// With the artwork that is shipped with the application.
+    /// Shows the artwork that is shipped with the application.
     explicit SignatureArtwork(QQuickItem *parent = nullptr);
 
     /// Path of the image file.
     QString source() const { return m_source; }
     void setSource(const QString &path);
-    /// There is an image to show.
     bool isAvailable() const { return !m_image.isNull(); }
 
     void paint(QPainter *painter) override;
@@ -32,7 +31,7 @@ Q_SIGNALS:
     void progressChanged();
 
 private:
-    /// The light on `artwork`, which lies in the middle of a frame of `frameWidth` pixels.
+    /// The shimmer over `artwork`, which is in the middle of a frame `frameWidth` pixels wide.
     QImage shimmer(const QImage &artwork, double frameWidth) const;
 
     QString m_source;

@@ -2,7 +2,7 @@ import QtQuick
 import Lumaport.Drawing
 import Lumaport.Vocabulary
 
-// A line of the welcome, legible over anything: white, with a soft dark shadow.
+// A line of the welcome: white, with a dark shadow, so that it is legible over anything.
 BodyText {
     id: line
 
@@ -14,8 +14,8 @@ BodyText {
         blurRadius: 6
         color: Qt.alpha("black", 0.5)
         font: line.font
+        shapeSize: Qt.size(line.implicitWidth, line.implicitHeight)
         text: line.text
-        textSize: Qt.size(line.implicitWidth, line.implicitHeight)
         z: -1
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Lumaport.Vocabulary
 
-// A menu of the menu bar, wide enough for its longest command with its keys.
+// A menu of the menu bar, wide enough for its longest command and its keys.
 Menu {
     id: menu
 

@@ -1,10 +1,11 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumaport.Interaction
 import Lumaport.Vocabulary
 import Lumaport.Window
 
-// The menu bar of the main window. F10 opens its first menu and Alt with the underlined letter each of them; the arrows
-// lead from there.
+// The menu bar of the main window. F10 opens its first menu, and Alt with its underlined letter any menu. The arrow keys
+// move between menus and commands.
 MenuBar {
     id: bar
 
@@ -75,7 +76,7 @@ MenuBar {
         CommandMenuItem {
             keys: "Ctrl+K"
             text: qsTr("Convert HEIC Photos in Watched Folder")
-            onTriggered: bar.commands.convertExistingFiles()
+            onTriggered: AppModel.convertExistingFiles()
         }
 
         CommandMenuItem {

@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Lumaport.Vocabulary
 
-// A command with its keys, which the style's own item would not show. The keys work in every window of the program and
-// while the menu is closed, unless `reach` says otherwise.
+// A command with its keys, which the style's own item would not show. The keys work also while the menu is closed, and in
+// every window of the program unless `reach` says otherwise.
 MenuItem {
     id: item
 

@@ -2,7 +2,7 @@
 
 #include "AppDelegate.h"
 #include "AppModel.h"
-#include "WatchingCommand.h"
+#include "StatusMenu.h"
 
 #include <QGuiApplication>
 #include <QWindow>
@@ -20,7 +20,7 @@ MainCommands::MainCommands(AppModel &model, AppDelegate &delegate, MainWindowLay
 
 QString MainCommands::watchingTitle() const
 {
-    return WatchingCommand::title(m_model);
+    return StatusMenu::watchingTitle(m_model);
 }
 
 void MainCommands::showQuickPanel()
@@ -33,14 +33,9 @@ void MainCommands::replayWelcome()
     m_delegate.replayWelcome(m_model);
 }
 
-void MainCommands::convertExistingFiles()
-{
-    m_model.convertExistingFiles();
-}
-
 void MainCommands::toggleWatching()
 {
-    WatchingCommand::perform(m_model);
+    m_model.setIsWatching(!m_model.isWatching());
 }
 
 void MainCommands::useRecommendedWindowSize() const

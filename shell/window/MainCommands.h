@@ -8,26 +8,25 @@
 class AppDelegate;
 class AppModel;
 
-/// The commands of the menu bar.
+/// What the commands of the menu bar do.
 class MainCommands : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    QML_UNCREATABLE("Made by the application")
+    QML_UNCREATABLE("LumaportApp makes the only one.")
     Q_PROPERTY(QString watchingTitle READ watchingTitle NOTIFY watchingTitleChanged)
 
 public:
     /// `model` and `delegate` must outlive the commands.
     MainCommands(AppModel &model, AppDelegate &delegate, MainWindowLayout layout, QObject *parent = nullptr);
 
-    /// What toggleWatching() would do now.
+    /// The title of toggleWatching(): what it would do now.
     QString watchingTitle() const;
 
     Q_INVOKABLE void showQuickPanel();
     Q_INVOKABLE void replayWelcome();
-    Q_INVOKABLE void convertExistingFiles();
     Q_INVOKABLE void toggleWatching();
-    /// Gives the open main window its recommended frame; nothing happens while it is closed.
+    /// Gives the main window its recommended frame, if it is open.
     Q_INVOKABLE void useRecommendedWindowSize() const;
     Q_INVOKABLE static void quit();
 

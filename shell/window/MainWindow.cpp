@@ -13,7 +13,7 @@ std::unique_ptr<QQuickWindow> createWindow(QQmlEngine &engine, const QVariantMap
     QQmlComponent component(
         &engine, QUrl(QStringLiteral("qrc:/qt-project.org/imports/Lumaport/Window/MainWindow.qml")));
     if (!component.isReady()) {
-        // The file is part of the program: no user can mend this.
+        // The file is part of the program: only a fault in the program leads here.
         qFatal("%s", qUtf8Printable(component.errorString()));
     }
     return std::unique_ptr<QQuickWindow>(
@@ -31,8 +31,8 @@ MainWindow::MainWindow(QQmlEngine &engine, const QVariantMap &initialProperties,
 
 MainWindow::~MainWindow()
 {
-    // The end of the program closes no window. While it is whole, this one closes as a user would close it,
-    // so that what it shows ends in order; its placement first saves the frame of a window that still shows.
+    // The end of the program closes no window. The placement saves the frame while the window is shown; then
+    // the window is hidden before its content is destroyed, so that what it shows ends in order.
     m_placement.reset();
     m_window->hide();
 }
@@ -40,7 +40,7 @@ MainWindow::~MainWindow()
 void MainWindow::open()
 {
     if (!m_window->isVisible()) {
-        // As good as can be before the decoration is known, so that the window does not jump when it is.
+        // The size of the decoration is not known yet: the placement corrects this frame once it is.
         m_layout.apply(*m_window, MainWindowLayout::SavedFrame::restore);
         m_window->show();
     } else if (m_window->windowStates().testFlag(Qt::WindowMinimized)) {

@@ -11,16 +11,16 @@ class MainWindowPlacement;
 class QQmlEngine;
 class QQuickWindow;
 
-/// The one main window. Closing hides it; opening shows the same window again.
+/// The one main window. Closing hides it, and opening shows the same window again.
 class MainWindow
 {
 public:
-    /// `initialProperties` are those that the window's QML type requires. `engine` must outlive the window.
+    /// `initialProperties` are those that MainWindow.qml requires. `engine` must outlive the window.
     MainWindow(QQmlEngine &engine, const QVariantMap &initialProperties, MainWindowLayout layout,
                std::shared_ptr<JobScheduler> jobs);
     ~MainWindow();
 
-    /// Shows the window where it was left, and brings it to the front.
+    /// Shows the window at its saved frame, and brings it to the front.
     void open();
 
 private:

@@ -4,7 +4,7 @@ import Lumaport.Views
 import Lumaport.Vocabulary
 import Lumaport.Window
 
-// The one main window. The menu bar adds its height to the window and takes nothing from the content.
+// The one main window. The height of the menu bar is added to that of the content.
 ApplicationWindow {
     id: window
 

@@ -12,15 +12,15 @@
 
 namespace {
 
-/// The menu bar takes its height from the window, not from the content.
+/// The height of the window's menu bar, which is no part of the content's size.
 QMargins menuBarOf(const QWindow &window)
 {
     const auto *menuBar = window.property("menuBar").value<QQuickItem *>();
     return {0, menuBar != nullptr ? static_cast<int>(menuBar->height()) : 0, 0, 0};
 }
 
-/// On Wayland the desktop places windows and tells no program where they are.
-bool windowsHavePlaces()
+/// False on Wayland, where programs neither set nor learn the places of their windows.
+bool canKnowPlaces()
 {
     return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
@@ -64,7 +64,8 @@ void MainWindowLayout::apply(QWindow &window, SavedFrame savedFrame) const
     }
     const QRect frame = place(screen->availableGeometry(), frameSize, origin);
     if (window.windowStates().testFlag(Qt::WindowMaximized)) {
-        // Its decoration is another one once the desktop has let go of it, which shows in its width.
+        // Its decoration changes when it is no longer maximised, and so does its width: the frame is set
+        // again then.
         QObject::connect(
             &window, &QWindow::widthChanged, &window,
             [layout = *this, savedFrame, &window] { layout.apply(window, savedFrame); },
@@ -80,8 +81,7 @@ void MainWindowLayout::save(const QWindow &window) const
     if (!window.isVisible() || window.windowStates() != Qt::WindowNoState) {
         return;
     }
-    const WindowFrame frame{.origin =
-                                windowsHavePlaces() ? std::optional(window.framePosition()) : std::nullopt,
+    const WindowFrame frame{.origin = canKnowPlaces() ? std::optional(window.framePosition()) : std::nullopt,
                             .contentSize = window.size().shrunkBy(menuBarOf(window))};
     if (frame != savedFrame()) {
         m_defaults->store(frameAutosaveName, frame.toText());

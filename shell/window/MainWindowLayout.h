@@ -10,8 +10,7 @@
 class DefaultsStore;
 class QWindow;
 
-/// Keeps the main window at a sensible size and place, and remembers where the user left it. Sizes are in
-/// device-independent pixels.
+/// Sets and saves the main window's frame. Sizes are in device-independent pixels.
 class MainWindowLayout
 {
 public:
@@ -19,25 +18,24 @@ public:
 
     inline static const QString frameAutosaveName = QStringLiteral("LumaportMainWindow");
     static constexpr QSize recommendedContentSize{900, 780};
-    /// Kept free on every side of what the screen has left of desktop panels.
+    /// Least distance of the window from the edges of the screen and from desktop panels.
     static constexpr int margin = 20;
 
     explicit MainWindowLayout(std::shared_ptr<DefaultsStore> defaults);
 
-    /// Places and sizes the window; one in full screen is left alone. With `restore` it takes the saved
-    /// frame, if there is one.
+    /// Places and sizes the window, unless it is in full screen. With `restore` it gets the saved frame, if
+    /// there is one; else the recommended frame.
     void apply(QWindow &window, SavedFrame savedFrame) const;
 
-    /// Stores the window's frame. One that is hidden, minimised, maximised or in full screen keeps the frame
-    /// stored before.
+    /// Stores the window's frame, unless the window is hidden, minimised, maximised or in full screen.
     void save(const QWindow &window) const;
 
-    /// A frame of this size, shrunk to the area of `visibleFrame` within the margin and moved inside it; in
-    /// its middle without an origin.
+    /// A frame of this size at `origin`, or centred without one, shrunk and moved into `visibleFrame` less
+    /// the margin.
     static QRect place(const QRect &visibleFrame, const QSize &frameSize,
                        const std::optional<QPoint> &origin);
 
-    /// The number of the screen that holds most of `frame`; none when it is on none of them.
+    /// The index of the screen that shows the largest part of `frame`; none when no screen shows any.
     static std::optional<qsizetype> screenOf(const QRect &frame, const QList<QRect> &screens);
 
 private:

@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// A drag of the window's edge is one change, not a hundred.
+// A drag of the window's edge sends many changes; the last one is saved.
 constexpr auto savingDelay = 400ms;
 
 } // namespace
@@ -37,7 +37,7 @@ bool MainWindowPlacement::eventFilter(QObject *watched, QEvent *event)
         m_state = State::appearing;
         break;
     case QEvent::Expose:
-        didExpose();
+        placeOneTurnLater();
         break;
     case QEvent::Move:
     case QEvent::Resize:
@@ -59,7 +59,7 @@ bool MainWindowPlacement::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-void MainWindowPlacement::didExpose()
+void MainWindowPlacement::placeOneTurnLater()
 {
     if (m_state != State::appearing || !m_window.isExposed()) {
         return;

@@ -8,8 +8,8 @@ class JobScheduler;
 class QWindow;
 class ScheduledJob;
 
-/// Watches over one window's frame: takes the saved one each time the window is shown, and saves it after the
-/// user moved or resized the window, at the latest before it closes.
+/// Gives a window its saved frame each time it is shown, and saves the frame after the user moved or resized
+/// the window, at the latest before it closes.
 class MainWindowPlacement : public QObject
 {
     Q_OBJECT
@@ -26,10 +26,10 @@ private:
         hidden,
         appearing, ///< shown; the decoration's size is not known yet
         exposed,   ///< to be placed in the next turn
-        placed,    ///< what moves from here on is the user's doing
+        placed,    ///< from here on every change is the user's
     };
 
-    void didExpose();
+    void placeOneTurnLater();
     void scheduleSaving();
     void savePending();
 

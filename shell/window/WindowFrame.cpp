@@ -1,6 +1,6 @@
 #include "WindowFrame.h"
 
-#include <QStringList>
+#include <QRegularExpression>
 
 QString WindowFrame::toText() const
 {
@@ -10,23 +10,16 @@ QString WindowFrame::toText() const
 
 std::optional<WindowFrame> WindowFrame::fromText(const QString &text)
 {
-    QList<int> numbers;
-    const QStringList words = text.split(QLatin1Char(' '));
-    for (const QString &word : words) {
-        bool isNumber = false;
-        numbers.append(word.toInt(&isNumber));
-        if (!isNumber) {
-            return std::nullopt;
-        }
-    }
-    WindowFrame frame;
-    if (numbers.size() == 4) {
-        frame.origin = QPoint(numbers.at(0), numbers.at(1));
-        numbers.remove(0, 2);
-    }
-    if (numbers.size() != 2 || numbers.at(0) <= 0 || numbers.at(1) <= 0) {
+    static const QRegularExpression form(
+        QStringLiteral(R"(^(?:(-?\d{1,6}) (-?\d{1,6}) )?([1-9]\d{0,5}) ([1-9]\d{0,5})$)"));
+    const auto match = form.match(text);
+    if (!match.hasMatch()) {
         return std::nullopt;
     }
-    frame.contentSize = QSize(numbers.at(0), numbers.at(1));
+    const auto number = [&match](int group) { return match.capturedView(group).toInt(); };
+    WindowFrame frame{.contentSize = QSize(number(3), number(4))};
+    if (match.hasCaptured(1)) {
+        frame.origin = QPoint(number(1), number(2));
+    }
     return frame;
 }

@@ -9,9 +9,8 @@
 /// Where and how large the user left a window, in device-independent pixels.
 struct WindowFrame
 {
-    std::optional<QPoint> origin; ///< of the whole frame, decoration included; none where the desktop keeps
-                                  ///< it to itself
-    QSize contentSize;            ///< without decoration and menu bar, which another desktop draws otherwise
+    std::optional<QPoint> origin; ///< of the frame with its decoration; none where the desktop does not tell
+    QSize contentSize;            ///< without decoration and menu bar, whose size differs between desktops
 
     bool operator==(const WindowFrame &) const = default;
 

@@ -1,7 +1,7 @@
 #include "FileSignature.h"
 
-#include <QDir>
-#include <QFile>
+#include "WriteFile.h"
+
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -9,52 +9,40 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace {
-
-void setModified(const QString &path, long seconds, long nanoseconds)
-{
-    const std::array times{timespec{seconds, nanoseconds}, timespec{seconds, nanoseconds}};
-    QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times.data(), 0), 0);
-}
-
-} // namespace
-
 class FileSignatureTest : public QObject
 {
     Q_OBJECT
 
+    QTemporaryDir m_folder;
+
+    /// The signature of a file with this content that was changed so many nanoseconds after a moment.
+    std::optional<FileSignature> signatureOf(const QByteArray &content, long nanoseconds) const
+    {
+        const QUrl file = writeFile(m_folder.filePath("größe.heic"), content);
+        const std::array times{timespec{}, timespec{1'700'000'000, nanoseconds}};
+        ::utimensat(AT_FDCWD, QFile::encodeName(file.toLocalFile()).constData(), times.data(), 0);
+        return FileSignature::of(file);
+    }
+
 private Q_SLOTS:
     void shouldTellOneContentFromAnother()
     {
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("größe.heic"));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && file.write("abc") == 3);
-        setModified(path, 1'700'000'000, 123'456'789);
-        const QUrl url = QUrl::fromLocalFile(path);
-
-        const auto first = FileSignature::of(url);
+        const auto first = signatureOf("abc", 123'456'789);
         QVERIFY(first);
         QCOMPARE(first->size, 3);
         QCOMPARE(first->modifiedAt.time_since_epoch().count(), 1'700'000'000'123'456'789);
-        QCOMPARE(*FileSignature::of(url), *first);
-
-        setModified(path, 1'700'000'000, 123'456'790); // one nanosecond later
-        QVERIFY(*FileSignature::of(url) != *first);
-
-        QVERIFY(file.write("d") == 1);
-        setModified(path, 1'700'000'000, 123'456'789);
-        QVERIFY(*FileSignature::of(url) != *first);
+        QVERIFY(signatureOf("abc", 123'456'789) == first);
+        QVERIFY(signatureOf("abc", 123'456'790) != first);
+        QVERIFY(signatureOf("abcd", 123'456'789) != first);
     }
 
     void shouldBeNoneForWhatHasNoData()
     {
-        const QTemporaryDir folder;
-        QVERIFY(!FileSignature::of(QUrl::fromLocalFile(folder.filePath(QStringLiteral("gone.heic")))));
-        QVERIFY(!FileSignature::of(QUrl::fromLocalFile(folder.path())));
-        const QString pipe = folder.filePath(QStringLiteral("pipe.heic"));
-        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-        QVERIFY(!FileSignature::of(QUrl::fromLocalFile(pipe)));
+        const QString pipe = m_folder.filePath("pipe.heic");
+        QCOMPARE(::mkfifo(qPrintable(pipe), 0600), 0);
+        for (const QString &path : {m_folder.filePath("gone.heic"), m_folder.path(), pipe}) {
+            QVERIFY2(!FileSignature::of(QUrl::fromLocalFile(path)), qPrintable(path));
+        }
     }
 };
 

@@ -1,7 +1,8 @@
 #include "FolderMonitor.h"
 
+#include "WriteFile.h"
+
 #include <QDir>
-#include <QFile>
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QTest>
@@ -9,27 +10,20 @@
 
 #include <atomic>
 #include <functional>
+#include <linux/magic.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/vfs.h>
 
 namespace {
 
-/// Generous; a report that comes at all comes within a millisecond.
-constexpr int patience = 10'000;
-
-void touch(const QString &path)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-}
-
 int openDescriptors()
 {
-    return static_cast<int>(
-        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size());
+    return static_cast<int>(QDir("/proc/self/fd").entryList(QDir::Files | QDir::System).size());
 }
 
 std::function<void()> whenThreadHasStarted; ///< called once
+std::optional<int> fileSystemKind;          ///< of every folder; none: as it is
 
 } // namespace
 
@@ -37,6 +31,8 @@ std::function<void()> whenThreadHasStarted; ///< called once
 extern "C" {
 int __real_pthread_setname_np(pthread_t thread, const char *name);
 int __wrap_pthread_setname_np(pthread_t thread, const char *name);
+int __real_statfs(const char *path, struct statfs *fileSystem);
+int __wrap_statfs(const char *path, struct statfs *fileSystem);
 }
 
 int __wrap_pthread_setname_np(pthread_t thread, const char *name)
@@ -46,146 +42,147 @@ int __wrap_pthread_setname_np(pthread_t thread, const char *name)
     }
     return __real_pthread_setname_np(thread, name);
 }
+
+int __wrap_statfs(const char *path, struct statfs *fileSystem)
+{
+    const int result = __real_statfs(path, fileSystem);
+    fileSystem->f_type = fileSystemKind.value_or(fileSystem->f_type);
+    return result;
+}
 // NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming)
 
 class FolderMonitorTest : public QObject
 {
     Q_OBJECT
 
-private:
-    QUrl folder() const { return QUrl::fromLocalFile(m_folder->path() + QStringLiteral("/watched")); }
-    QString inFolder(const QString &name) const { return folder().toLocalFile() + QLatin1Char('/') + name; }
+    std::optional<QTemporaryDir> m_folder;
+    std::optional<FolderMonitor> m_monitor;
+    std::atomic<int> m_reports = 0;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    bool start(const QString &name, std::function<void()> onChange)
+    {
+        return m_monitor->start(QUrl::fromLocalFile(path(name)), std::move(onChange));
+    }
+    bool start(const QString &name)
+    {
+        return start(name, [this] { ++m_reports; });
+    }
 
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir().mkpath(inFolder(QStringLiteral("sub"))));
-        touch(inFolder(QStringLiteral("old.heic")));
+        fileSystemKind.reset();
+        m_folder.emplace();
+        m_monitor.emplace();
+        m_reports = 0;
+        QVERIFY(QDir().mkpath(path("watched/sub")));
+        writeFile(path("watched/old.heic"), "");
+        writeFile(path("outside.heic"), "");
     }
 
     void shouldReportChangesOfTheFolderItself_data()
     {
+        QTest::addColumn<QString>("watched");
         QTest::addColumn<std::function<bool()>>("change");
-        const auto path = [this](const char *name) { return inFolder(QString::fromLatin1(name)); };
-        const auto row = [](const char *name, const std::function<bool()> &change) {
-            QTest::newRow(name) << change;
+        const auto row = [](const char *name, const QString &watched, const std::function<bool()> &change) {
+            QTest::newRow(name) << watched << change;
         };
-        row("file added", [=] { return QFile(path("new.heic")).open(QIODevice::WriteOnly); });
-        row("file removed", [=] { return QFile::remove(path("old.heic")); });
-        row("file renamed", [=] { return QFile::rename(path("old.heic"), path("b.heic")); });
-        row("attributes", [this] { return ::chmod(qPrintable(folder().toLocalFile()), 0711) == 0; });
-        row("folder renamed", [this] {
-            return QDir().rename(folder().toLocalFile(), m_folder->path() + QStringLiteral("/other"));
-        });
+        row("file added", "watched", [this] { return writeFile(path("watched/new.heic"), "").isValid(); });
+        row("file removed", "watched", [this] { return QFile::remove(path("watched/old.heic")); });
+        row("file moved in", "watched",
+            [this] { return QFile::rename(path("outside.heic"), path("watched/a")); });
+        row("file moved out", "watched",
+            [this] { return QFile::rename(path("watched/old.heic"), path("a")); });
+        row("attributes", "watched", [this] { return ::chmod(qPrintable(path("watched")), 0711) == 0; });
+        row("empty folder deleted", "watched/sub", [this] { return QDir().rmdir(path("watched/sub")); });
     }
 
     void shouldReportChangesOfTheFolderItself()
     {
+        QFETCH(QString, watched);
         QFETCH(std::function<bool()>, change);
-        FolderMonitor monitor;
-        QSemaphore reports;
-        QVERIFY(monitor.start(folder(), [&reports] { reports.release(); }));
+        QVERIFY(start(watched));
         QVERIFY(change());
-        QVERIFY(reports.tryAcquire(1, patience));
+        QTRY_VERIFY(m_reports > 0);
     }
 
-    void shouldReportTheDeletionOfAFolderThatWasEmpty()
+    void shouldReportARenamedFolderAndKeepWatchingIt()
     {
-        const QString empty = inFolder(QStringLiteral("sub"));
-        FolderMonitor monitor;
-        QSemaphore reports;
-        QVERIFY(monitor.start(QUrl::fromLocalFile(empty), [&reports] { reports.release(); }));
-        QVERIFY(QDir().rmdir(empty));
-        QVERIFY(reports.tryAcquire(1, patience));
+        QVERIFY(start("watched"));
+        QVERIFY(QDir().rename(path("watched"), path("elsewhere")));
+        QTRY_COMPARE(m_reports, 1);
+        writeFile(path("elsewhere/new.heic"), "");
+        QTRY_COMPARE(m_reports, 2);
     }
 
     void shouldNotReportWhatHappensInsideFilesAndSubfolders()
     {
-        FolderMonitor monitor;
-        QSemaphore entered;
         QSemaphore release;
-        std::atomic<int> reports = 0;
-        QVERIFY(monitor.start(folder(), [&] {
-            ++reports;
-            entered.release();
+        QVERIFY(start("watched", [&] {
+            ++m_reports;
             release.acquire();
         }));
-        touch(inFolder(QStringLiteral("new.heic")));
-        QVERIFY(entered.tryAcquire(
-            1, patience)); // the monitor is held in this report while the quiet things happen
-
-        QFile old(inFolder(QStringLiteral("old.heic")));
-        QVERIFY(old.open(QIODevice::Append) && old.write("more") == 4);
-        old.close();
-        QCOMPARE(::chmod(qPrintable(old.fileName()), 0600), 0);
-        touch(inFolder(QStringLiteral("sub/inner.heic")));
-
+        writeFile(path("watched/new.heic"), "");
+        QTRY_COMPARE(m_reports, 1); // the monitor is held in this report meanwhile
+        writeFile(path("watched/old.heic"), "more");
+        QCOMPARE(::chmod(qPrintable(path("watched/old.heic")), 0600), 0);
+        writeFile(path("watched/sub/inner.heic"), "");
         release.release(2);
-        monitor.stop(); // what waits in the kernel's queue is delivered first
-        QCOMPARE(reports, 1);
-    }
-
-    void shouldKeepWatchingARenamedFolder()
-    {
-        FolderMonitor monitor;
-        QSemaphore reports;
-        QVERIFY(monitor.start(folder(), [&reports] { reports.release(); }));
-        const QString elsewhere = m_folder->path() + QStringLiteral("/elsewhere");
-        QVERIFY(QDir().rename(folder().toLocalFile(), elsewhere));
-        QVERIFY(reports.tryAcquire(1, patience));
-        touch(elsewhere + QStringLiteral("/new.heic"));
-        QVERIFY(reports.tryAcquire(1, patience));
+        m_monitor->stop(); // what waits in the kernel's queue is delivered first
+        QCOMPARE(m_reports, 1);
     }
 
     void shouldRefuseWhatCannotBeOpenedAndEndTheEarlierWatch()
     {
-        FolderMonitor monitor;
-        std::atomic<int> reports = 0;
-        QVERIFY(monitor.start(folder(), [&reports] { ++reports; }));
-        QVERIFY(
-            !monitor.start(QUrl::fromLocalFile(inFolder(QStringLiteral("gone"))), [&reports] { ++reports; }));
-        touch(inFolder(QStringLiteral("new.heic")));
-        QVERIFY(!monitor.start(QUrl::fromLocalFile(inFolder(QStringLiteral("old.heic"))), [] {}));
-        QCOMPARE(reports, 0);
+        QVERIFY(start("watched"));
+        QVERIFY(!start("gone"));
+        writeFile(path("watched/new.heic"), "");
+        QVERIFY(!start("outside.heic"));
+        QCOMPARE(m_reports, 0);
     }
 
     void shouldLeaveNoDescriptorBehind()
     {
         const int before = openDescriptors();
-        {
-            FolderMonitor monitor;
-            for (int round = 0; round < 50; ++round) {
-                QVERIFY(monitor.start(folder(), [] {}));
-            }
-            QVERIFY(openDescriptors() <= before + 2); // the queue and the end signal of one watch
-            monitor.stop();
-            monitor.stop();
-            QVERIFY(monitor.start(folder(), [] {}));
+        for (int round = 0; round < 50; ++round) {
+            QVERIFY(start("watched"));
         }
+        QVERIFY(openDescriptors() <= before + 2); // the queue and the end signal of one watch
+        m_monitor->stop();
+        m_monitor->stop();
+        QVERIFY(start("watched"));
+        m_monitor.reset();
         QCOMPARE(openDescriptors(), before);
     }
 
     void shouldBearBeingStoppedFromWithinItsFirstReport()
     {
         const int before = openDescriptors();
-        FolderMonitor monitor;
-        std::atomic<int> reports = 0;
-        whenThreadHasStarted = [&] {
-            touch(inFolder(QStringLiteral("new.heic")));
+        whenThreadHasStarted = [this] {
+            writeFile(path("watched/new.heic"), "");
             for (int turn = 0; turn < 10'000; ++turn) {
                 QThread::yieldCurrentThread(); // the report comes before start has returned
             }
         };
-        QVERIFY(monitor.start(folder(), [&] {
-            ++reports;
-            touch(inFolder(QStringLiteral("more.heic"))); // waits in the queue when the watch ends
-            monitor.stop();
+        QVERIFY(start("watched", [this] {
+            ++m_reports;
+            writeFile(path("watched/more.heic"), ""); // waits in the queue when the watch ends
+            m_monitor->stop();
         }));
         QTRY_COMPARE(openDescriptors(), before); // the watch's thread is gone, and all that it had
-        QCOMPARE(reports, 1);
+        QCOMPARE(m_reports, 1);
+    }
+
+    void shouldSayWhichFoldersMayMissChanges()
+    {
+        for (const int kind : {EXT4_SUPER_MAGIC, NFS_SUPER_MAGIC, FUSE_SUPER_MAGIC}) {
+            fileSystemKind = kind;
+            QVERIFY(start("watched"));
+            QCOMPARE(m_monitor->mayMissChanges(), kind != EXT4_SUPER_MAGIC);
+        }
+        m_monitor->stop();
+        QVERIFY(!m_monitor->mayMissChanges());
     }
 
     void shouldCountAFolderAsWatchedWhenNoWatchIsLeft()
@@ -193,18 +190,13 @@ private Q_SLOTS:
         rlimit before = {};
         QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
         const rlimit none{.rlim_cur = 0, .rlim_max = before.rlim_max};
-        FolderMonitor monitor;
         QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
-        const bool isWatched = monitor.start(folder(), [] {});
-        const bool isMissingWatched =
-            monitor.start(QUrl::fromLocalFile(inFolder(QStringLiteral("gone"))), [] {});
-        const bool isFileWatched =
-            monitor.start(QUrl::fromLocalFile(inFolder(QStringLiteral("old.heic"))), [] {});
-        const bool mayMissChanges = monitor.start(folder(), [] {}) && monitor.mayMissChanges();
+        const bool isMissingWatched = start("gone");
+        const bool isFileWatched = start("outside.heic");
+        const bool isWatched = start("watched") && m_monitor->mayMissChanges();
         QCOMPARE(::setrlimit(RLIMIT_NOFILE, &before), 0);
-        QVERIFY(isWatched && mayMissChanges);
-        QVERIFY(!isMissingWatched && !isFileWatched);
-        QVERIFY(monitor.start(folder(), [] {}) && !monitor.mayMissChanges());
+        QVERIFY(isWatched && !isMissingWatched && !isFileWatched);
+        QVERIFY(start("watched") && !m_monitor->mayMissChanges());
     }
 };
 

@@ -1,6 +1,7 @@
 #include "ThumbnailStore.h"
 
-#include "PaintedPhotos.h"
+#include "FakeImageWorkerLauncher.h"
+#include "WriteFile.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -12,19 +13,16 @@ class ThumbnailStoreTest : public QObject
     Q_OBJECT
 
     QTemporaryDir m_folder;
-    std::shared_ptr<PaintedPhotos> m_photos;
-    std::unique_ptr<ThumbnailStore> m_store;
+    std::shared_ptr<FakeImageWorkerLauncher> m_launcher;
+    std::optional<ThumbnailStore> m_store;
+    int m_answered = 0;
 
-    QUrl write(const QString &name, const QByteArray &content) const
+    QUrl write(const QString &name, const QByteArray &content = "red") const
     {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-        }
-        return QUrl::fromLocalFile(file.fileName());
+        return writeFile(m_folder.filePath(name), content);
     }
 
-    // The store's answer, waited for; none when there is none within the test's patience.
+    /// The store's answer, waited for; none when there is none within the test's patience.
     std::optional<QImage> answer(const QUrl &url)
     {
         std::optional<QImage> result;
@@ -33,123 +31,100 @@ class ThumbnailStoreTest : public QObject
         return result;
     }
 
-    /// Asks for previews of new photos, which wait for the gate; counts those that are answered.
-    std::vector<std::unique_ptr<ThumbnailRequest>> askForHeld(int count, const QString &names, int &answered)
+    /// Asks for so many photos. The workers are held, and are as many as there can be at a time.
+    std::vector<std::unique_ptr<ThumbnailRequest>> askForHeld(int count)
     {
-        m_photos->hold();
+        m_launcher->hold();
         std::vector<std::unique_ptr<ThumbnailRequest>> requests;
         for (int i = 0; i < count; ++i) {
-            requests.push_back(
-                m_store->image(write(names.arg(i), "red"), [&answered](const QImage &) { ++answered; }));
+            const QUrl photo = write(QString("held%1.heic").arg(i));
+            requests.push_back(m_store->image(photo, [this](const QImage &) { ++m_answered; }));
         }
+        (void)QTest::qWaitFor([&] { return m_launcher->running == std::min(count, 2); });
         return requests;
     }
 
 private Q_SLOTS:
     void init()
     {
-        m_photos = std::make_shared<PaintedPhotos>();
-        m_store = std::make_unique<ThumbnailStore>(m_photos);
+        m_launcher = std::make_shared<FakeImageWorkerLauncher>();
+        m_store.emplace(m_launcher);
+        m_answered = 0;
     }
     void cleanup() { m_store.reset(); }
 
-    void shouldAnswerAtOnceTheSecondTime()
+    void shouldAnswerAtOnceTheSecondTimeAlsoWhenTheFileWasReplaced()
     {
-        const QUrl photo = write(QStringLiteral("one.heic"), "red");
+        const QUrl photo = write("one.heic");
         const auto first = answer(photo);
         QVERIFY(first);
         QCOMPARE(first->size(), QSize(240, 180));
         QCOMPARE(first->pixelColor(100, 100), QColor(Qt::red));
 
-        bool isAnswered = false;
-        const auto request =
-            m_store->image(photo, [&](const QImage &image) { isAnswered = !image.isNull(); });
-        QVERIFY2(isAnswered, "before the call returns");
+        write("one.heic", "blue");
+        QImage second;
+        const auto request = m_store->image(photo, [&](const QImage &image) { second = image; });
         QVERIFY(!request);
-        QCOMPARE(m_photos->launched.load(), 1);
-    }
-
-    void shouldShowTheKeptPictureOfAFileThatWasReplaced()
-    {
-        const QUrl photo = write(QStringLiteral("same.heic"), "red");
-        QVERIFY(answer(photo));
-        write(QStringLiteral("same.heic"), "blue");
-        QCOMPARE(answer(photo)->pixelColor(0, 0), QColor(Qt::red));
+        QCOMPARE(second, *first);
+        QCOMPARE(m_launcher->launched.load(), 1);
     }
 
     void shouldGiveNothingForWhatIsNoPhotoAndReadItAgainNextTime()
     {
-        const QUrl photo = write(QStringLiteral("late.heic"), "not a colour");
-        const auto nothing = answer(photo);
-        QVERIFY(nothing && nothing->isNull());
-        write(QStringLiteral("late.heic"), "green");
+        const QUrl photo = write("late.heic", "not a colour");
+        for (const QUrl &url : {photo, QUrl("file:///missing.heic"), QUrl::fromLocalFile(m_folder.path())}) {
+            const auto nothing = answer(url);
+            QVERIFY(nothing && nothing->isNull());
+        }
+        write("late.heic", "green");
         QVERIFY(!answer(photo)->isNull());
-        const auto missing = answer(QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("missing.heic"))));
-        QVERIFY(missing && missing->isNull());
-        const auto folder = answer(QUrl::fromLocalFile(m_folder.path()));
-        QVERIFY(folder && folder->isNull());
     }
 
     void shouldNeverReadMoreThanTwoAtATime()
     {
-        int answered = 0;
-        auto requests = askForHeld(6, QStringLiteral("many%1.heic"), answered);
-        QTRY_COMPARE(m_photos->running.load(), 2);
-        m_photos->gate.release(6);
-        QTRY_COMPARE(answered, 6);
-        QCOMPARE(m_photos->mostRunning.load(), 2);
+        const auto requests = askForHeld(6);
+        m_launcher->gate.release(6);
+        QTRY_COMPARE(m_answered, 6);
+        QCOMPARE(m_launcher->mostRunning.load(), 2);
     }
 
     void shouldNotReadWhatWasGivenUpBeforeItsTurn()
     {
-        int answered = 0;
-        auto requests = askForHeld(4, QStringLiteral("turn%1.heic"), answered);
-        QTRY_COMPARE(m_photos->running.load(), 2);
+        auto requests = askForHeld(4);
         requests[2].reset();
-        m_photos->gate.release(4);
-        QTRY_COMPARE(answered, 3);
-        QCOMPARE(m_photos->launched.load(), 3);
+        m_launcher->gate.release(4);
+        QTRY_COMPARE(m_answered, 3);
+        QCOMPARE(m_launcher->launched.load(), 3);
     }
 
     void shouldDropTheAnswerOfACancelledRequestAndKeepNothing()
     {
-        const QUrl photo = write(QStringLiteral("gone.heic"), "red");
-        m_photos->hold();
-        bool isAnswered = false;
-        auto request = m_store->image(photo, [&](const QImage &) { isAnswered = true; });
-        QTRY_COMPARE(m_photos->running.load(), 1);
-        request.reset();
-        m_photos->gate.release(2);
-        QTRY_COMPARE(m_photos->running.load(), 0);
-        QVERIFY(answer(photo)); // comes after the dropped one, and needs a worker of its own
-        QVERIFY(!isAnswered);
-        QCOMPARE(m_photos->launched.load(), 2);
+        askForHeld(1).clear();
+        m_launcher->gate.release(2);
+        QTRY_COMPARE(m_launcher->running.load(), 0);
+        QVERIFY(answer(write("held0.heic"))); // comes after the dropped one, and needs a worker of its own
+        QCOMPARE(m_answered, 0);
+        QCOMPARE(m_launcher->launched.load(), 2);
     }
 
     void shouldKeepTheLatest24()
     {
-        QList<QUrl> photos;
         for (int i = 0; i < 25; ++i) {
-            photos.append(write(QStringLiteral("kept%1.heic").arg(i), "red"));
-            QVERIFY(answer(photos.last()));
+            QVERIFY(answer(write(QString("kept%1.heic").arg(i))));
         }
-        QVERIFY(answer(photos.last()));
-        QCOMPARE(m_photos->launched.load(), 25);
-        QVERIFY(answer(photos.first()));
-        QCOMPARE(m_photos->launched.load(), 26);
+        QVERIFY(answer(write("kept24.heic")));
+        QCOMPARE(m_launcher->launched.load(), 25);
+        QVERIFY(answer(write("kept0.heic")));
+        QCOMPARE(m_launcher->launched.load(), 26);
     }
 
     void shouldEndItsWorkersWhenItGoes()
     {
-        m_photos->hold();
-        bool isAnswered = false;
-        const auto request = m_store->image(write(QStringLiteral("held.heic"), "red"),
-                                            [&](const QImage &) { isAnswered = true; });
-        QTRY_COMPARE(m_photos->running.load(), 1);
+        const auto requests = askForHeld(1);
         m_store.reset();
-        QCOMPARE(m_photos->running.load(), 0);
+        QCOMPARE(m_launcher->running.load(), 0);
         QCoreApplication::processEvents();
-        QVERIFY(!isAnswered);
+        QCOMPARE(m_answered, 0);
     }
 };
 

@@ -31,20 +31,19 @@ private:
     void arrive(int photos)
     {
         for (; photos > 0; --photos) {
-            const QUrl photo = m_fixture.write(QStringLiteral("IMG_%1.heic").arg(++m_number));
+            const QUrl photo = m_fixture.write(QString("IMG_%1.heic").arg(++m_number));
             m_fixture.settle();
             QCOMPARE(m_fixture.engine->running.size(), std::size_t{1});
             if (photos % 2 == 0) {
-                m_fixture.engine->succeed(QStringLiteral("IMG_%1.png").arg(m_number));
+                m_fixture.engine->succeed(QString("IMG_%1.png").arg(m_number));
             } else {
                 m_fixture.engine->fail(ConversionError::unreadableImage);
             }
-            ModelFixture::turn();
             QVERIFY(QFile::remove(photo.toLocalFile()));
             m_fixture.settle();
-            m_fixture.jobs->advance(2min);
-            m_fixture.clock->time += 2min;
-            m_fixture.center->requests.clear();
+            m_fixture.pass(2min);
+            m_fixture.center->requests.clear(); // what the test itself keeps
+            m_fixture.defaults->stored.clear();
         }
     }
 

@@ -7,68 +7,51 @@ class NotificationManagerTest : public QObject
 {
     Q_OBJECT
 
-private:
     std::shared_ptr<RecordingNotificationCenter> m_center;
     std::shared_ptr<RecordingWorkspace> m_workspace;
-    std::unique_ptr<NotificationManager> m_manager;
+    std::optional<NotificationManager> m_manager;
 
 private Q_SLOTS:
     void init()
     {
         m_center = std::make_shared<RecordingNotificationCenter>();
         m_workspace = std::make_shared<RecordingWorkspace>();
-        m_manager = std::make_unique<NotificationManager>(m_center, m_workspace);
-    }
-
-    void shouldRegisterOnceAndAskEachTime()
-    {
-        m_manager->configure(NotificationManager::Authorization::leave);
-        QCOMPARE(m_center->authorizationRequests, 0);
-        m_manager->configure(NotificationManager::Authorization::request);
-        m_manager->configure(NotificationManager::Authorization::request);
-        QCOMPARE(m_center->authorizationRequests, 2);
-        QCOMPARE(m_center->categories.size(), 1);
-        const NotificationCategory category = m_center->categories.first().first();
-        QCOMPARE(category.identifier, QStringLiteral("LUMAPORT_CONVERSION_READY"));
-        QCOMPARE(category.actions.size(), 1);
-        QCOMPARE(category.actions.first().identifier, QStringLiteral("LUMAPORT_SHOW_IN_FINDER"));
-        QCOMPARE(category.actions.first().title, QStringLiteral("Show in Finder"));
+        m_manager.emplace(m_center, m_workspace);
     }
 
     void shouldAnnounceEachPhotoByItself()
     {
-        const QUrl photo = QUrl::fromLocalFile(QStringLiteral("/home/a/Übung 1.png"));
+        const QUrl photo = QUrl::fromLocalFile("/home/a/Übung 1.png");
         m_manager->notifyConversionFinished(photo);
         m_manager->notifyConversionFinished(photo);
         const NotificationRequest first = m_center->requests[0];
-        QCOMPARE(first.title, QStringLiteral("Photo landed ready"));
-        QCOMPARE(first.subtitle, QStringLiteral("Übung 1.png"));
-        QCOMPARE(first.body, QStringLiteral("Converted locally. Click to reveal it in Finder."));
-        QCOMPARE(first.payload,
-                 (QVariantMap{{QStringLiteral("outputPath"), QStringLiteral("/home/a/Übung 1.png")}}));
+        QCOMPARE(first.title, "Photo landed ready");
+        QCOMPARE(first.subtitle, "Übung 1.png");
+        QCOMPARE(first.body, "Converted locally. Click to reveal it in Finder.");
+        QCOMPARE(first.categoryIdentifier, "LUMAPORT_CONVERSION_READY");
+        QCOMPARE(first.action.identifier, "LUMAPORT_SHOW_IN_FINDER");
+        QCOMPARE(first.action.title, "Show in Finder");
+        QCOMPARE(first.payload, (QVariantMap{{"outputPath", "/home/a/Übung 1.png"}}));
         QCOMPARE(first.delay, std::chrono::milliseconds(250));
-        QCOMPARE(first.soundName, QStringLiteral("LumaportArrival.wav"));
-        const QRegularExpression identifier(
-            QStringLiteral("^lumaport-ready-[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}$"));
+        QCOMPARE(first.soundName, "LumaportArrival.wav");
+        const QRegularExpression identifier("^lumaport-ready-[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}$");
         QVERIFY(identifier.match(first.identifier).hasMatch());
         QVERIFY(first.identifier != m_center->requests[1].identifier);
     }
 
     void shouldRevealOnAClickOnly()
     {
-        m_manager->configure(NotificationManager::Authorization::leave);
-        const QVariantMap payload{{QStringLiteral("outputPath"), QStringLiteral("/home/a/1.png")}};
-        m_center->respond({.actionIdentifier = QStringLiteral("dismissed"), .payload = payload});
-        m_center->respond({.actionIdentifier = NotificationCenter::defaultAction, .payload = {}});
-        m_center->respond({.actionIdentifier = NotificationCenter::defaultAction,
-                           .payload = {{QStringLiteral("outputPath"), 3}}});
+        m_manager->configure();
+        const QString click = NotificationCenter::defaultAction;
+        const QVariantMap payload{{"outputPath", "/home/a/1.png"}};
+        m_center->respond({.actionIdentifier = "dismissed", .payload = payload});
+        m_center->respond({.actionIdentifier = click, .payload = {}});
+        m_center->respond({.actionIdentifier = click, .payload = {{"outputPath", 3}}});
         QVERIFY(m_workspace->revealed.isEmpty());
-        m_center->respond({.actionIdentifier = NotificationCenter::defaultAction, .payload = payload});
-        m_center->respond({.actionIdentifier = QStringLiteral("LUMAPORT_SHOW_IN_FINDER"),
-                           .payload = payload,
-                           .activationToken = QStringLiteral("token")});
-        QCOMPARE(m_workspace->tokens, QStringList({QString(), QStringLiteral("token")}));
-        QCOMPARE(m_workspace->revealed, QList<QUrl>(2, QUrl(QStringLiteral("file:///home/a/1.png"))));
+        m_center->respond({.actionIdentifier = click, .payload = payload});
+        m_center->respond({"LUMAPORT_SHOW_IN_FINDER", payload, "token"});
+        QCOMPARE(m_workspace->tokens, (QStringList{"", "token"}));
+        QCOMPARE(m_workspace->revealed, QList<QUrl>(2, QUrl("file:///home/a/1.png")));
     }
 };
 

@@ -1,8 +1,7 @@
-#include "DefaultsStore.h"
 #include "ModelFixture.h"
+#include "WriteFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTest>
 
 using namespace std::chrono_literals;
@@ -11,8 +10,13 @@ class WatchingTest : public QObject
 {
     Q_OBJECT
 
-private:
+    std::optional<ModelFixture> m_fixture;
+
     AppModel &model() { return m_fixture->model(); }
+    bool rename(const QString &from, const QString &to) const
+    {
+        return QFile::rename(m_fixture->path(from), m_fixture->path(to));
+    }
     /// The sources that the engine was given, in order.
     QStringList converted() const
     {
@@ -23,190 +27,173 @@ private:
         return names;
     }
 
-    std::unique_ptr<ModelFixture> m_fixture;
-
 private Q_SLOTS:
-    void init() { m_fixture = std::make_unique<ModelFixture>(); }
+    void init()
+    {
+        m_fixture.emplace();
+        m_fixture->write("old.heic");
+        m_fixture->launch();
+    }
 
     void shouldLeaveAloneWhatWasThereBefore()
     {
-        m_fixture->write(QStringLiteral("old.heic"));
-        m_fixture->launch();
-        m_fixture->write(QStringLiteral("new 10.heic"));
-        m_fixture->write(QStringLiteral("new 9.heic"));
-        m_fixture->write(QStringLiteral(".hidden.heic"));
+        m_fixture->write("new 10.heic");
+        m_fixture->write("new 9.heic");
+        m_fixture->write(".hidden.heic");
         m_fixture->settle();
-        QCOMPARE(converted(), QStringList({QStringLiteral("new 9.heic"), QStringLiteral("new 10.heic")}));
+        QCOMPARE(converted(), (QStringList{"new 9.heic", "new 10.heic"}));
     }
 
     void shouldScanOnceAfterABurstOfReportsAndAgainToSettle()
     {
-        m_fixture->launch();
-        m_fixture->write(QStringLiteral("a.heic"));
+        m_fixture->write("a.heic");
         for (int reports = 0; reports < 5; ++reports) {
             m_fixture->monitor->report();
             ModelFixture::turn();
-            m_fixture->jobs->advance(349ms);
+            m_fixture->pass(349ms);
             QCOMPARE(m_fixture->jobs->waitingJobs(), 1);
         }
-        m_fixture->jobs->advance(1ms); // the scan that finds it
-        m_fixture->jobs->advance(849ms);
-        ModelFixture::turn();
+        m_fixture->pass(1ms); // the scan that finds it
+        m_fixture->pass(849ms);
         QVERIFY(converted().isEmpty());
-        m_fixture->jobs->advance(1ms);
-        ModelFixture::turn();
-        QCOMPARE(converted(), QStringList{QStringLiteral("a.heic")});
+        m_fixture->pass(1ms);
+        QCOMPARE(converted(), QStringList{"a.heic"});
     }
 
     void shouldWaitUntilAFileHasStoppedChanging()
     {
-        m_fixture->launch();
-        m_fixture->write(QStringLiteral("a.heic"), 10);
-        m_fixture->monitor->report();
-        ModelFixture::turn();
-        m_fixture->jobs->advance(350ms);
-        for (int bytes = 20; bytes < 50; bytes += 10) {
-            m_fixture->write(QStringLiteral("a.heic"), bytes);
-            m_fixture->jobs->advance(850ms);
-            ModelFixture::turn();
+        m_fixture->write("a.heic", 10);
+        m_fixture->scan();
+        for (int size = 20; size < 50; size += 10) {
+            m_fixture->write("a.heic", size);
+            m_fixture->pass(850ms);
             QVERIFY(converted().isEmpty());
         }
-        m_fixture->jobs->advance(850ms);
-        ModelFixture::turn();
+        m_fixture->pass(850ms);
         QCOMPARE(converted().size(), 1);
     }
 
-    void shouldLookNowAndThenWhereTheFolderChangesInSilence()
+    void shouldForgetACandidateThatIsGoneOrWasSeenBeforeAPause()
+    {
+        m_fixture->write("a.heic");
+        m_fixture->scan(); // now a candidate
+        QVERIFY(rename("a.heic", "a"));
+        m_fixture->scan();
+        QVERIFY(rename("a", "a.heic")); // its size and date are as they were
+        m_fixture->scan();
+        QVERIFY(converted().isEmpty()); // seen once again, not twice
+        model().setIsWatching(false);
+        model().setIsWatching(true);
+        m_fixture->pass(100ms);
+        QVERIFY(converted().isEmpty());
+        m_fixture->pass(850ms);
+        QCOMPARE(converted().size(), 1);
+    }
+
+    void shouldPollAFolderThatChangesWithoutAReport()
     {
         m_fixture->monitor->missesChanges = true;
         m_fixture->launch();
-        m_fixture->write(QStringLiteral("a.heic"));
-        m_fixture->jobs->advance(10s); // the scan that finds it
-        m_fixture->jobs->advance(850ms);
-        ModelFixture::turn();
-        QCOMPARE(converted(), QStringList{QStringLiteral("a.heic")});
+        m_fixture->write("a.heic");
+        m_fixture->pass(10s); // the scan that finds it
+        m_fixture->pass(850ms);
+        QCOMPARE(converted(), QStringList{"a.heic"});
 
         model().setIsWatching(false);
         QCOMPARE(m_fixture->jobs->waitingJobs(), 0);
         model().setIsWatching(true);
-        m_fixture->jobs->advance(100ms);
-        m_fixture->write(QStringLiteral("b.heic"));
-        m_fixture->jobs->advance(9'900ms);
-        m_fixture->jobs->advance(850ms);
-        ModelFixture::turn();
+        m_fixture->pass(100ms);
+        m_fixture->write("b.heic");
+        m_fixture->pass(9'900ms);
+        m_fixture->pass(850ms);
         QCOMPARE(converted().size(), 2);
 
         m_fixture->monitor->missesChanges = false; // the next folder is one of this machine
         model().retryMonitoring();
-        m_fixture->jobs->advance(100ms);
+        m_fixture->pass(100ms);
         QCOMPARE(m_fixture->jobs->waitingJobs(), 0);
     }
 
     void shouldConvertAgainOnlyWhatChanged()
     {
-        m_fixture->launch();
-        m_fixture->write(QStringLiteral("a.heic"));
+        m_fixture->write("a.heic");
         m_fixture->settle();
         m_fixture->settle(); // under way: not taken twice
         QCOMPARE(converted().size(), 1);
         m_fixture->engine->fail(ConversionError::unreadableImage);
         m_fixture->settle();
         QVERIFY(converted().isEmpty());
-        m_fixture->write(QStringLiteral("a.heic"), 99);
+        m_fixture->write("a.heic", 99);
         m_fixture->settle();
         QCOMPARE(converted().size(), 1);
-        m_fixture->engine->succeed(QStringLiteral("a.png"));
-        QVERIFY(QFile::rename(m_fixture->url(QStringLiteral("a.heic")).toLocalFile(),
-                              m_fixture->url(QStringLiteral("b.heic")).toLocalFile()));
+        m_fixture->engine->succeed("a.png");
+        QVERIFY(rename("a.heic", "b.heic"));
         m_fixture->settle();
-        QCOMPARE(converted(), QStringList{QStringLiteral("b.heic")});
+        QCOMPARE(converted(), QStringList{"b.heic"});
     }
 
     void shouldConvertAfterResumingWhatArrivedDuringAPause()
     {
-        m_fixture->launch();
         model().setIsWatching(false);
-        m_fixture->write(QStringLiteral("a.heic"));
+        m_fixture->write("a.heic");
         m_fixture->settle();
         QVERIFY(converted().isEmpty());
-        QCOMPARE(model().monitorDetail(), QStringLiteral("New arrivals won’t convert until you resume."));
-        QCOMPARE(model().monitorSymbol(), QStringLiteral("pause.circle.fill"));
+        QCOMPARE(model().monitorTitle(), "Auto-convert: Paused");
+        QCOMPARE(model().monitorDetail(), "New arrivals won’t convert until you resume.");
+        QCOMPARE(model().monitorSymbol(), "pause.circle.fill");
         model().setIsWatching(true);
-        m_fixture->jobs->advance(100ms);
-        m_fixture->jobs->advance(850ms);
-        ModelFixture::turn();
-        QCOMPARE(converted(), QStringList{QStringLiteral("a.heic")});
-    }
-
-    void shouldForgetACandidateWhenPaused()
-    {
-        m_fixture->launch();
-        m_fixture->write(QStringLiteral("a.heic"));
-        m_fixture->monitor->report();
-        ModelFixture::turn();
-        m_fixture->jobs->advance(350ms); // now a candidate
-        model().setIsWatching(false);
-        model().setIsWatching(true);
-        m_fixture->jobs->advance(100ms);
-        ModelFixture::turn();
-        QVERIFY(converted().isEmpty()); // seen once again, not twice
-        m_fixture->jobs->advance(850ms);
-        ModelFixture::turn();
-        QCOMPARE(converted().size(), 1);
+        m_fixture->pass(100ms);
+        m_fixture->pass(850ms);
+        QCOMPARE(converted(), QStringList{"a.heic"});
     }
 
     void shouldScanAfterLaunchWhenWatchingWasStored()
     {
-        m_fixture->defaults->store(QStringLiteral("isWatching"), true);
-        m_fixture->write(QStringLiteral("old.heic"));
+        m_fixture->defaults->store("isWatching", true);
         m_fixture->launch();
         QCOMPARE(m_fixture->jobs->waitingJobs(), 1);
-        m_fixture->jobs->advance(5s);
-        ModelFixture::turn();
+        m_fixture->pass(5s);
         QVERIFY(converted().isEmpty());
     }
 
     void shouldSayWhenTheFolderCannotBeWatchedAndRecover()
     {
-        const QString folder = m_fixture->home.filePath(QStringLiteral("Photos"));
-        QVERIFY(QDir().rmdir(folder));
+        QDir folder(m_fixture->path(""));
+        QVERIFY(folder.removeRecursively());
         m_fixture->launch();
         QVERIFY(!model().monitorAvailable());
-        QCOMPARE(model().lastEventText(), QStringLiteral("Couldn’t watch Photos"));
-        QCOMPARE(model().monitorTitle(), QStringLiteral("Folder unavailable"));
-        QCOMPARE(model().monitorDetail(), QStringLiteral("Check your watched folder, then retry."));
-        QCOMPARE(model().monitorSymbol(), QStringLiteral("exclamationmark.triangle.fill"));
+        QCOMPARE(model().lastEventText(), "Couldn’t watch Photos");
+        QCOMPARE(model().monitorTitle(), "Folder unavailable");
+        QCOMPARE(model().monitorDetail(), "Check your watched folder, then retry.");
+        QCOMPARE(model().monitorSymbol(), "exclamationmark.triangle.fill");
 
-        QVERIFY(QDir().mkdir(folder));
-        m_fixture->write(QStringLiteral("a.heic"));
+        QVERIFY(folder.mkpath("."));
+        m_fixture->write("a.heic");
         model().retryMonitoring();
         QVERIFY(model().monitorAvailable());
-        m_fixture->jobs->advance(100ms + 850ms);
-        ModelFixture::turn();
-        QCOMPARE(model().monitorDetail(), QStringLiteral("Watching Photos for new HEIC photos."));
-        QCOMPARE(model().monitorSymbol(), QStringLiteral("checkmark.circle.fill"));
-        QCOMPARE(converted(), QStringList{QStringLiteral("a.heic")});
+        QCOMPARE(model().monitorDetail(), "Watching Photos for new HEIC photos.");
+        QCOMPARE(model().monitorSymbol(), "checkmark.circle.fill");
+        m_fixture->pass(100ms + 850ms);
+        QCOMPARE(converted(), QStringList{"a.heic"});
     }
 
     void shouldMoveToAChosenFolderAndKnowWhatIsThere()
     {
-        m_fixture->launch();
+        const QUrl photos = model().watchFolder();
+        m_fixture->panel->answer = {QUrl("sftp://elsewhere/Photos 2")};
         model().chooseWatchFolder();
-        QCOMPARE(model().watchFolder().fileName(), QStringLiteral("Photos"));
-        QCOMPARE(m_fixture->panel->requests.first().title,
-                 QStringLiteral("Choose the folder where AirDrop saves photos"));
-        QCOMPARE(m_fixture->panel->requests.first().prompt, QStringLiteral("Watch this folder"));
-        QCOMPARE(m_fixture->panel->requests.first().folder, model().watchFolder());
+        QCOMPARE(model().watchFolder(), photos);
+        const OpenPanelRequest request = m_fixture->panel->requests.first();
+        QCOMPARE(request.title, "Choose the folder where AirDrop saves photos");
+        QCOMPARE(request.prompt, "Watch this folder");
+        QCOMPARE(request.folder, photos);
 
-        m_fixture->panel->answer = {QUrl(QStringLiteral("sftp://elsewhere/Photos 2"))};
+        const QString other = m_fixture->home.filePath("Other");
+        QVERIFY(QDir().mkdir(other));
+        writeFile(other + "/there.heic", "");
+        m_fixture->panel->answer = {QUrl::fromLocalFile(other + '/')};
         model().chooseWatchFolder();
-        QCOMPARE(model().watchFolder().fileName(), QStringLiteral("Photos"));
-
-        const QString other = m_fixture->home.filePath(QStringLiteral("Other"));
-        QVERIFY(QDir().mkdir(other) && QFile(other + QStringLiteral("/old.heic")).open(QIODevice::WriteOnly));
-        m_fixture->panel->answer = {QUrl::fromLocalFile(other + QLatin1Char('/'))};
-        model().chooseWatchFolder();
-        QCOMPARE(model().lastEventText(), QStringLiteral("Watching Other"));
+        QCOMPARE(model().lastEventText(), "Watching Other");
         m_fixture->settle();
         QVERIFY(converted().isEmpty());
         QCOMPARE(m_fixture->launch().watchFolder(), QUrl::fromLocalFile(other));
@@ -214,18 +201,14 @@ private Q_SLOTS:
 
     void shouldConvertEverythingOnRequest()
     {
-        m_fixture->write(QStringLiteral("2.heic"));
-        m_fixture->write(QStringLiteral("1.heic"));
-        m_fixture->launch();
+        m_fixture->write("new.heic");
         model().setIsWatching(false);
         model().convertExistingFiles();
         ModelFixture::turn();
-        QCOMPARE(converted(), QStringList({QStringLiteral("1.heic"), QStringLiteral("2.heic")}));
-        for (const char *name : {"1.heic", "2.heic"}) {
-            QVERIFY(QFile::remove(m_fixture->url(QString::fromLatin1(name)).toLocalFile()));
-        }
+        QCOMPARE(converted(), (QStringList{"new.heic", "old.heic"}));
+        QVERIFY(rename("new.heic", "new") && rename("old.heic", "old"));
         model().convertExistingFiles();
-        QCOMPARE(model().lastEventText(), QStringLiteral("No HEIC photos found in Photos"));
+        QCOMPARE(model().lastEventText(), "No HEIC photos found in Photos");
     }
 };
 

@@ -11,7 +11,9 @@
 #include <QQmlEngine>
 #include <QTest>
 
-/// A status item in the test's hands.
+#include <algorithm>
+
+/// A status item that keeps what it was given.
 struct RecordingStatusItem : StatusItem
 {
     void setLook(const StatusItemLook &newLook) override
@@ -24,27 +26,22 @@ struct RecordingStatusItem : StatusItem
         entries = newEntries;
         ++menus;
     }
-    std::optional<QRect> place() const override { return where; }
+    std::optional<QRect> place() const override { return {}; }
 
-    /// The command of this title; it must be there once.
-    const StatusMenuEntry &command(const QString &title) const
+    /// The command of this title; one without an action when there is none.
+    StatusMenuEntry command(const QString &title) const
     {
-        for (const StatusMenuEntry &entry : entries) {
-            if (entry.title == title) {
-                return entry;
-            }
-        }
-        qFatal("no command \"%s\"", qPrintable(title));
+        const auto found = std::ranges::find(entries, title, &StatusMenuEntry::title);
+        return entries.value(found - entries.begin());
     }
 
     StatusItemLook look;
     int looks = 0;
     QList<StatusMenuEntry> entries;
     int menus = 0;
-    std::optional<QRect> where;
 };
 
-/// The delegate with a model, its panel and a status item, on a desktop without any tray.
+/// The delegate with a model, its panel and a status item, on a desktop without a tray.
 class ShellFixture : public ModelFixture
 {
 public:
@@ -55,33 +52,22 @@ public:
         QObject::connect(&qmlEngine, &QQmlEngine::warnings, &qmlEngine, [](const QList<QQmlError> &warnings) {
             QFAIL(qPrintable(warnings.constFirst().toString()));
         });
-    }
-
-    void configureMenuBar()
-    {
         delegate.configureMenuBar(model(), [this] { ++mainOpened; });
-    }
-
-    /// The panel's window.
-    static PanelWindow *panelWindow()
-    {
         const QWindowList windows = QGuiApplication::topLevelWindows();
         for (QWindow *window : windows) {
             if (auto *found = qobject_cast<PanelWindow *>(window)) {
-                return found;
+                panelWindow = found;
             }
         }
-        qFatal("the panel has no window");
     }
 
     int mainOpened = 0;
-    int itemsMade = 0;
     RecordingStatusItem *item = nullptr;
+    PanelWindow *panelWindow = nullptr;
     QQmlEngine qmlEngine;
     AppDelegate delegate{qmlEngine, jobs, [this] {
                              auto made = std::make_unique<RecordingStatusItem>();
                              item = made.get();
-                             ++itemsMade;
                              return made;
                          }};
 };

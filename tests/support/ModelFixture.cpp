@@ -1,28 +1,16 @@
 #include "ModelFixture.h"
 
-#include "DefaultsStore.h"
+#include "WriteFile.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 
 using namespace std::chrono_literals;
-
-void ManualEngine::convert(const QUrl &sourceURL, const ConversionSettings &settings, QObject * /*receiver*/,
-                           std::function<void(const ConversionOutcome &)> done)
-{
-    running.push_back({sourceURL, settings, std::move(done)});
-}
 
 void ManualEngine::succeed(const QString &outputName)
 {
     const QUrl source = running.front().source;
     end(ConversionResult{.sourceURL = source, .outputURL = source.resolved(QUrl(outputName))});
-}
-
-void ManualEngine::fail(ConversionError error)
-{
-    end(tl::unexpected(error));
 }
 
 void ManualEngine::end(const ConversionOutcome &outcome)
@@ -34,19 +22,15 @@ void ManualEngine::end(const ConversionOutcome &outcome)
 
 bool ManualFolderMonitor::start(const QUrl &at, std::function<void()> onChange)
 {
-    stop();
-    if (!QDir(at.toLocalFile()).exists()) {
-        return false;
-    }
-    report = std::move(onChange);
-    return true;
+    const bool isThere = QDir(at.toLocalFile()).exists();
+    report = isThere ? std::move(onChange) : nullptr;
+    return isThere;
 }
 
 ModelFixture::ModelFixture()
-    : defaults(DefaultsStore::inFile(home.filePath(QStringLiteral("lumaport.conf"))))
 {
-    QDir(home.path()).mkdir(QStringLiteral("Photos"));
-    defaults->store(QStringLiteral("watchFolder"), home.filePath(QStringLiteral("Photos")));
+    QDir(home.path()).mkdir("Photos");
+    defaults->store("watchFolder", home.filePath("Photos"));
 }
 
 AppModel &ModelFixture::launch()
@@ -66,26 +50,33 @@ AppModel &ModelFixture::launch()
     return *m_model;
 }
 
-QUrl ModelFixture::url(const QString &name) const
+QString ModelFixture::path(const QString &name) const
 {
-    return QUrl::fromLocalFile(home.filePath(QStringLiteral("Photos/") + name));
+    return home.filePath("Photos/" + name);
 }
 
-QUrl ModelFixture::write(const QString &name, int bytes) const
+QUrl ModelFixture::write(const QString &name, int size) const
 {
-    QFile file(url(name).toLocalFile());
-    if (!file.open(QIODevice::WriteOnly) || file.write(QByteArray(bytes, 'x')) != bytes) {
-        qFatal("cannot write %s", qPrintable(file.fileName()));
-    }
-    return url(name);
+    return writeFile(path(name), QByteArray(size, 'x'));
+}
+
+void ModelFixture::pass(std::chrono::milliseconds time)
+{
+    jobs->advance(time);
+    turn();
+}
+
+void ModelFixture::scan()
+{
+    monitor->report();
+    turn();
+    pass(350ms);
 }
 
 void ModelFixture::settle()
 {
-    monitor->report();
-    turn();
-    jobs->advance(350ms + 850ms);
-    turn();
+    scan();
+    pass(850ms);
 }
 
 void ModelFixture::turn()

@@ -2,6 +2,7 @@
 
 #include "AppModel.h"
 #include "ConversionEngine.h"
+#include "DefaultsStore.h"
 #include "FolderMonitor.h"
 #include "ManualScheduler.h"
 #include "NotificationCenter.h"
@@ -12,13 +13,13 @@
 #include "Workspace.h"
 
 #include <QTemporaryDir>
+#include <QVariantList>
 
 #include <deque>
 
 /// An engine whose conversions end when, and as, the test says.
-class ManualEngine : public ConversionEngine
+struct ManualEngine : ConversionEngine
 {
-public:
     struct Conversion
     {
         QUrl source;
@@ -26,24 +27,24 @@ public:
         std::function<void(const ConversionOutcome &)> done;
     };
 
-    void convert(const QUrl &sourceURL, const ConversionSettings &settings, QObject *receiver,
-                 std::function<void(const ConversionOutcome &)> done) override;
+    void convert(const QUrl &sourceURL, const ConversionSettings &settings, QObject * /*receiver*/,
+                 std::function<void(const ConversionOutcome &)> done) override
+    {
+        running.push_back({sourceURL, settings, std::move(done)});
+    }
     void prepare() override {}
 
-    /// Ends the oldest conversion.
+    /// Ends the oldest conversion: with a copy of this name beside its source, or with an error.
     void succeed(const QString &outputName);
-    void fail(ConversionError error);
+    void fail(ConversionError error) { end(tl::unexpected(error)); }
+    void end(const ConversionOutcome &outcome);
 
     std::deque<Conversion> running;
-
-private:
-    void end(const ConversionOutcome &outcome);
 };
 
 /// A monitor that reports when the test says so.
-class ManualFolderMonitor : public FolderMonitor
+struct ManualFolderMonitor : FolderMonitor
 {
-public:
     bool start(const QUrl &at, std::function<void()> onChange) override;
     void stop() override { report = {}; }
     bool mayMissChanges() const override { return missesChanges; }
@@ -52,22 +53,33 @@ public:
     bool missesChanges = false; ///< as on another machine's folder
 };
 
+/// Keeps every value for as long as the test lasts.
+struct MemoryStore : DefaultsStore
+{
+    std::optional<QString> text(const QString &key) const override { return last<QString>(key); }
+    std::optional<QByteArray> data(const QString &key) const override { return last<QByteArray>(key); }
+    std::optional<bool> boolean(const QString &key) const override { return last<bool>(key); }
+    void store(const QString &key, const QString &text) override { stored[key] << text; }
+    void store(const QString &key, const QByteArray &data) override { stored[key] << data; }
+    void store(const QString &key, bool value) override { stored[key] << value; }
+
+    QHash<QString, QVariantList> stored; ///< by key, the latest value last
+
+private:
+    template<typename Value>
+    std::optional<Value> last(const QString &key) const
+    {
+        const QVariant value = stored.value(key).value(stored.value(key).size() - 1);
+        return value.typeId() == qMetaTypeId<Value>() ? std::optional(value.value<Value>()) : std::nullopt;
+    }
+};
+
 struct RecordingNotificationCenter : NotificationCenter
 {
-    void setCategories(const QList<NotificationCategory> &newCategories) override
-    {
-        categories.append(newCategories);
-    }
-    void onResponse(std::function<void(const NotificationResponse &)> newHandler) override
-    {
-        respond = std::move(newHandler);
-    }
-    void requestAuthorization() override { ++authorizationRequests; }
+    void onResponse(std::function<void(const NotificationResponse &)> handler) override { respond = handler; }
     void add(const NotificationRequest &request) override { requests.append(request); }
 
-    QList<QList<NotificationCategory>> categories; ///< one entry for each registration
     QList<NotificationRequest> requests;
-    int authorizationRequests = 0;
     std::function<void(const NotificationResponse &)> respond;
 };
 
@@ -106,7 +118,7 @@ struct FixedClock : WallClock
     std::chrono::system_clock::time_point time{std::chrono::sys_days{std::chrono::year{2026} / 3 / 14}};
 };
 
-/// A model with everything around it in the test's hands, on real folders of its own.
+/// A model whose services are the test's, on a watched folder of its own.
 class ModelFixture
 {
 public:
@@ -115,11 +127,18 @@ public:
     /// The model as it is after the next launch; the stored values stay.
     AppModel &launch();
     AppModel &model() { return *m_model; }
-    /// Writes a file into the watched folder (`bytes` of content) and gives its URL.
-    QUrl write(const QString &name, int bytes = 10) const;
-    QUrl url(const QString &name) const;
-    /// A change report of the watched folder, as the monitor would make it, and the scans that follow until
-    /// all settled.
+
+    /// The path and the URL of this name in the watched folder.
+    QString path(const QString &name) const;
+    QUrl url(const QString &name) const { return QUrl::fromLocalFile(path(name)); }
+    /// Writes a file of `size` bytes into the watched folder.
+    QUrl write(const QString &name, int size = 10) const;
+
+    /// Time goes by, and the jobs that fall due run.
+    void pass(std::chrono::milliseconds time);
+    /// A change report of the watched folder, and the scan that follows.
+    void scan();
+    /// The same, and the scan that finds what has settled.
     void settle();
     /// Lets queued main-thread work happen.
     static void turn();
@@ -127,7 +146,7 @@ public:
     QTemporaryDir home;
     std::shared_ptr<ManualScheduler> jobs = std::make_shared<ManualScheduler>();
     std::shared_ptr<FixedClock> clock = std::make_shared<FixedClock>();
-    std::shared_ptr<DefaultsStore> defaults;
+    std::shared_ptr<MemoryStore> defaults = std::make_shared<MemoryStore>();
     std::shared_ptr<RecordingNotificationCenter> center = std::make_shared<RecordingNotificationCenter>();
     std::shared_ptr<RecordingWorkspace> workspace = std::make_shared<RecordingWorkspace>();
     std::shared_ptr<ScriptedOpenPanel> panel = std::make_shared<ScriptedOpenPanel>();

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "AppModelSingleton.h"
+#include "FakeImageWorkerLauncher.h"
 #include "ModelFixture.h"
-#include "PaintedPhotos.h"
 #include "Scene.h"
 #include "ThumbnailStore.h"
+#include "WriteFile.h"
 
 #include <QDir>
 
@@ -26,11 +27,7 @@ public:
     ConversionItem item(const QString &name, ConversionStatus status,
                         const QByteArray &colour = "orange") const
     {
-        const QUrl source = fixture.url(name);
-        QFile file(source.toLocalFile());
-        if (!file.open(QIODevice::WriteOnly) || file.write(colour) != colour.size()) {
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-        }
+        const QUrl source = writeFile(fixture.path(name), colour);
         ConversionItem item = ConversionItem::queuedFor(source, {});
         item.status = status;
         if (status == ConversionStatus::ready) {
@@ -49,7 +46,7 @@ public:
         ModelFixture::turn();
     }
 
-    std::shared_ptr<PaintedPhotos> photos = std::make_shared<PaintedPhotos>();
+    std::shared_ptr<FakeImageWorkerLauncher> photos = std::make_shared<FakeImageWorkerLauncher>();
     ThumbnailStore thumbnails{photos};
     ModelFixture fixture;
     AppModel &model;

@@ -4,8 +4,34 @@
 #include "DefaultsStore.h"
 #include "ModelFixture.h"
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTest>
+
+namespace {
+
+using Step = std::function<void(ModelFixture &)>;
+
+void land(ModelFixture &fixture)
+{
+    fixture.model().convertManually({fixture.write("IMG_1.HEIC")});
+}
+
+void convert(ModelFixture &fixture)
+{
+    land(fixture);
+    ModelFixture::turn();
+}
+
+void finish(ModelFixture &fixture)
+{
+    convert(fixture);
+    fixture.engine->succeed("IMG_1.png");
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Step)
 
 class MainViewControllerTest : public QObject
 {
@@ -15,8 +41,7 @@ private Q_SLOTS:
     void init()
     {
         m_fixture = std::make_unique<ModelFixture>();
-        m_fixture->launch();
-        m_controller = controller();
+        m_controller = std::make_unique<MainViewController>(m_fixture->launch(), m_fixture->defaults);
     }
 
     void cleanup()
@@ -37,7 +62,7 @@ private Q_SLOTS:
         QTest::newRow("just compact") << 649.0 << 0.0 << true << 219.0;
         QTest::newRow("just not compact") << 650.0 << 0.0 << false << 190.0;
         QTest::newRow("not taller than it was designed") << 1000.0 << 1.0 << false << 222.0;
-        QTest::newRow("never gone") << 480.0 << 0.0 << true << 60.0;
+        QTest::newRow("never lower than 60 points") << 480.0 << 0.0 << true << 60.0;
     }
 
     void shouldFitTheStageIntoTheRoomThatIsLeft()
@@ -48,157 +73,110 @@ private Q_SLOTS:
         QTEST(MainViewController::stageHeight(workspaceHeight, optionsShown), "stageHeight");
     }
 
-    void shouldTellOfAConversionFromLandingToReady()
+    void shouldFollowTheModelInItsTexts_data()
     {
-        AppModel &model = m_fixture->model();
-        QCOMPARE(m_controller->headline(), QStringLiteral("AirDrop it. It’s ready."));
-        QCOMPARE(m_controller->workspaceDetail(),
-                 QStringLiteral("New HEIC photos in your watched folder become PNG, automatically."));
-
-        QSignalSpy texts(m_controller.get(), &MainViewController::textsChanged);
-        model.convertManually({m_fixture->write(QStringLiteral("IMG_1.HEIC"))});
-        QCOMPARE(m_controller->headline(), QStringLiteral("Your photo just landed."));
-        QCOMPARE(m_controller->workspaceDetail(), QStringLiteral("IMG_1.HEIC landed"));
-        QVERIFY(m_controller->isBusy());
-
-        ModelFixture::turn();
-        QCOMPARE(m_controller->headline(), QStringLiteral("A little format magic."));
-        QCOMPARE(m_controller->readyText(), QStringLiteral("0 ready"));
-
-        texts.clear();
-        m_fixture->engine->succeed(QStringLiteral("IMG_1.png"));
-        QVERIFY(!texts.isEmpty());
-        QCOMPARE(m_controller->headline(), QStringLiteral("New format. Same moment."));
-        QCOMPARE(m_controller->workspaceDetail(), QStringLiteral("Ready: IMG_1.png"));
-        QCOMPARE(m_controller->readyText(), QStringLiteral("1 ready"));
-        QVERIFY(!m_controller->isBusy());
-
-        texts.clear();
-        m_fixture->jobs->advance(std::chrono::seconds(4));
-        QVERIFY(!texts.isEmpty());
-        QCOMPARE(m_controller->headline(), QStringLiteral("AirDrop it. It’s ready."));
+        QTest::addColumn<Step>("step");
+        QTest::addColumn<QString>("headline");
+        QTest::addColumn<QString>("detail");
+        const QString idle("AirDrop it. It’s ready.");
+        QTest::newRow("queued") << Step(land) << "Your photo just landed."
+                                << "IMG_1.HEIC landed";
+        QTest::newRow("converting") << Step(convert) << "A little format magic."
+                                    << "IMG_1.HEIC landed";
+        QTest::newRow("ready") << Step(finish) << "New format. Same moment."
+                               << "Ready: IMG_1.png";
+        QTest::newRow("failed") << Step([](ModelFixture &fixture) {
+            convert(fixture);
+            fixture.engine->fail(ConversionError::unreadableImage);
+        }) << "This photo needs attention."
+                                << "Couldn’t convert IMG_1.HEIC";
+        QTest::newRow("idle again") << Step([](ModelFixture &fixture) {
+            finish(fixture);
+            fixture.jobs->advance(std::chrono::seconds(4));
+        }) << idle << "New HEIC photos in your watched folder become PNG, automatically.";
+        QTest::newRow("a drag during a conversion") << Step([](ModelFixture &fixture) {
+            land(fixture);
+            fixture.model().setIsDropTargeted(true);
+        }) << "Drop it. We’ve got it."
+                                                    << "IMG_1.HEIC landed";
+        QTest::newRow("JPEG") << Step([](ModelFixture &fixture) {
+            fixture.model().setSettings({.format = OutputFormat::jpeg});
+        }) << idle << "New HEIC photos in your watched folder become JPEG, automatically.";
+        QTest::newRow("paused") << Step([](ModelFixture &fixture) { fixture.model().setIsWatching(false); })
+                                << "Ready when you are."
+                                << "Resume automatic conversion, or choose photos manually.";
+        QTest::newRow("no folder, and paused") << Step([](ModelFixture &fixture) {
+            QDir(fixture.home.path()).rmdir("Photos");
+            fixture.model().setIsWatching(false);
+            fixture.model().retryMonitoring();
+        }) << "Let’s reconnect your folder."
+                                               << "Open conversion options to choose an available folder.";
     }
 
-    void shouldTellOfAFailure()
+    void shouldFollowTheModelInItsTexts()
     {
-        m_fixture->model().convertManually({m_fixture->write(QStringLiteral("IMG_2.heic"))});
-        ModelFixture::turn();
-        m_fixture->engine->fail(ConversionError::unreadableImage);
-        QCOMPARE(m_controller->headline(), QStringLiteral("This photo needs attention."));
-        QCOMPARE(m_controller->workspaceDetail(), QStringLiteral("Couldn’t convert IMG_2.heic"));
+        QFETCH(Step, step);
+        QString headline = m_controller->headline();
+        QString detail = m_controller->workspaceDetail();
+        connect(m_controller.get(), &MainViewController::textsChanged, this, [&] {
+            headline = m_controller->headline();
+            detail = m_controller->workspaceDetail();
+        });
+        step(*m_fixture);
+        QTEST(headline, "headline");
+        QTEST(detail, "detail");
+        m_controller->disconnect(this);
     }
 
-    void shouldGreetADragEvenDuringAConversion()
+    void shouldTellDragsAndDropsOfPhotosFromOthers_data()
     {
-        m_fixture->model().convertManually({m_fixture->write(QStringLiteral("IMG_1.HEIC"))});
-        QVERIFY(m_controller->dragEntered({m_fixture->url(QStringLiteral("IMG_9.HEIC"))}));
-        QCOMPARE(m_controller->headline(), QStringLiteral("Drop it. We’ve got it."));
-        QCOMPARE(m_controller->workspaceDetail(), QStringLiteral("IMG_1.HEIC landed"));
+        QTest::addColumn<QStringList>("names");
+        QTest::addColumn<bool>("isDropTarget");
+        QTest::addColumn<bool>("isAccepted");
+        QTest::newRow("a photo and a text") << QStringList{"notes.txt", "IMG_1.HEIC"} << true << true;
+        QTest::newRow("no photo") << QStringList{"holiday.jpg"} << true << false;
+        QTest::newRow("the folder itself") << QStringList{""} << true << false;
+        QTest::newRow("a photo elsewhere") << QStringList{"https://example.org/IMG_1.HEIC"} << false << false;
+        QTest::newRow("nothing") << QStringList() << false << false;
+    }
+
+    void shouldTellDragsAndDropsOfPhotosFromOthers()
+    {
+        QFETCH(QStringList, names);
+        QList<QUrl> urls;
+        for (const QString &name : std::as_const(names)) {
+            urls << (name.startsWith("https:") ? QUrl(name) : m_fixture->url(name));
+        }
+        m_fixture->write("IMG_1.HEIC");
+        const AppModel &model = m_fixture->model();
+        QTEST(m_controller->dragEntered(urls), "isDropTarget");
+        QTEST(model.isDropTargeted(), "isDropTarget");
         m_controller->dragLeft();
-        QCOMPARE(m_controller->headline(), QStringLiteral("Your photo just landed."));
+        QVERIFY(!model.isDropTargeted());
+        m_controller->dragEntered(urls);
+        QTEST(m_controller->drop(urls), "isAccepted");
+        QVERIFY(!model.isDropTargeted());
+        QTEST(model.items().size() == 1, "isAccepted");
+        QCOMPARE(model.lastEventText(),
+                 model.items().isEmpty() ? "Drop HEIC or HEIF photos here" : "IMG_1.HEIC landed");
     }
 
-    void shouldNameTheFormatThatPhotosBecome()
+    void shouldWelcomeOnTheFirstLaunchAndAgainOnRequest()
     {
-        ConversionSettings settings;
-        settings.format = OutputFormat::jpeg;
-        settings.outputLocation = OutputLocation::alongside;
-        m_fixture->model().setSettings(settings);
-        QCOMPARE(m_controller->workspaceDetail(),
-                 QStringLiteral("New HEIC photos in your watched folder become JPEG, automatically."));
-        QCOMPARE(m_controller->outputLocationText(), QStringLiteral("Beside originals"));
-    }
-
-    void shouldSayThatItIsPaused()
-    {
-        m_fixture->model().setIsWatching(false);
-        QCOMPARE(m_controller->headline(), QStringLiteral("Ready when you are."));
-        QCOMPARE(m_controller->workspaceDetail(),
-                 QStringLiteral("Resume automatic conversion, or choose photos manually."));
-    }
-
-    void shouldAskForAnotherFolderBeforeItSpeaksOfAPause()
-    {
-        m_fixture->defaults->store(QStringLiteral("watchFolder"),
-                                   m_fixture->home.filePath(QStringLiteral("gone")));
-        m_controller.reset();
-        m_fixture->launch().setIsWatching(false);
-        m_controller = controller();
-        QCOMPARE(m_controller->headline(), QStringLiteral("Let’s reconnect your folder."));
-        QCOMPARE(m_controller->workspaceDetail(),
-                 QStringLiteral("Open conversion options to choose an available folder."));
-        QCOMPARE(m_controller->openFolderLabel(), QStringLiteral("Open watched folder: gone"));
-        QCOMPARE(m_controller->watchFolderPath(), m_fixture->home.filePath(QStringLiteral("gone")));
-    }
-
-    void shouldAcceptADropWithAtLeastOnePhotoAndPassOnAllOfIt()
-    {
-        const QUrl photo = m_fixture->write(QStringLiteral("IMG_1.HEIC"));
-        const QUrl text = m_fixture->write(QStringLiteral("notes.txt"));
-        QVERIFY(m_controller->dragEntered({photo, text}));
-        QVERIFY(m_controller->drop({text, photo}));
-        QVERIFY(!m_controller->isDropTargeted());
-        QCOMPARE(m_fixture->model().items().size(), 1);
-        QCOMPARE(m_fixture->model().items().constFirst().sourceURL, photo);
-    }
-
-    void shouldRefuseADropWithoutPhotosButTellTheUser()
-    {
-        QVERIFY(m_controller->dragEntered({m_fixture->url(QStringLiteral("holiday.jpg"))}));
-        QVERIFY(
-            !m_controller->drop({m_fixture->url(QStringLiteral("holiday.jpg")), m_fixture->url(QString())}));
-        QVERIFY(!m_controller->drop({m_fixture->url(QStringLiteral("holiday.jpg")),
-                                     QUrl(QStringLiteral("https://example.org/IMG_1.HEIC"))}));
-        QCOMPARE(m_fixture->model().lastEventText(), QStringLiteral("Drop HEIC or HEIF photos here"));
-        QVERIFY(m_fixture->model().items().isEmpty());
-    }
-
-    void shouldNotReactToADragOfAnythingButFiles()
-    {
-        QVERIFY(!m_controller->dragEntered({QUrl(QStringLiteral("https://example.org/IMG_1.HEIC"))}));
-        QVERIFY(!m_controller->dragEntered({}));
-        QVERIFY(!m_controller->isDropTargeted());
-    }
-
-    void shouldAskForPhotosAndOpenTheFolder()
-    {
-        m_controller->choosePhotos();
-        QCOMPARE(m_fixture->panel->requests.size(), 1);
-        QVERIFY(m_fixture->model().items().isEmpty()); // cancelled
-        m_fixture->panel->answer = {m_fixture->write(QStringLiteral("IMG_3.HEIF"))};
-        m_controller->choosePhotos();
-        QCOMPARE(m_fixture->model().items().size(), 1);
-        m_controller->openWatchFolder();
-        QCOMPARE(m_fixture->workspace->opened, QList{m_fixture->model().watchFolder()});
-    }
-
-    void shouldWelcomeOnTheFirstLaunchOnly()
-    {
-        QVERIFY(m_controller->showsWelcome());
         QSignalSpy changes(m_controller.get(), &MainViewController::showsWelcomeChanged);
-        m_controller->finishWelcome();
-        QCOMPARE(changes.size(), 1);
-        QVERIFY(!m_controller->showsWelcome());
-        QCOMPARE(m_fixture->defaults->boolean(QStringLiteral("hasSeenSignatureWelcome")), true);
-        QVERIFY(!controller()->showsWelcome()); // the next launch
-    }
-
-    void shouldWelcomeAgainOnRequestUntilFinished()
-    {
-        m_controller->finishWelcome();
-        AppModel &model = m_fixture->model();
-        model.setWelcomeReplayToken(model.welcomeReplayToken() + 1);
         QVERIFY(m_controller->showsWelcome());
         m_controller->finishWelcome();
         QVERIFY(!m_controller->showsWelcome());
+        QVERIFY(
+            !MainViewController(m_fixture->model(), m_fixture->defaults).showsWelcome()); // the next launch
+        m_fixture->model().setWelcomeReplayToken(1);
+        QVERIFY(m_controller->showsWelcome());
+        m_controller->finishWelcome();
+        QVERIFY(!m_controller->showsWelcome());
+        QCOMPARE(changes.size(), 3);
     }
 
 private:
-    std::unique_ptr<MainViewController> controller()
-    {
-        return std::make_unique<MainViewController>(m_fixture->model(), m_fixture->defaults);
-    }
-
     std::unique_ptr<ModelFixture> m_fixture;
     std::unique_ptr<MainViewController> m_controller;
 };

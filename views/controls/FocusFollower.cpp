@@ -8,14 +8,6 @@ constexpr double margin = 12.0; // points kept free around the control
 
 }
 
-void FocusFollower::setFlickable(QQuickItem *flickable)
-{
-    if (m_flickable != flickable) {
-        m_flickable = flickable;
-        Q_EMIT flickableChanged();
-    }
-}
-
 void FocusFollower::itemChange(ItemChange change, const ItemChangeData &data)
 {
     QQuickItem::itemChange(change, data);

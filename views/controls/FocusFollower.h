@@ -9,13 +9,10 @@ class FocusFollower : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QQuickItem *flickable READ flickable WRITE setFlickable NOTIFY flickableChanged REQUIRED)
+    Q_PROPERTY(QQuickItem *flickable MEMBER m_flickable NOTIFY flickableChanged REQUIRED)
 
 public:
     using QQuickItem::QQuickItem;
-
-    QQuickItem *flickable() const { return m_flickable; }
-    void setFlickable(QQuickItem *flickable);
 
 Q_SIGNALS:
     void flickableChanged();

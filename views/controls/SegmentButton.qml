@@ -4,30 +4,21 @@ import Lumaport.Interaction
 import Lumaport.Vocabulary
 
 // One segment of a segmented control. Chosen, its label is white and a little higher.
-Item {
+ChoiceButton {
     id: button
 
     required property Segment segment
-    required property bool selected
     required property real lift
     required property real dampingFraction
-
-    signal clicked
 
     Accessible.checkable: true
     Accessible.checked: selected
     Accessible.description: segment.help
-    Accessible.focusable: true
     Accessible.name: segment.name
-    Accessible.onPressAction: button.clicked()
     Accessible.onToggleAction: button.clicked()
     Accessible.role: Accessible.RadioButton
-    Accessible.selectable: true
-    Accessible.selected: selected
-    Keys.onEnterPressed: button.clicked()
-    Keys.onReturnPressed: button.clicked()
-    Keys.onSpacePressed: button.clicked()
-    activeFocusOnTab: selected || activeFocus
+    ring.anchors.bottomMargin: lift - 3
+    ring.anchors.topMargin: -lift - 3
 
     SymbolLabel {
         centred: true
@@ -63,17 +54,6 @@ Item {
     }
 
     InteractionFeedback {}
-
-    MouseArea {
-        anchors.fill: parent
-        onClicked: button.clicked()
-    }
-
-    FocusRing {
-        anchors.bottomMargin: button.lift - 3
-        anchors.topMargin: -button.lift - 3
-        visible: button.activeFocus
-    }
 
     HelpTip {
         hovered: hover.hovered

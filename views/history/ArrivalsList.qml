@@ -13,12 +13,6 @@ ColumnLayout {
 
     spacing: 14
 
-    ArrivalsListController {
-        id: controller
-
-        model: AppModel
-    }
-
     RowLayout {
         spacing: 8
 
@@ -34,17 +28,17 @@ ColumnLayout {
             color: LumaportPalette.muted
             objectName: "readyCount"
             size: 11
-            text: controller.readyText
-            visible: !controller.isEmpty
+            text: qsTr("%1 ready").arg(AppModel.readyCount)
+            visible: !ArrivalsListController.isEmpty
         }
 
         TextButton {
-            enabled: controller.canClear
+            enabled: ArrivalsListController.canClear
             help: qsTr("Removes history only. Your photos are kept.")
             objectName: "clearHistory"
             rightPadding: 0
             text: qsTr("Clear history")
-            visible: !controller.isEmpty
+            visible: !ArrivalsListController.isEmpty
             onClicked: AppModel.clearHistory()
         }
     }
@@ -54,7 +48,7 @@ ColumnLayout {
         Layout.topMargin: 15
         objectName: "emptyState"
         spacing: 12
-        visible: controller.isEmpty
+        visible: ArrivalsListController.isEmpty
 
         Symbol {
             color: LumaportPalette.muted
@@ -78,7 +72,7 @@ ColumnLayout {
                 color: LumaportPalette.muted
                 objectName: "emptyHint"
                 size: 11
-                text: controller.emptyHint
+                text: ArrivalsListController.emptyHint
                 wrapMode: Text.Wrap
             }
         }
@@ -90,19 +84,19 @@ ColumnLayout {
         Accessible.name: qsTr("Recent arrivals")
         Accessible.role: Accessible.List
         Layout.fillWidth: true
-        visible: !controller.isEmpty
+        visible: !ArrivalsListController.isEmpty
 
         Repeater {
             id: repeater
 
-            model: controller.arrivals
+            model: ArrivalsListController.arrivals
 
             ArrivalRow {
                 isLast: index === repeater.count - 1
                 objectName: "row" + index
                 width: rows.width
-                onReveal: controller.reveal(index)
-                onTryAgain: controller.tryAgain(index)
+                onReveal: ArrivalsListController.reveal(index)
+                onTryAgain: ArrivalsListController.tryAgain(index)
             }
         }
     }

@@ -1,50 +1,43 @@
 #include "ArrivalsListController.h"
 
-#include "ConversionItemTexts.h"
+#include "AppModelSingleton.h"
 
-void ArrivalsListController::setModel(AppModel *model)
+ArrivalsListController::ArrivalsListController(AppModel &model, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
 {
-    if (m_model == model) {
-        return;
-    }
-    if (m_model) {
-        m_model->disconnect(this);
-    }
-    m_model = model;
-    connect(model, &AppModel::itemsChanged, this, &ArrivalsListController::update);
-    connect(model, &AppModel::watchFolderChanged, this, &ArrivalsListController::changed);
-    Q_EMIT modelChanged();
+    connect(&model, &AppModel::itemsChanged, this, &ArrivalsListController::update);
+    connect(&model, &AppModel::watchFolderChanged, this, &ArrivalsListController::changed);
     update();
+}
+
+ArrivalsListController *ArrivalsListController::create(QQmlEngine *engine, QJSEngine *scriptEngine)
+{
+    return new ArrivalsListController(*AppModelSingleton::create(engine, scriptEngine));
 }
 
 bool ArrivalsListController::canClear() const
 {
-    return m_model && !isEmpty() && !m_model->isBusy();
-}
-
-QString ArrivalsListController::readyText() const
-{
-    return ConversionItemTexts::readyText(m_model ? m_model->readyCount() : 0);
+    return !isEmpty() && !m_model.isBusy();
 }
 
 QString ArrivalsListController::emptyHint() const
 {
-    const QUrl folder = m_model ? m_model->watchFolder() : QUrl();
-    return tr("AirDrop into %1, or choose a HEIC photo above.").arg(folder.fileName());
+    return tr("AirDrop into %1, or choose a HEIC photo above.").arg(m_model.watchFolder().fileName());
 }
 
 void ArrivalsListController::reveal(int row)
 {
-    m_model->reveal(m_arrivals.item(row));
+    m_model.reveal(m_arrivals.item(row));
 }
 
 void ArrivalsListController::tryAgain(int row)
 {
-    m_model->convertManually({m_arrivals.item(row).sourceURL});
+    m_model.convertManually({m_arrivals.item(row).sourceURL});
 }
 
 void ArrivalsListController::update()
 {
-    m_arrivals.setItems(m_model->items());
+    m_arrivals.setItems(m_model.items());
     Q_EMIT changed();
 }

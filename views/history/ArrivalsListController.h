@@ -6,30 +6,30 @@
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
+class QJSEngine;
+class QQmlEngine;
+
 /// What the list of recent arrivals shows, and what its buttons do.
 class ArrivalsListController : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(AppModel *model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
+    QML_SINGLETON
     Q_PROPERTY(ArrivalsListModel *arrivals READ arrivals CONSTANT)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
     Q_PROPERTY(bool canClear READ canClear NOTIFY changed)
-    Q_PROPERTY(QString readyText READ readyText NOTIFY changed)
     Q_PROPERTY(QString emptyHint READ emptyHint NOTIFY changed)
 
 public:
-    using QObject::QObject;
-
-    AppModel *model() const { return m_model; }
-    void setModel(AppModel *model);
+    /// `model` must outlive the controller.
+    explicit ArrivalsListController(AppModel &model, QObject *parent = nullptr);
+    static ArrivalsListController *create(QQmlEngine *engine, QJSEngine *scriptEngine);
 
     ArrivalsListModel *arrivals() { return &m_arrivals; }
     bool isEmpty() const { return m_arrivals.rowCount() == 0; }
     /// There is something to clear, and no conversion is running.
     bool canClear() const;
-    QString readyText() const;
-    /// Where the next photo is to go, while there is none.
+    /// Where the next photo is to go; shown while there is none.
     QString emptyHint() const;
 
     /// Shows the row's converted file in the file manager.
@@ -38,12 +38,11 @@ public:
     Q_INVOKABLE void tryAgain(int row);
 
 Q_SIGNALS:
-    void modelChanged();
     void changed();
 
 private:
     void update();
 
-    AppModel *m_model = nullptr;
+    AppModel &m_model;
     ArrivalsListModel m_arrivals;
 };

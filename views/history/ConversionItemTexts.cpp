@@ -29,11 +29,6 @@ QString statusSymbol(const ConversionItem &item)
     Q_UNREACHABLE();
 }
 
-QString readyText(int count)
-{
-    return QCoreApplication::translate("ConversionItem", "%1 ready").arg(count);
-}
-
 QString statusText(const ConversionItem &item, const QString &withoutMessage)
 {
     switch (item.status) {

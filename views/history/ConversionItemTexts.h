@@ -10,8 +10,6 @@ QString displayName(const ConversionItem &item);
 /// The converted file, else the source.
 QUrl displayFile(const ConversionItem &item);
 QString statusSymbol(const ConversionItem &item);
-/// How many entries are ready.
-QString readyText(int count);
 /// A failed entry shows its message, or `withoutMessage` when it has none.
 QString statusText(const ConversionItem &item, const QString &withoutMessage);
 

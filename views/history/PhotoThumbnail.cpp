@@ -48,7 +48,9 @@ void paintPlaceholder(QPainter &painter, const QRectF &frame)
 
 PhotoThumbnail::PhotoThumbnail(QQuickItem *parent)
     : PaintedImage(parent)
-{}
+{
+    connect(this, &PhotoThumbnail::frameChanged, this, &PhotoThumbnail::repaint);
+}
 
 PhotoThumbnail::~PhotoThumbnail() = default;
 
@@ -63,24 +65,6 @@ void PhotoThumbnail::setUrl(const QUrl &url)
     Q_EMIT urlChanged();
     if (!url.isEmpty()) {
         m_request = ThumbnailStore::shared().image(url, [this](const QImage &image) { setImage(image); });
-    }
-}
-
-void PhotoThumbnail::setVariant(int variant)
-{
-    if (m_variant != variant) {
-        m_variant = variant;
-        Q_EMIT variantChanged();
-        repaint();
-    }
-}
-
-void PhotoThumbnail::setCornerRadius(double radius)
-{
-    if (m_cornerRadius != radius) {
-        m_cornerRadius = radius;
-        Q_EMIT cornerRadiusChanged();
-        repaint();
     }
 }
 

@@ -19,9 +19,9 @@ class PhotoThumbnail : public PaintedImage
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QUrl url READ url WRITE setUrl NOTIFY urlChanged)
-    Q_PROPERTY(int variant READ variant WRITE setVariant NOTIFY variantChanged)
-    Q_PROPERTY(double cornerRadius READ cornerRadius WRITE setCornerRadius NOTIFY cornerRadiusChanged)
-    Q_PROPERTY(double margin MEMBER m_margin FINAL)
+    Q_PROPERTY(int variant MEMBER m_variant NOTIFY frameChanged)
+    Q_PROPERTY(double cornerRadius MEMBER m_cornerRadius NOTIFY frameChanged)
+    Q_PROPERTY(double margin MEMBER m_margin NOTIFY frameChanged)
     Q_PROPERTY(bool loaded READ isLoaded NOTIFY loadedChanged)
 
 public:
@@ -29,20 +29,13 @@ public:
     ~PhotoThumbnail() override;
 
     QUrl url() const { return m_url; }
-    /// The gradient behind: odd ones are warm, even ones blue.
-    int variant() const { return m_variant; }
-    /// The frame's corners, in points.
-    double cornerRadius() const { return m_cornerRadius; }
     bool isLoaded() const { return !m_image.isNull(); }
 
     void setUrl(const QUrl &url);
-    void setVariant(int variant);
-    void setCornerRadius(double radius);
 
 Q_SIGNALS:
     void urlChanged();
-    void variantChanged();
-    void cornerRadiusChanged();
+    void frameChanged();
     void loadedChanged();
 
 protected:
@@ -52,9 +45,9 @@ private:
     void setImage(const QImage &image);
 
     QUrl m_url;
-    int m_variant = 0;
-    double m_cornerRadius = 0.0;
-    double m_margin = 0.0; ///< transparent points around the frame, for the edges of a turned picture
+    int m_variant = 0;           ///< of the gradient: an odd number is warm, an even one blue
+    double m_cornerRadius = 0.0; ///< of the frame, in points
+    double m_margin = 0.0;       ///< transparent points around the frame, for the edges of a turned picture
     QImage m_image;
     std::unique_ptr<ThumbnailRequest> m_request;
 };

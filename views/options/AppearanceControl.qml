@@ -1,6 +1,5 @@
 import QtQuick
 import Lumaport.Controls
-import Lumaport.Interaction
 import Lumaport.Options
 
 // The switch between the system's appearance, light and dark.
@@ -24,12 +23,6 @@ SegmentedControl {
             symbol: "moon"
         }
     ]
-    selection: controller.appearanceMode
-    onChosen: choice => controller.appearanceMode = choice
-
-    OptionsController {
-        id: controller
-
-        model: AppModel
-    }
+    selection: OptionsController.appearanceMode
+    onChosen: choice => OptionsController.appearanceMode = choice
 }

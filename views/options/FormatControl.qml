@@ -1,6 +1,5 @@
 import QtQuick
 import Lumaport.Controls
-import Lumaport.Interaction
 import Lumaport.Options
 
 // The switch between the output formats.
@@ -19,12 +18,6 @@ SegmentedControl {
         }
     ]
     spacing: 7
-    selection: controller.format
-    onChosen: choice => controller.format = choice
-
-    OptionsController {
-        id: controller
-
-        model: AppModel
-    }
+    selection: OptionsController.format
+    onChosen: choice => OptionsController.format = choice
 }

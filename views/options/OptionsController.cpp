@@ -1,89 +1,97 @@
 #include "OptionsController.h"
 
-#include "OptionTexts.h"
+#include "AppModelSingleton.h"
+
+#include <QCoreApplication>
 
 #include <cmath>
 
 namespace {
 
+// The options' stored texts are named here for the translators.
+[[maybe_unused]] constexpr const char *translatable[] = {
+    QT_TRANSLATE_NOOP("Options", "Beside originals"),
+    QT_TRANSLATE_NOOP("Options", "Lumaport folder"),
+    QT_TRANSLATE_NOOP("Options", "Keep originals"),
+    QT_TRANSLATE_NOOP("Options", "Move to Originals"),
+};
+
+/// What the user reads of an option: its stored English text, in the user's language.
 template<typename Option>
-int choiceOf(Option option)
+QString optionText(Option option)
 {
-    const auto &cases = OptionCases<Option>::cases;
-    const auto found = std::find_if(cases.begin(), cases.end(),
-                                    [option](const auto &each) { return each.option == option; });
-    return static_cast<int>(found - cases.begin());
+    return QCoreApplication::translate("Options", rawValue(option).toLatin1().constData());
 }
 
+/// The texts of all cases, in the order of the choices.
 template<typename Option>
-Option optionOf(int choice)
+QStringList optionTexts()
 {
-    return OptionCases<Option>::cases.at(static_cast<std::size_t>(choice)).option;
+    QStringList texts;
+    for (const char *text : rawValues<Option>) {
+        texts.append(QCoreApplication::translate("Options", text));
+    }
+    return texts;
 }
 
 } // namespace
 
-void OptionsController::setModel(AppModel *model)
+OptionsController::OptionsController(AppModel &model, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
 {
-    if (m_model == model) {
-        return;
-    }
-    if (m_model) {
-        m_model->disconnect(this);
-    }
-    m_model = model;
-    connect(model, &AppModel::watchFolderChanged, this, &OptionsController::watchFolderChanged);
-    connect(model, &AppModel::itemsChanged, this, &OptionsController::busyChanged);
-    connect(model, &AppModel::settingsChanged, this, &OptionsController::settingsChanged);
-    connect(model, &AppModel::appearanceModeChanged, this, &OptionsController::appearanceModeChanged);
-    Q_EMIT modelChanged();
-    Q_EMIT watchFolderChanged();
-    Q_EMIT busyChanged();
-    Q_EMIT settingsChanged();
-    Q_EMIT appearanceModeChanged();
+    connect(&model, &AppModel::watchFolderChanged, this, &OptionsController::watchFolderChanged);
+    connect(&model, &AppModel::itemsChanged, this, &OptionsController::busyChanged);
+    connect(&model, &AppModel::settingsChanged, this, &OptionsController::settingsChanged);
+    connect(&model, &AppModel::appearanceModeChanged, this, &OptionsController::appearanceModeChanged);
 }
 
-ConversionSettings OptionsController::settings() const
+OptionsController *OptionsController::create(QQmlEngine *engine, QJSEngine *scriptEngine)
 {
-    return m_model ? m_model->settings() : ConversionSettings();
+    return new OptionsController(*AppModelSingleton::create(engine, scriptEngine));
 }
 
 template<typename Change>
 void OptionsController::changeSettings(Change change)
 {
-    ConversionSettings settings = m_model->settings();
+    ConversionSettings settings = m_model.settings();
     change(settings);
-    m_model->setSettings(settings);
+    m_model.setSettings(settings);
+}
+
+QString OptionsController::watchFolderName() const
+{
+    return m_model.watchFolder().fileName();
 }
 
 QString OptionsController::watchFolderPath() const
 {
-    return m_model ? m_model->watchFolder().toLocalFile() : QString();
+    return m_model.watchFolder().toLocalFile();
 }
 
 bool OptionsController::canConvertExisting() const
 {
-    return m_model && !m_model->isBusy();
+    return !m_model.isBusy();
 }
 
 int OptionsController::format() const
 {
-    return choiceOf(settings().format);
+    return static_cast<int>(m_model.settings().format);
 }
 
 bool OptionsController::hasQuality() const
 {
-    return settings().format == OutputFormat::jpeg;
+    return m_model.settings().format == OutputFormat::jpeg;
 }
 
 double OptionsController::jpegQuality() const
 {
-    return settings().jpegQuality;
+    return m_model.settings().jpegQuality;
 }
 
 QString OptionsController::qualityText() const
 {
-    return tr("%1% quality").arg(static_cast<int>(settings().jpegQuality * 100));
+    return tr("%1% quality").arg(static_cast<int>(m_model.settings().jpegQuality * 100));
 }
 
 QStringList OptionsController::outputLocations()
@@ -91,9 +99,14 @@ QStringList OptionsController::outputLocations()
     return optionTexts<OutputLocation>();
 }
 
+QString OptionsController::outputLocationText() const
+{
+    return optionText(m_model.settings().outputLocation);
+}
+
 int OptionsController::outputLocation() const
 {
-    return choiceOf(settings().outputLocation);
+    return static_cast<int>(m_model.settings().outputLocation);
 }
 
 QStringList OptionsController::originalPolicies()
@@ -103,22 +116,23 @@ QStringList OptionsController::originalPolicies()
 
 int OptionsController::originalPolicy() const
 {
-    return choiceOf(settings().originalPolicy);
+    return static_cast<int>(m_model.settings().originalPolicy);
 }
 
 bool OptionsController::notificationsEnabled() const
 {
-    return settings().notificationsEnabled;
+    return m_model.settings().notificationsEnabled;
 }
 
 int OptionsController::appearanceMode() const
 {
-    return m_model ? choiceOf(m_model->appearanceMode()) : 0;
+    return static_cast<int>(m_model.appearanceMode());
 }
 
 void OptionsController::setFormat(int choice)
 {
-    changeSettings([=](ConversionSettings &settings) { settings.format = optionOf<OutputFormat>(choice); });
+    changeSettings(
+        [=](ConversionSettings &settings) { settings.format = static_cast<OutputFormat>(choice); });
 }
 
 void OptionsController::setJpegQuality(double quality)
@@ -134,13 +148,13 @@ void OptionsController::moveQuality(double position)
 void OptionsController::setOutputLocation(int choice)
 {
     changeSettings(
-        [=](ConversionSettings &settings) { settings.outputLocation = optionOf<OutputLocation>(choice); });
+        [=](ConversionSettings &settings) { settings.outputLocation = static_cast<OutputLocation>(choice); });
 }
 
 void OptionsController::setOriginalPolicy(int choice)
 {
     changeSettings(
-        [=](ConversionSettings &settings) { settings.originalPolicy = optionOf<OriginalPolicy>(choice); });
+        [=](ConversionSettings &settings) { settings.originalPolicy = static_cast<OriginalPolicy>(choice); });
 }
 
 void OptionsController::setNotificationsEnabled(bool enabled)
@@ -150,5 +164,5 @@ void OptionsController::setNotificationsEnabled(bool enabled)
 
 void OptionsController::setAppearanceMode(int choice)
 {
-    m_model->setAppearanceMode(optionOf<AppearanceMode>(choice));
+    m_model.setAppearanceMode(static_cast<AppearanceMode>(choice));
 }

@@ -7,13 +7,17 @@
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
+class QJSEngine;
+class QQmlEngine;
+
 /// The settings as the options panel and the segmented controls show them: each choice is its number in the
 /// order of the cases. Every change goes to the model at once; nothing is checked or clamped here.
 class OptionsController : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(AppModel *model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
+    QML_SINGLETON
+    Q_PROPERTY(QString watchFolderName READ watchFolderName NOTIFY watchFolderChanged)
     Q_PROPERTY(QString watchFolderPath READ watchFolderPath NOTIFY watchFolderChanged)
     Q_PROPERTY(bool canConvertExisting READ canConvertExisting NOTIFY busyChanged)
     Q_PROPERTY(int format READ format WRITE setFormat NOTIFY settingsChanged)
@@ -21,6 +25,7 @@ class OptionsController : public QObject
     Q_PROPERTY(double jpegQuality READ jpegQuality WRITE setJpegQuality NOTIFY settingsChanged)
     Q_PROPERTY(QString qualityText READ qualityText NOTIFY settingsChanged)
     Q_PROPERTY(QStringList outputLocations READ outputLocations CONSTANT)
+    Q_PROPERTY(QString outputLocationText READ outputLocationText NOTIFY settingsChanged)
     Q_PROPERTY(int outputLocation READ outputLocation WRITE setOutputLocation NOTIFY settingsChanged)
     Q_PROPERTY(QStringList originalPolicies READ originalPolicies CONSTANT)
     Q_PROPERTY(int originalPolicy READ originalPolicy WRITE setOriginalPolicy NOTIFY settingsChanged)
@@ -29,28 +34,29 @@ class OptionsController : public QObject
     Q_PROPERTY(int appearanceMode READ appearanceMode WRITE setAppearanceMode NOTIFY appearanceModeChanged)
 
 public:
-    using QObject::QObject;
+    /// `model` must outlive the controller.
+    explicit OptionsController(AppModel &model, QObject *parent = nullptr);
+    static OptionsController *create(QQmlEngine *engine, QJSEngine *scriptEngine);
 
-    AppModel *model() const { return m_model; }
-    void setModel(AppModel *model);
-
+    QString watchFolderName() const;
     QString watchFolderPath() const;
     bool canConvertExisting() const;
     int format() const;
     /// Only JPEG has a quality.
     bool hasQuality() const;
     double jpegQuality() const;
-    /// In whole percent, cut off rather than rounded.
+    /// In whole percent, truncated.
     QString qualityText() const;
     static QStringList outputLocations();
+    QString outputLocationText() const;
     int outputLocation() const;
     static QStringList originalPolicies();
     int originalPolicy() const;
     bool notificationsEnabled() const;
     int appearanceMode() const;
 
-    /// Takes a slider's position, whose steps are whole percents, without what adding up steps leaves behind
-    /// (three steps down from 1 are 0.8499999999999999).
+    /// Sets the quality to a slider's position, rounded to whole percent: the slider's sums of steps are not
+    /// exact (three steps down from 1 are 0.8499999999999999).
     Q_INVOKABLE void moveQuality(double position);
 
     void setFormat(int choice);
@@ -61,16 +67,14 @@ public:
     void setAppearanceMode(int choice);
 
 Q_SIGNALS:
-    void modelChanged();
     void watchFolderChanged();
     void busyChanged();
     void settingsChanged();
     void appearanceModeChanged();
 
 private:
-    ConversionSettings settings() const;
     template<typename Change>
     void changeSettings(Change change);
 
-    AppModel *m_model = nullptr;
+    AppModel &m_model;
 };

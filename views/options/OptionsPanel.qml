@@ -19,12 +19,6 @@ Rectangle {
     color: LumaportPalette.panel
     implicitWidth: 258
 
-    OptionsController {
-        id: controller
-
-        model: AppModel
-    }
-
     UprightScrollView {
         anchors.fill: parent
         clip: true
@@ -67,7 +61,7 @@ Rectangle {
                 SelectableText {
                     Layout.fillWidth: true
                     objectName: "folderPath"
-                    text: controller.watchFolderPath
+                    text: OptionsController.watchFolderPath
                 }
 
                 Flow {
@@ -89,7 +83,7 @@ Rectangle {
 
                 TextButton {
                     Layout.maximumWidth: column.width
-                    enabled: controller.canConvertExisting
+                    enabled: OptionsController.canConvertExisting
                     leftPadding: 0
                     objectName: "convertExisting"
                     text: qsTr("Convert existing HEIC photos")
@@ -102,7 +96,7 @@ Rectangle {
             OptionSection {
                 objectName: "quality"
                 title: qsTr("JPEG quality")
-                visible: controller.hasQuality
+                visible: OptionsController.hasQuality
 
                 QualitySlider {
                     Layout.fillWidth: true
@@ -112,8 +106,8 @@ Rectangle {
                     snapMode: QualitySlider.SnapAlways
                     stepSize: 0.05
                     to: 1
-                    value: controller.jpegQuality
-                    onMoved: controller.moveQuality(value)
+                    value: OptionsController.jpegQuality
+                    onMoved: OptionsController.moveQuality(value)
                 }
 
                 BodyText {
@@ -121,7 +115,7 @@ Rectangle {
                     color: LumaportPalette.muted
                     objectName: "qualityText"
                     size: 11
-                    text: controller.qualityText
+                    text: OptionsController.qualityText
                     wrapMode: Text.Wrap
                 }
             }
@@ -131,11 +125,11 @@ Rectangle {
 
                 PopUpPicker {
                     Layout.fillWidth: true
-                    currentIndex: controller.outputLocation
-                    model: controller.outputLocations
+                    currentIndex: OptionsController.outputLocation
+                    model: OptionsController.outputLocations
                     name: qsTr("Save converted photos")
                     objectName: "outputLocation"
-                    onActivated: index => controller.outputLocation = index
+                    onActivated: index => OptionsController.outputLocation = index
                 }
             }
 
@@ -144,11 +138,11 @@ Rectangle {
 
                 PopUpPicker {
                     Layout.fillWidth: true
-                    currentIndex: controller.originalPolicy
-                    model: controller.originalPolicies
+                    currentIndex: OptionsController.originalPolicy
+                    model: OptionsController.originalPolicies
                     name: qsTr("Original photos")
                     objectName: "originalPolicy"
-                    onActivated: index => controller.originalPolicy = index
+                    onActivated: index => OptionsController.originalPolicy = index
                 }
             }
 
@@ -156,10 +150,10 @@ Rectangle {
 
             SmallSwitch {
                 Layout.fillWidth: true
-                checked: controller.notificationsEnabled
+                checked: OptionsController.notificationsEnabled
                 objectName: "notify"
                 text: qsTr("Notify when ready")
-                onChosen: on => controller.notificationsEnabled = on
+                onChosen: on => OptionsController.notificationsEnabled = on
             }
 
             BodyText {

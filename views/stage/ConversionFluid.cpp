@@ -38,24 +38,7 @@ ConversionFluid::ConversionFluid(QQuickItem *parent)
     : QQuickPaintedItem(parent)
 {
     setAntialiasing(true);
-}
-
-void ConversionFluid::setActive(bool active)
-{
-    if (m_active != active) {
-        m_active = active;
-        Q_EMIT activeChanged();
-        updateMotion();
-    }
-}
-
-void ConversionFluid::setReduceMotion(bool reduce)
-{
-    if (m_reduceMotion != reduce) {
-        m_reduceMotion = reduce;
-        Q_EMIT reduceMotionChanged();
-        updateMotion();
-    }
+    connect(this, &ConversionFluid::motionChanged, this, &ConversionFluid::updateMotion);
 }
 
 void ConversionFluid::setTime(double seconds)

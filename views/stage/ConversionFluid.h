@@ -12,18 +12,14 @@ class ConversionFluid : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged)
-    Q_PROPERTY(bool reduceMotion READ reduceMotion WRITE setReduceMotion NOTIFY reduceMotionChanged)
+    Q_PROPERTY(bool active MEMBER m_active NOTIFY motionChanged)
+    Q_PROPERTY(bool reduceMotion MEMBER m_reduceMotion NOTIFY motionChanged)
     Q_PROPERTY(double time READ time WRITE setTime NOTIFY timeChanged)
     Q_PROPERTY(bool moving READ isMoving NOTIFY movingChanged)
 
 public:
     explicit ConversionFluid(QQuickItem *parent = nullptr);
 
-    bool isActive() const { return m_active; }
-    void setActive(bool active);
-    bool reduceMotion() const { return m_reduceMotion; }
-    void setReduceMotion(bool reduce);
     /// Seconds since the reference date: the moment that is drawn. While moving it follows the clock; without
     /// motion or activity it is 0.
     double time() const { return m_time; }
@@ -33,8 +29,7 @@ public:
     void paint(QPainter *painter) override;
 
 Q_SIGNALS:
-    void activeChanged();
-    void reduceMotionChanged();
+    void motionChanged();
     void timeChanged();
     void movingChanged();
 

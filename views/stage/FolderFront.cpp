@@ -26,14 +26,6 @@ FolderFront::FolderFront(QQuickItem *parent)
     setOversampling(oversampling);
 }
 
-void FolderFront::setTilt(double degrees)
-{
-    if (m_tilt != degrees) {
-        m_tilt = degrees;
-        Q_EMIT tiltChanged();
-    }
-}
-
 QMatrix4x4 FolderFront::tiltMatrix() const
 {
     const auto hingeX = static_cast<float>(air + frontSize.width() / 2.0);

@@ -11,15 +11,12 @@ class FolderFront : public PaintedImage
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(double tilt READ tilt WRITE setTilt NOTIFY tiltChanged)
+    Q_PROPERTY(double tilt MEMBER m_tilt NOTIFY tiltChanged)
     Q_PROPERTY(QMatrix4x4 tiltMatrix READ tiltMatrix NOTIFY tiltChanged)
 
 public:
     explicit FolderFront(QQuickItem *parent = nullptr);
 
-    /// Degrees; negative leans the top edge towards the viewer.
-    double tilt() const { return m_tilt; }
-    void setTilt(double degrees);
     /// From the item's flat plane to the screen, seen from as far away as the front is wide. Depth is left
     /// out: the scene has none, and would cut off what leaves its plane.
     QMatrix4x4 tiltMatrix() const;
@@ -31,5 +28,5 @@ protected:
     void paint(QPainter *painter) override;
 
 private:
-    double m_tilt = 0.0;
+    double m_tilt = 0.0; ///< degrees; negative turns the top edge towards the viewer
 };

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Lumaport.Drawing
+import Lumaport.Interaction
 import Lumaport.Stage
 import Lumaport.Vocabulary
 
@@ -33,7 +34,7 @@ Item {
 
         dampingFraction: 0.72
         response: 0.48
-        to: stage.controller.targeted && !SystemAppearance.reduceMotion ? 1.04 : 1
+        to: AppModel.isDropTargeted && !SystemAppearance.reduceMotion ? 1.04 : 1
     }
 
     Item {

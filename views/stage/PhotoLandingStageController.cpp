@@ -20,11 +20,6 @@ PhotoLandingStageController::PhotoLandingStageController(const AppModel &model, 
     connect(&model, &AppModel::isDropTargetedChanged, this, &PhotoLandingStageController::changed);
 }
 
-bool PhotoLandingStageController::isTargeted() const
-{
-    return m_model.isDropTargeted();
-}
-
 void PhotoLandingStageController::setHovered(bool hovered)
 {
     if (m_hovered != hovered) {
@@ -35,7 +30,7 @@ void PhotoLandingStageController::setHovered(bool hovered)
 
 bool PhotoLandingStageController::isExpanded() const
 {
-    return isTargeted() || m_hovered || m_model.activeStatus() == ConversionStatus::ready;
+    return m_model.isDropTargeted() || m_hovered || m_model.activeStatus() == ConversionStatus::ready;
 }
 
 bool PhotoLandingStageController::showsFluid() const

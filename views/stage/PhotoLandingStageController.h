@@ -12,7 +12,6 @@ class PhotoLandingStageController : public QAbstractListModel
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("A part of the main window's controller.")
-    Q_PROPERTY(bool targeted READ isTargeted NOTIFY changed)
     Q_PROPERTY(bool hovered READ isHovered WRITE setHovered NOTIFY changed)
     Q_PROPERTY(bool expanded READ isExpanded NOTIFY changed)
     Q_PROPERTY(bool showsFluid READ showsFluid NOTIFY changed)
@@ -30,8 +29,6 @@ public:
     /// `model` must outlive the controller.
     explicit PhotoLandingStageController(const AppModel &model, QObject *parent = nullptr);
 
-    /// A drag is over the landing workspace.
-    bool isTargeted() const;
     /// The pointer is over the stage.
     bool isHovered() const { return m_hovered; }
     void setHovered(bool hovered);

@@ -26,22 +26,6 @@ void SpringMotion::setTo(double goal)
     setMoving(true);
 }
 
-void SpringMotion::setResponse(double seconds)
-{
-    if (m_response != seconds) {
-        m_response = seconds;
-        Q_EMIT responseChanged();
-    }
-}
-
-void SpringMotion::setDampingFraction(double fraction)
-{
-    if (m_dampingFraction != fraction) {
-        m_dampingFraction = fraction;
-        Q_EMIT dampingFractionChanged();
-    }
-}
-
 void SpringMotion::setAnimated(bool animated)
 {
     if (m_animated == animated) {

@@ -18,9 +18,8 @@ class SpringMotion : public QObject, public QQmlParserStatus
     QML_ELEMENT
     Q_PROPERTY(double to READ to WRITE setTo NOTIFY toChanged)
     Q_PROPERTY(double value READ value NOTIFY valueChanged)
-    Q_PROPERTY(double response READ response WRITE setResponse NOTIFY responseChanged)
-    Q_PROPERTY(
-        double dampingFraction READ dampingFraction WRITE setDampingFraction NOTIFY dampingFractionChanged)
+    Q_PROPERTY(double response MEMBER m_response NOTIFY springChanged)
+    Q_PROPERTY(double dampingFraction MEMBER m_dampingFraction NOTIFY springChanged)
     Q_PROPERTY(bool animated READ isAnimated WRITE setAnimated NOTIFY animatedChanged)
     Q_PROPERTY(bool moving READ isMoving NOTIFY movingChanged)
 
@@ -29,14 +28,10 @@ public:
 
     double to() const { return m_to; }
     double value() const { return m_to + m_state.displacement; }
-    double response() const { return m_response; }
-    double dampingFraction() const { return m_dampingFraction; }
     bool isAnimated() const { return m_animated; }
     bool isMoving() const { return m_moving; }
 
     void setTo(double goal);
-    void setResponse(double seconds);
-    void setDampingFraction(double fraction);
     void setAnimated(bool animated);
 
     /// Lets `seconds` pass. At rest it does nothing.
@@ -48,8 +43,7 @@ public:
 Q_SIGNALS:
     void toChanged();
     void valueChanged();
-    void responseChanged();
-    void dampingFractionChanged();
+    void springChanged();
     void animatedChanged();
     void movingChanged();
 

@@ -9,8 +9,8 @@
 
 namespace {
 
-// The files are drawn on a square of 24 units with 2 to 3 units of air: so a symbol's body is a little taller
-// than the capitals of the text beside it.
+// Each file is a square of 24 units with an empty margin of 2 to 3 units. At this size a symbol is a little
+// taller than the capitals of the text beside it.
 constexpr double boxPerPoint = 1.4;
 
 QString symbolFile(const QString &name)
@@ -31,46 +31,23 @@ Symbol::Symbol(QQuickItem *parent)
     : QQuickPaintedItem(parent)
 {
     setAntialiasing(true);
-    updateImplicitSize();
+    connect(this, &Symbol::changed, this, &Symbol::follow);
+    follow();
 }
 
-void Symbol::setName(const QString &name)
+void Symbol::follow()
 {
-    if (m_name != name) {
-        m_name = name;
-        Q_EMIT nameChanged();
-        update();
+    if (!m_name.isEmpty() && !QFile::exists(symbolFile(m_name))) {
+        qWarning("There is no symbol named \"%s\"", qPrintable(m_name));
     }
-}
-
-void Symbol::setColor(const QColor &color)
-{
-    if (m_color != color) {
-        m_color = color;
-        Q_EMIT colorChanged();
-        update();
-    }
-}
-
-void Symbol::setPointSize(double size)
-{
-    if (m_pointSize != size) {
-        m_pointSize = size;
-        updateImplicitSize();
-        Q_EMIT pointSizeChanged();
-        update();
-    }
-}
-
-void Symbol::updateImplicitSize()
-{
     const double side = std::round(m_pointSize * boxPerPoint);
     setImplicitSize(side, side);
+    update();
 }
 
 void Symbol::paint(QPainter *painter)
 {
-    if (!QFile::exists(symbolFile(m_name))) {
+    if (m_name.isEmpty()) {
         return;
     }
     const QRectF bounds = boundingRect();
@@ -82,9 +59,6 @@ void Symbol::paint(QPainter *painter)
 
 QImage Symbol::image(const QString &name, const QColor &color, int pixels)
 {
-    if (!QFile::exists(symbolFile(name))) {
-        return {};
-    }
     QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

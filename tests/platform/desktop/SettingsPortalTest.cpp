@@ -1,69 +1,51 @@
 #include "SettingsPortal.h"
 
+#include "FakeService.h"
 #include "SystemAppearance.h"
 
-#include <QDBusConnection>
-#include <QDBusError>
-#include <QDBusMessage>
 #include <QDBusVariant>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QTest>
 
-#include <memory>
+namespace {
 
-// The desktop's side: answers Read and sends SettingChanged, under the portal's own name on the test's
-// private bus.
-class FakePortal : public QObject
+using Key = std::pair<const char *, const char *>; // its group and its name
+
+constexpr Key scheme{"org.freedesktop.appearance", "color-scheme"};
+constexpr Key animations{"org.gnome.desktop.interface", "enable-animations"};
+constexpr Key factor{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
+
+} // namespace
+
+class FakePortal : public FakeService
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
 
 public:
     FakePortal()
-        : m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("fake portal")))
-    {
-        m_bus.registerObject(path(), this, QDBusConnection::ExportAllSlots);
-    }
-    ~FakePortal() override
-    {
-        m_bus.unregisterService(name());
-        QDBusConnection::disconnectFromBus(QStringLiteral("fake portal"));
-    }
+        : FakeService("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop")
+    {}
 
-    bool start() { return m_bus.registerService(name()); }
-    void set(const QString &group, const QString &key, const QVariant &value)
+    void change(const Key &key, const QVariant &value)
     {
-        m_values[group + key] = value;
-    }
-
-    void change(const QString &group, const QString &key, const QVariant &value)
-    {
-        set(group, key, value);
-        QDBusMessage signal = QDBusMessage::createSignal(
-            path(), QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("SettingChanged"));
-        signal << group << key << QVariant::fromValue(QDBusVariant(value));
-        m_bus.send(signal);
+        m_values[QString(key.first) + key.second] = value;
+        emitSignal("SettingChanged", {key.first, key.second, QVariant::fromValue(QDBusVariant(value))});
     }
 
 public Q_SLOTS:
-    QDBusVariant Read(const QString &group, const QString &key, const QDBusMessage &message)
+    QDBusVariant Read(const QString &group, const QString &name, const QDBusMessage &message)
     {
-        const QVariant value = m_values.value(group + key);
+        const QVariant value = m_values.value(group + name);
         if (!value.isValid()) {
-            message.setDelayedReply(true);
-            m_bus.send(
-                message.createErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"), key));
+            refuse(message, "org.freedesktop.portal.Error.NotFound");
         }
         // As the portal does it: a variant in a variant.
         return QDBusVariant(QVariant::fromValue(QDBusVariant(value)));
     }
 
 private:
-    static QString name() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
-    static QString path() { return QStringLiteral("/org/freedesktop/portal/desktop"); }
-
-    QDBusConnection m_bus;
     QHash<QString, QVariant> m_values;
 };
 
@@ -71,62 +53,44 @@ class SettingsPortalTest : public QObject
 {
     Q_OBJECT
 
-    const QString m_appearanceGroup = QStringLiteral("org.freedesktop.appearance");
-    const QString m_scheme = QStringLiteral("color-scheme");
-    const QString m_gnome = QStringLiteral("org.gnome.desktop.interface");
-    const QString m_animations = QStringLiteral("enable-animations");
-    const QString m_kde = QStringLiteral("org.kde.kdeglobals.KDE");
-    const QString m_factor = QStringLiteral("AnimationDurationFactor");
-
-    std::unique_ptr<FakePortal> m_portal;
-    std::unique_ptr<SystemAppearance> m_appearance;
-
-    std::unique_ptr<SettingsPortal> follow()
-    {
-        return std::make_unique<SettingsPortal>(QDBusConnection::sessionBus(), *m_appearance);
-    }
-
 private Q_SLOTS:
-    void init()
+    void shouldReadWhatThePortalSaysWheneverItComes()
     {
-        m_portal = std::make_unique<FakePortal>();
-        m_appearance = std::make_unique<SystemAppearance>();
-    }
-
-    void shouldReadWhatThePortalSaysAtTheStart()
-    {
-        m_portal->set(m_appearanceGroup, m_scheme, 1U);
-        m_portal->set(m_gnome, m_animations, false);
-        QVERIFY(m_portal->start());
-        const auto follower = follow();
-        QTRY_VERIFY(m_appearance->isDark());
-        QTRY_VERIFY(m_appearance->reduceMotion());
+        FakePortal portal;
+        portal.change(scheme, 1U);
+        portal.change(animations, false);
+        portal.come();
+        for (const bool isLater : {false, true}) {
+            if (isLater) {
+                portal.leave();
+            }
+            SystemAppearance appearance;
+            const SettingsPortal follower(QDBusConnection::sessionBus(), appearance);
+            if (isLater) {
+                portal.come();
+            }
+            QTRY_VERIFY(appearance.isDark() && appearance.reduceMotion());
+        }
     }
 
     void shouldFollowChangesLive()
     {
-        QVERIFY(m_portal->start());
-        const auto follower = follow();
-        m_portal->change(m_appearanceGroup, m_scheme, 1U);
-        QTRY_VERIFY(m_appearance->isDark());
-        m_portal->change(m_appearanceGroup, m_scheme, 2U);
-        QTRY_VERIFY(!m_appearance->isDark());
-        m_portal->change(m_kde, m_factor, QStringLiteral("0"));
-        QTRY_VERIFY(m_appearance->reduceMotion());
-        m_portal->change(m_gnome, m_animations, true); // the other desktop's key does not take it back
-        m_portal->change(m_appearanceGroup, m_scheme, 1U);
-        QTRY_VERIFY(m_appearance->isDark());
-        QVERIFY(m_appearance->reduceMotion());
-        m_portal->change(m_kde, m_factor, QStringLiteral("0.5"));
-        QTRY_VERIFY(!m_appearance->reduceMotion());
-    }
-
-    void shouldReadWhenThePortalComesLater()
-    {
-        const auto follower = follow();
-        m_portal->set(m_appearanceGroup, m_scheme, 1U);
-        QVERIFY(m_portal->start());
-        QTRY_VERIFY(m_appearance->isDark());
+        FakePortal portal;
+        portal.come();
+        SystemAppearance appearance;
+        const SettingsPortal follower(QDBusConnection::sessionBus(), appearance);
+        portal.change(scheme, 1U);
+        QTRY_VERIFY(appearance.isDark());
+        portal.change(scheme, 2U);
+        QTRY_VERIFY(!appearance.isDark());
+        portal.change(factor, "0");
+        QTRY_VERIFY(appearance.reduceMotion());
+        portal.change(animations, true); // the other desktop's key does not take it back
+        portal.change(scheme, 1U);
+        QTRY_VERIFY(appearance.isDark());
+        QVERIFY(appearance.reduceMotion());
+        portal.change(factor, "0.5");
+        QTRY_VERIFY(!appearance.reduceMotion());
     }
 
     void shouldSetTheWidgetPaletteWithTheEffectiveScheme()
@@ -135,14 +99,15 @@ private Q_SLOTS:
             const QPalette palette = QGuiApplication::palette();
             return palette.color(ground).lightness() < palette.color(text).lightness();
         };
-        m_appearance->force(SystemAppearance::ColorScheme::Dark);
+        SystemAppearance appearance;
+        appearance.force(SystemAppearance::ColorScheme::Dark);
         QVERIFY(isDark(QPalette::Window, QPalette::WindowText));
         QVERIFY(isDark(QPalette::ToolTipBase, QPalette::ToolTipText));
-        m_appearance->force(std::nullopt);
+        appearance.force(std::nullopt);
         QVERIFY(!isDark(QPalette::Window, QPalette::WindowText));
 
         QGuiApplication::setPalette(QPalette(Qt::black)); // a dark desktop that no portal tells of
-        m_appearance->force(SystemAppearance::ColorScheme::Light);
+        appearance.force(SystemAppearance::ColorScheme::Light);
         QVERIFY(!isDark(QPalette::Window, QPalette::WindowText));
     }
 };

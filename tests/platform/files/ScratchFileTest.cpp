@@ -9,28 +9,17 @@
 
 #include <array>
 #include <cerrno>
-#include <cstdarg>
+#include <csignal>
 #include <fcntl.h>
 #include <functional>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
-QByteArray withoutNameless;              ///< a folder on a file system that has no nameless files
+QByteArray lacking;                      ///< a folder whose file system lacks what newer ones have
 std::function<void()> whenPartHasOpened; ///< called once
-
-/// A folder on another file system than the temporary files, or none.
-QString otherFileSystem(const QString &here)
-{
-    struct stat first = {};
-    struct stat second = {};
-    const QString candidate = QStringLiteral("/dev/shm");
-    const bool differs = ::stat(qPrintable(here), &first) == 0 &&
-                         ::stat(qPrintable(candidate), &second) == 0 && first.st_dev != second.st_dev &&
-                         ::access(qPrintable(candidate), W_OK) == 0;
-    return differs ? candidate : QString();
-}
 
 QByteArray content(const QString &path)
 {
@@ -44,6 +33,13 @@ void put(const QString &path, const QByteArray &bytes)
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
 }
 
+struct stat statusOf(const QString &path)
+{
+    struct stat status = {};
+    ::stat(qPrintable(path), &status);
+    return status;
+}
+
 ScratchFile scratch(const QString &folder, const QByteArray &bytes)
 {
     auto file = ScratchFile::create(folder);
@@ -54,26 +50,28 @@ ScratchFile scratch(const QString &folder, const QByteArray &bytes)
     return std::move(*file);
 }
 
-QStringList everything(const QString &folder)
+qsizetype fileCount(const QString &folder)
 {
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size();
+}
+
+/// As on a full disk: no file may grow beyond `bytes`.
+void limitFiles(rlim_t bytes)
+{
+    const rlimit limit{.rlim_cur = bytes, .rlim_max = RLIM_INFINITY};
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
 }
 
 } // namespace
 
 // NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming,cert-dcl50-cpp): the linker's names
 extern "C" {
-int __real_open(const char *path, int flags, ...);
-int __wrap_open(const char *path, int flags, ...);
-}
+int __real_open(const char *path, int flags, mode_t mode);
+int __real_renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags);
 
-int __wrap_open(const char *path, int flags, ...)
+int __wrap_open(const char *path, int flags, mode_t mode)
 {
-    va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
-    va_end(arguments);
-    if ((flags & O_TMPFILE) == O_TMPFILE && withoutNameless == path) {
+    if ((flags & O_TMPFILE) == O_TMPFILE && lacking == path) {
         errno = EOPNOTSUPP;
         return -1;
     }
@@ -83,106 +81,114 @@ int __wrap_open(const char *path, int flags, ...)
     }
     return descriptor;
 }
+
+int __wrap_renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags)
+{
+    if (!lacking.isEmpty() && QByteArray(to).startsWith(lacking) &&
+        statusOf(QString::fromUtf8(from)).st_dev == statusOf(QString::fromUtf8(lacking)).st_dev) {
+        errno = EINVAL;
+        return -1;
+    }
+    return __real_renameat2(fromFolder, from, toFolder, to, flags);
+}
+}
 // NOLINTEND(bugprone-reserved-identifier,readability-identifier-naming,cert-dcl50-cpp)
 
 class ScratchFileTest : public QObject
 {
     Q_OBJECT
 
+    std::unique_ptr<QTemporaryDir> m_here;
+    std::unique_ptr<QTemporaryDir> m_there;
+    QString here(const QString &name = {}) const { return m_here->filePath(name); }
+    QString there(const QString &name = {}) const { return m_there->filePath(name); }
+
+    /// Makes two folders, the second on the file system of `root`.
+    void makeFolders(const QString &root, bool isLacking)
+    {
+        m_here = std::make_unique<QTemporaryDir>();
+        m_there = std::make_unique<QTemporaryDir>(root + "/scratch-XXXXXX");
+        lacking = isLacking ? QFile::encodeName(there()) : QByteArray();
+    }
+
 private Q_SLOTS:
+    void initTestCase()
+    {
+        ::umask(022);
+        ::signal(SIGXFSZ, SIG_IGN); // a write beyond the limit fails instead
+    }
+
     void cleanup()
     {
-        withoutNameless.clear();
-        whenPartHasOpened = {};
+        limitFiles(RLIM_INFINITY);
+        lacking.clear();
     }
 
-    void shouldAppearOnlyWhenPlacedAndNeverReplace()
+    void shouldNeverReplaceAndBeWholeOrNotThere_data()
     {
-        const QTemporaryDir folder;
-        const auto file = scratch(folder.path(), "picture");
-        QVERIFY(everything(folder.path()).isEmpty());
-        put(folder.filePath(QStringLiteral("a.png")), "mine");
-        QVERIFY(file.placeAs(folder.filePath(QStringLiteral("a.png"))) == std::errc::file_exists);
-        QVERIFY(!file.placeAs(folder.filePath(QStringLiteral("a 2.png"))));
-        QCOMPARE(content(folder.filePath(QStringLiteral("a.png"))), "mine");
-        QCOMPARE(content(folder.filePath(QStringLiteral("a 2.png"))), "picture");
-        QVERIFY(file.placeAs(folder.filePath(QStringLiteral("gone/a.png"))) ==
-                std::errc::no_such_file_or_directory);
-    }
-
-    void shouldBePlacedOnAnotherFileSystem_data()
-    {
-        QTest::addColumn<bool>("hasNameless");
-        QTest::newRow("with nameless files") << true;
-        QTest::newRow("without") << false;
-    }
-
-    void shouldBePlacedOnAnotherFileSystem()
-    {
-        QFETCH(bool, hasNameless);
-        const QTemporaryDir here;
-        const QString elsewhere = otherFileSystem(here.path());
-        if (elsewhere.isEmpty()) {
-            QSKIP("there is no second file system to write to");
+        QTest::addColumn<QString>("root");
+        QTest::addColumn<bool>("isLacking");
+        const QString other = "/dev/shm";
+        QTest::newRow("same file system") << QDir::tempPath() << false;
+        QTest::newRow("one that lacks much") << QDir::tempPath() << true;
+        if (::access(qPrintable(other), W_OK) == 0 &&
+            statusOf(other).st_dev != statusOf(QDir::tempPath()).st_dev) {
+            QTest::newRow("another file system") << other << false;
+            QTest::newRow("another one that lacks much") << other << true;
         }
-        const QTemporaryDir there(elsewhere + QStringLiteral("/scratch-XXXXXX"));
-        withoutNameless = hasNameless ? QByteArray() : QFile::encodeName(there.path());
-        const auto file = scratch(here.path(), QByteArray(100'000, 'p'));
-        put(there.filePath(QStringLiteral("a.png")), "mine");
-        QVERIFY(file.placeAs(there.filePath(QStringLiteral("a.png"))) == std::errc::file_exists);
-        QVERIFY(!file.placeAs(there.filePath(QStringLiteral("b.png"))));
-        QCOMPARE(content(there.filePath(QStringLiteral("b.png"))), QByteArray(100'000, 'p'));
-        QCOMPARE(everything(there.path()).size(), 2);
+    }
 
-        const QString photo = here.filePath(QStringLiteral("IMG.HEIC"));
-        put(photo, "photo");
+    void shouldNeverReplaceAndBeWholeOrNotThere()
+    {
+        QFETCH(QString, root);
+        QFETCH(bool, isLacking);
+        makeFolders(root, isLacking);
+        const QByteArray picture(100'000, 'p');
+        const auto file = scratch(here(), picture);
+        QCOMPARE(fileCount(here()), 0);
+        put(there("taken"), "mine");
+        QVERIFY(file.placeAs(there("taken")) == std::errc::file_exists);
+        QVERIFY(file.placeAs(there("gone/a.png")) == std::errc::no_such_file_or_directory);
+        QCOMPARE(fileCount(there()), 1);
+        QVERIFY(!file.placeAs(there("a.png")));
+        QCOMPARE(content(there("a.png")), picture);
+        QCOMPARE(statusOf(there("a.png")).st_mode & 07777U, 0644U);
+
         const std::array times{timespec{1'700'000'000, 0}, timespec{1'600'000'000, 0}};
-        QCOMPARE(::chmod(qPrintable(photo), 0604), 0);
-        QCOMPARE(::utimensat(AT_FDCWD, qPrintable(photo), times.data(), 0), 0);
-        const QString moved = there.filePath(QStringLiteral("IMG.HEIC"));
-        QVERIFY(!FileOperations::move(photo, moved));
-        struct stat status = {};
-        QCOMPARE(::stat(qPrintable(moved), &status), 0);
-        QCOMPARE(status.st_mode & 07777U, 0604U);
-        QCOMPARE(status.st_mtim.tv_sec, 1'600'000'000);
-        QCOMPARE(content(moved), "photo");
-        QVERIFY(!QFile::exists(photo));
+        put(here("photo"), picture);
+        QCOMPARE(::chmod(qPrintable(here("photo")), 0604), 0);
+        QCOMPARE(::utimensat(AT_FDCWD, qPrintable(here("photo")), times.data(), 0), 0);
+        QVERIFY(FileOperations::move(here("photo"), there("taken")) == std::errc::file_exists);
+        QCOMPARE(content(there("taken")), "mine");
+        if (root != QDir::tempPath()) {
+            limitFiles(50'000);
+            QVERIFY(file.placeAs(there("half")) == std::errc::file_too_large);
+            QVERIFY(FileOperations::move(here("photo"), there("half")) == std::errc::file_too_large);
+            limitFiles(RLIM_INFINITY);
+        }
+        QCOMPARE(content(here("photo")), picture);
+        QCOMPARE(fileCount(there()), 2);
+        QVERIFY(!FileOperations::move(here("photo"), there("photo")));
+        QCOMPARE(content(there("photo")), picture);
+        QCOMPARE(statusOf(there("photo")).st_mode & 07777U, 0604U);
+        QCOMPARE(statusOf(there("photo")).st_mtim.tv_sec, 1'600'000'000);
+        QVERIFY(!QFile::exists(here("photo")));
     }
 
     void shouldLeaveAFileAloneThatAnotherProcessHasJustFinished()
     {
-        const QTemporaryDir here;
-        const QString elsewhere = otherFileSystem(here.path());
-        if (elsewhere.isEmpty()) {
+        makeFolders("/dev/shm", true);
+        if (!m_there->isValid() || statusOf(there()).st_dev == statusOf(here()).st_dev) {
             QSKIP("there is no second file system to write to");
         }
-        const QTemporaryDir there(elsewhere + QStringLiteral("/scratch-XXXXXX"));
-        withoutNameless = QFile::encodeName(there.path());
-        const QString finished = there.filePath(QStringLiteral("finished.png"));
-        whenPartHasOpened = [&] {
-            const QString part = there.filePath(QStringLiteral(".lumaport-part"));
-            put(part, "finished");
-            QVERIFY(QFile::rename(part, finished));
+        whenPartHasOpened = [this] {
+            put(there(".lumaport-part"), "finished");
+            QVERIFY(QFile::rename(there(".lumaport-part"), there("finished.png")));
         };
-        const auto file = scratch(here.path(), "mine");
-        QVERIFY(!file.placeAs(there.filePath(QStringLiteral("mine.png"))));
-        QCOMPARE(content(finished), "finished");
-        QCOMPARE(content(there.filePath(QStringLiteral("mine.png"))), "mine");
-        QCOMPARE(everything(there.path()).size(), 2);
-    }
-
-    void shouldMoveWithoutReplacing()
-    {
-        const QTemporaryDir folder;
-        const QString from = folder.filePath(QStringLiteral("a"));
-        const QString to = folder.filePath(QStringLiteral("b"));
-        put(from, "first");
-        put(to, "second");
-        QVERIFY(FileOperations::move(from, to) == std::errc::file_exists);
-        QCOMPARE(content(to), "second");
-        QCOMPARE(content(from), "first");
-        QVERIFY(QFile::remove(to) && !FileOperations::move(from, to));
-        QCOMPARE(content(to), "first");
+        QVERIFY(!scratch(here(), "mine").placeAs(there("mine.png")));
+        QCOMPARE(content(there("finished.png")), "finished");
+        QCOMPARE(content(there("mine.png")), "mine");
+        QCOMPARE(fileCount(there()), 2);
     }
 };
 

@@ -1,26 +1,17 @@
 #include "DesktopStatusItem.h"
+#include "FakeService.h"
 #include "StatusNotifierItem.h"
 #include "StatusNotifierMenu.h"
 #include "TrayIconItem.h"
 
 #include <QApplication>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
-#include <QtEndian>
 
-namespace {
-
-QString watcherName()
-{
-    return QStringLiteral("org.kde.StatusNotifierWatcher");
-}
-
-/// A panel's side of the bus, on a connection of its own.
-class FakeWatcher : public QObject
+/// A panel's side of the bus.
+class FakeWatcher : public FakeService
 {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.kde.StatusNotifierWatcher")
@@ -28,50 +19,29 @@ class FakeWatcher : public QObject
 
 public:
     FakeWatcher()
-        : bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("watcher")))
-    {
-        bus.registerObject(QStringLiteral("/StatusNotifierWatcher"), this,
-                           QDBusConnection::ExportAllContents);
-    }
-    ~FakeWatcher() override
-    {
-        leave();
-        QDBusConnection::disconnectFromBus(QStringLiteral("watcher"));
-    }
-
-    void come() { bus.registerService(watcherName()); }
-    void leave() { bus.unregisterService(watcherName()); }
+        : FakeService("org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher")
+    {}
 
     /// Calls what registered itself last, and waits for the answer.
-    QDBusMessage call(const QString &path, const QString &interface, const QString &method,
-                      const QVariantList &arguments = {})
+    QVariantList call(const QString &path, const QString &interface, const QString &method,
+                      const QVariantList &arguments)
     {
         QDBusMessage message = QDBusMessage::createMethodCall(items.last(), path, interface, method);
         message.setArguments(arguments);
         QDBusPendingCallWatcher watcher(bus.asyncCall(message));
         QSignalSpy finished(&watcher, &QDBusPendingCallWatcher::finished);
         finished.wait();
-        return watcher.reply();
+        return watcher.reply().arguments();
     }
-    QDBusMessage item(const QString &method, const QVariantList &arguments = {})
+    void activate(int x, int y)
     {
-        return call(QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.kde.StatusNotifierItem"),
-                    method, arguments);
+        call("/StatusNotifierItem", "org.kde.StatusNotifierItem", "Activate", {x, y});
     }
-    QDBusMessage menu(const QString &method, const QVariantList &arguments = {})
+    QVariantList menu(const QString &method, const QVariantList &arguments)
     {
-        return call(StatusNotifierMenu::objectPath, QStringLiteral("com.canonical.dbusmenu"), method,
-                    arguments);
-    }
-    QVariantMap properties()
-    {
-        const QDBusMessage reply =
-            call(QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.freedesktop.DBus.Properties"),
-                 QStringLiteral("GetAll"), {QStringLiteral("org.kde.StatusNotifierItem")});
-        return qdbus_cast<QVariantMap>(reply.arguments().value(0));
+        return call(StatusNotifierMenu::objectPath, "com.canonical.dbusmenu", method, arguments);
     }
 
-    QDBusConnection bus;
     bool hasHost = true;
     QStringList items;
 
@@ -80,10 +50,9 @@ public Q_SLOTS:
     {
         items.append(service);
     }
-
-Q_SIGNALS:
-    void StatusNotifierHostRegistered(); // NOLINT(readability-identifier-naming)
 };
+
+namespace {
 
 /// Stands for the icon in an XEmbed tray.
 struct RecordingItem : StatusItem
@@ -109,8 +78,8 @@ StatusItemLook someLook()
     image.setPixelColor(0, 0, QColor(0x80, 0x40, 0x20, 0xFF));
     image.setPixelColor(1, 0, QColor(0xFF, 0xFF, 0xFF, 0x80));
     return {.images = {image, image.scaled(4, 2)},
-            .toolTip = QStringLiteral("Lumaport: Auto-convert: On"),
-            .accessibilityLabel = QStringLiteral("Lumaport, Auto-convert: On")};
+            .toolTip = "Lumaport: Auto-convert: On",
+            .accessibilityLabel = "Lumaport, Auto-convert: On"};
 }
 
 } // namespace
@@ -119,44 +88,51 @@ class StatusItemTest : public QObject
 {
     Q_OBJECT
 
+    std::unique_ptr<FakeWatcher> m_watcher;
+    std::unique_ptr<StatusNotifierItem> m_item;
+
 private Q_SLOTS:
+    void init()
+    {
+        m_watcher = std::make_unique<FakeWatcher>();
+        m_watcher->come();
+        m_item = std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus());
+        QTRY_COMPARE(m_watcher->items.size(), 1);
+    }
+
+    void cleanup()
+    {
+        m_item.reset();
+        m_watcher.reset();
+    }
+
     void shouldRegisterWithEveryWatcherThatComes()
     {
-        StatusNotifierItem item(QDBusConnection::sessionBus());
-        QSignalSpy presence(&item, &StatusNotifierItem::hostPresenceChanged);
-        QTRY_COMPARE(presence.size(), 1);
-        QCOMPARE(presence.takeFirst().first().toBool(), false);
-
-        FakeWatcher watcher;
-        watcher.come();
-        QTRY_COMPARE(watcher.items.size(), 1);
-        QVERIFY(watcher.items.last().startsWith(QLatin1String("org.kde.StatusNotifierItem-")));
+        QVERIFY(m_watcher->items.last().startsWith("org.kde.StatusNotifierItem-"));
+        const QSignalSpy presence(m_item.get(), &StatusNotifierItem::hostPresenceChanged);
         QTRY_VERIFY(!presence.isEmpty() && presence.last().first().toBool());
-        watcher.leave();
+        m_watcher->leave();
         QTRY_VERIFY(!presence.last().first().toBool());
-        watcher.come();
-        QTRY_COMPARE(watcher.items.size(), 2);
+        m_watcher->come();
+        QTRY_COMPARE(m_watcher->items.size(), 2);
     }
 
     void shouldShowItsLookOnTheBus()
     {
-        FakeWatcher watcher;
-        watcher.come();
-        StatusNotifierItem item(QDBusConnection::sessionBus());
-        item.setLook(someLook());
-        QTRY_COMPARE(watcher.items.size(), 1);
+        m_item->setLook(someLook());
+        const auto properties =
+            qdbus_cast<QVariantMap>(m_watcher
+                                        ->call("/StatusNotifierItem", "org.freedesktop.DBus.Properties",
+                                               "GetAll", {"org.kde.StatusNotifierItem"})
+                                        .value(0));
+        QCOMPARE(properties.value("Id").toString(), "io.lumaport.Lumaport");
+        QCOMPARE(properties.value("Status").toString(), "Active");
+        QCOMPARE(properties.value("ItemIsMenu"), QVariant(false));
+        QCOMPARE(properties.value("IconAccessibleDesc").toString(), "Lumaport, Auto-convert: On");
+        const auto toolTip = qdbus_cast<StatusNotifierToolTip>(properties.value("ToolTip"));
+        QCOMPARE(toolTip.title, "Lumaport: Auto-convert: On");
 
-        const QVariantMap properties = watcher.properties();
-        QCOMPARE(properties.value(QStringLiteral("Id")).toString(), QStringLiteral("io.lumaport.Lumaport"));
-        QCOMPARE(properties.value(QStringLiteral("Status")).toString(), QStringLiteral("Active"));
-        QCOMPARE(properties.value(QStringLiteral("ItemIsMenu")), QVariant(false));
-        QCOMPARE(properties.value(QStringLiteral("IconAccessibleDesc")).toString(),
-                 QStringLiteral("Lumaport, Auto-convert: On"));
-        const auto toolTip = qdbus_cast<StatusNotifierToolTip>(properties.value(QStringLiteral("ToolTip")));
-        QCOMPARE(toolTip.title, QStringLiteral("Lumaport: Auto-convert: On"));
-
-        const auto pixmaps =
-            qdbus_cast<StatusNotifierPixmaps>(properties.value(QStringLiteral("IconPixmap")));
+        const auto pixmaps = qdbus_cast<StatusNotifierPixmaps>(properties.value("IconPixmap"));
         QCOMPARE(pixmaps.size(), 2);
         QCOMPARE(pixmaps.at(1).width, 4);
         QCOMPARE(pixmaps.at(0).height, 1);
@@ -166,63 +142,53 @@ private Q_SLOTS:
 
     void shouldTellWhereItWasClicked()
     {
-        FakeWatcher watcher;
-        watcher.come();
-        StatusNotifierItem item(QDBusConnection::sessionBus());
-        QTRY_COMPARE(watcher.items.size(), 1);
-        QSignalSpy activated(&item, &StatusItem::activated);
-        QVERIFY(!item.place());
-
-        watcher.item(QStringLiteral("Activate"), {700, 12});
+        QSignalSpy activated(m_item.get(), &StatusItem::activated);
+        QVERIFY(!m_item->place());
+        m_watcher->activate(700, 12);
         QCOMPARE(activated.size(), 1);
-        QCOMPARE(item.place(), std::optional(QRect(700, 12, 1, 1)));
+        QCOMPARE(m_item->place(), std::optional(QRect(700, 12, 1, 1)));
         // A host that does not know says 0, 0: an old place must not stay.
-        watcher.item(QStringLiteral("Activate"), {0, 0});
+        m_watcher->activate(0, 0);
         QCOMPARE(activated.size(), 2);
-        QVERIFY(!item.place());
+        QVERIFY(!m_item->place());
     }
 
     void shouldOfferItsMenuOnTheBus()
     {
-        FakeWatcher watcher;
-        watcher.come();
-        StatusNotifierItem item(QDBusConnection::sessionBus());
-        QTRY_COMPARE(watcher.items.size(), 1);
         int opened = 0;
         int forbidden = 0;
-        item.setMenu(
-            {{.title = QStringLiteral("Open _it"), .isChecked = {}, .action = [&opened] { ++opened; }},
+        m_item->setMenu(
+            {{.title = "Open _it", .isChecked = {}, .action = [&opened] { ++opened; }},
              {.kind = StatusMenuEntry::Kind::separator, .title = {}, .isChecked = {}, .action = {}},
-             {.title = QStringLiteral("PNG"), .isChecked = true, .action = {}},
-             {.title = QStringLiteral("Reveal"), .isEnabled = false, .isChecked = {}, .action = [&forbidden] {
+             {.title = "PNG", .isChecked = true, .action = {}},
+             {.title = "Reveal", .isEnabled = false, .isChecked = {}, .action = [&forbidden] {
                   ++forbidden;
               }}});
 
-        const QDBusMessage reply = watcher.menu(QStringLiteral("GetLayout"), {0, -1, QStringList()});
-        QCOMPARE(reply.arguments().size(), 2);
-        QVERIFY(reply.arguments().at(0).toUInt() > 1); // it changed since the start
-        const auto root = qdbus_cast<StatusNotifierMenuNode>(reply.arguments().at(1));
+        const QVariantList layout = m_watcher->menu("GetLayout", {0, -1, QStringList()});
+        QCOMPARE(layout.size(), 2);
+        QVERIFY(layout.at(0).toUInt() > 1); // it changed since the start
+        const auto root = qdbus_cast<StatusNotifierMenuNode>(layout.at(1));
         QCOMPARE(root.children.size(), 4);
-        const auto property = [&root](int child, const char *name) {
-            return root.children.at(child).properties.value(QLatin1String(name));
+        const auto property = [&root](int child, const QString &name) {
+            return root.children.at(child).properties.value(name);
         };
-        QCOMPARE(property(0, "label").toString(), QStringLiteral("Open __it"));
-        QCOMPARE(property(1, "type").toString(), QStringLiteral("separator"));
-        QCOMPARE(property(2, "toggle-type").toString(), QStringLiteral("radio"));
+        QCOMPARE(property(0, "label").toString(), "Open __it");
+        QCOMPARE(property(1, "type").toString(), "separator");
+        QCOMPARE(property(2, "toggle-type").toString(), "radio");
         QCOMPARE(property(2, "toggle-state").toInt(), 1);
         QCOMPARE(property(3, "enabled"), QVariant(false));
 
-        const auto answered = [&watcher](const QList<int> &ids) {
-            const QDBusMessage properties =
-                watcher.menu(QStringLiteral("GetGroupProperties"), {QVariant::fromValue(ids), QStringList()});
-            return qdbus_cast<StatusNotifierMenuProperties>(properties.arguments().value(0)).size();
+        const auto answered = [this](const QList<int> &ids) {
+            const QVariantList properties =
+                m_watcher->menu("GetGroupProperties", {QVariant::fromValue(ids), QStringList()});
+            return qdbus_cast<StatusNotifierMenuProperties>(properties.value(0)).size();
         };
         QCOMPARE(answered({1, 4, 99}), 2);
         QCOMPARE(answered({}), 5); // all of them, and the root
 
-        const auto event = [&watcher](int id, const char *kind) {
-            watcher.menu(QStringLiteral("Event"),
-                         {id, QLatin1String(kind), QVariant::fromValue(QDBusVariant(QString())), 0U});
+        const auto event = [this](int id, const QString &kind) {
+            m_watcher->menu("Event", {id, kind, QVariant::fromValue(QDBusVariant(QString())), 0U});
         };
         event(root.children.at(0).id, "hovered");
         QCOMPARE(opened, 0);
@@ -238,12 +204,12 @@ private Q_SLOTS:
         TrayIconItem item;
         int chosen = 0;
         int opened = 0;
-        const auto entries = [&](const char *title, bool isPng) {
+        const auto entries = [&](const QString &title, bool isPng) {
             return QList<StatusMenuEntry>{
-                {.title = QLatin1String(title), .isChecked = {}, .action = [&opened] { ++opened; }},
+                {.title = title, .isChecked = {}, .action = [&opened] { ++opened; }},
                 {.kind = StatusMenuEntry::Kind::separator, .title = {}, .isChecked = {}, .action = {}},
-                {.title = QStringLiteral("PNG"), .isChecked = isPng, .action = [&chosen] { ++chosen; }},
-                {.title = QStringLiteral("JPEG"), .isChecked = !isPng, .action = [&chosen] { ++chosen; }}};
+                {.title = "PNG", .isChecked = isPng, .action = [&chosen] { ++chosen; }},
+                {.title = "JPEG", .isChecked = !isPng, .action = [&chosen] { ++chosen; }}};
         };
         item.setMenu(entries("Pause", true));
         const QWidgetList widgets = QApplication::topLevelWidgets();
@@ -258,7 +224,7 @@ private Q_SLOTS:
 
         item.setMenu(entries("Resume", false)); // as under the pointer
         QCOMPARE(menu->actions(), lines);
-        QCOMPARE(lines.at(0)->text(), QStringLiteral("Resume"));
+        QCOMPARE(lines.at(0)->text(), "Resume");
         QVERIFY(lines.at(3)->isChecked() && !lines.at(2)->isChecked());
         lines.at(0)->trigger();
         QCOMPARE(opened, 1);
@@ -268,19 +234,18 @@ private Q_SLOTS:
 
     void shouldUseTheOldTrayOnlyWhileNoHostShowsTheItem()
     {
-        FakeWatcher watcher;
-        watcher.hasHost = false;
-        watcher.come();
+        m_watcher->hasHost = false;
         RecordingItem *fallback = nullptr;
-        DesktopStatusItem item(std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus()),
-                               [&fallback] {
-                                   auto made = std::make_unique<RecordingItem>();
-                                   fallback = made.get();
-                                   return made;
-                               });
+        DesktopStatusItem item(std::move(m_item), [&fallback] {
+            auto made = std::make_unique<RecordingItem>();
+            fallback = made.get();
+            return made;
+        });
         item.setLook(someLook());
-        item.setMenu({{.title = QStringLiteral("Open"), .isChecked = {}, .action = {}}});
+        item.setMenu({{.title = "Open", .isChecked = {}, .action = {}}});
         QSignalSpy activated(&item, &StatusItem::activated);
+        const QString hostCame = "StatusNotifierHostRegistered";
+        m_watcher->emitSignal(hostCame);
         QTRY_COMPARE(RecordingItem::shown, 1);
         QCOMPARE(fallback->look.toolTip, someLook().toolTip); // also what was set before it came
         QCOMPARE(fallback->entries.size(), 1);
@@ -288,12 +253,12 @@ private Q_SLOTS:
         Q_EMIT fallback->activated();
         QCOMPARE(activated.size(), 1);
 
-        watcher.hasHost = true;
-        Q_EMIT watcher.StatusNotifierHostRegistered();
+        m_watcher->hasHost = true;
+        m_watcher->emitSignal(hostCame);
         QTRY_COMPARE(RecordingItem::shown, 0);
-        watcher.item(QStringLiteral("Activate"), {1, 1});
+        m_watcher->activate(1, 1);
         QCOMPARE(activated.size(), 2);
-        watcher.leave();
+        m_watcher->leave();
         QTRY_COMPARE(RecordingItem::shown, 1);
     }
 };

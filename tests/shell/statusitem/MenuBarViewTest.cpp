@@ -1,25 +1,22 @@
 #include "ShellFixture.h"
+#include "Symbol.h"
 
+#include <QFile>
 #include <QQuickItem>
 #include <QTranslator>
 
-#include <functional>
-
 namespace {
 
-/// Says everything five times over.
-class LongWindedTranslator : public QTranslator
+/// All items below `item`, with those that a repeater made.
+QList<QQuickItem *> below(const QQuickItem *item)
 {
-public:
-    LongWindedTranslator() { QCoreApplication::installTranslator(this); }
-
-    bool isEmpty() const override { return false; }
-    QString translate(const char * /*context*/, const char *text, const char * /*disambiguation*/,
-                      int /*count*/) const override
-    {
-        return QString(QString::fromUtf8(text) + QLatin1Char(' ')).repeated(5);
+    QList<QQuickItem *> all;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        all << child << below(child);
     }
-};
+    return all;
+}
 
 /// The open panel, its items found by name.
 class OpenPanelFixture : public ShellFixture
@@ -27,37 +24,22 @@ class OpenPanelFixture : public ShellFixture
 public:
     OpenPanelFixture()
     {
-        configureMenuBar();
         delegate.togglePopover();
-        window = panelWindow();
-        (void)QTest::qWaitForWindowExposed(window);
+        (void)QTest::qWaitForWindowExposed(panelWindow);
     }
 
-    QQuickItem *find(const char *name) const { return below(window->rootObject(), QLatin1String(name)); }
+    QList<QQuickItem *> items() const { return below(panelWindow->contentItem()); }
+    QQuickItem *find(const char *name) const
+    {
+        const auto all = items();
+        return *std::ranges::find(all, QString(name), &QObject::objectName);
+    }
     bool shows(const char *name) const { return find(name)->isVisible(); }
     QString text(const char *name) const { return find(name)->property("text").toString(); }
     void click(const char *name) const
     {
-        const QQuickItem *target = find(name);
-        const QPointF centre = target->mapToScene(QPointF(target->width() / 2, target->height() / 2));
-        QTest::mouseClick(window, Qt::LeftButton, {}, centre.toPoint());
-    }
-
-    PanelWindow *window;
-
-private:
-    /// Down the tree of items: what a repeater makes is no child of an object.
-    static QQuickItem *below(QQuickItem *item, QLatin1String name)
-    {
-        if (item->objectName() == name) {
-            return item;
-        }
-        for (QQuickItem *child : item->childItems()) {
-            if (QQuickItem *found = below(child, name)) {
-                return found;
-            }
-        }
-        return nullptr;
+        const QPointF centre = find(name)->boundingRect().center();
+        QTest::mouseClick(panelWindow, Qt::LeftButton, {}, find(name)->mapToScene(centre).toPoint());
     }
 };
 
@@ -68,130 +50,92 @@ class MenuBarViewTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldShowAHintUntilAPhotoHasArrived()
+    void shouldTellHowFarTheNewestPhotoIs()
     {
         OpenPanelFixture panel;
         QVERIFY(panel.shows("hint"));
         QVERIFY(!panel.shows("latestArrival"));
         QVERIFY(!panel.shows("busyLine"));
-        QVERIFY(!panel.shows("revealButton"));
 
-        panel.model().convertManually({panel.write(QStringLiteral("IMG_1.HEIC"))});
+        const QUrl source = panel.write("IMG_1.HEIC");
+        panel.model().convertManually({source});
         QVERIFY(!panel.shows("hint"));
         QVERIFY(panel.shows("latestArrival"));
-    }
-
-    void shouldTellHowFarTheNewestPhotoIs()
-    {
-        OpenPanelFixture panel;
-        panel.model().convertManually({panel.write(QStringLiteral("IMG_1.HEIC"))});
-        QCOMPARE(panel.text("arrivalName"), QStringLiteral("IMG_1.HEIC"));
-        QCOMPARE(panel.text("arrivalStatus"), QStringLiteral("Waiting to convert"));
         QVERIFY(panel.shows("busyLine"));
-        QCOMPARE(panel.find("thumbnail")->property("url").toUrl(), panel.url(QStringLiteral("IMG_1.HEIC")));
+        QCOMPARE(panel.text("arrivalName"), "IMG_1.HEIC");
+        QCOMPARE(panel.text("arrivalStatus"), "Waiting to convert");
+        QCOMPARE(panel.find("thumbnail")->property("url").toUrl(), source);
         panel.turn();
-        QCOMPARE(panel.text("arrivalStatus"), QStringLiteral("Converting on your Mac"));
+        QCOMPARE(panel.text("arrivalStatus"), "Converting on your Mac");
         QVERIFY(!panel.shows("revealButton"));
 
-        panel.engine->succeed(QStringLiteral("IMG_1.png"));
-        QCOMPARE(panel.text("arrivalName"), QStringLiteral("IMG_1.png"));
-        QCOMPARE(panel.text("arrivalStatus"), QStringLiteral("Ready to use"));
-        QCOMPARE(panel.find("thumbnail")->property("url").toUrl(), panel.url(QStringLiteral("IMG_1.png")));
+        panel.engine->succeed("IMG_1.png");
+        QCOMPARE(panel.text("arrivalName"), "IMG_1.png");
+        QCOMPARE(panel.text("arrivalStatus"), "Ready to use");
+        QCOMPARE(panel.find("thumbnail")->property("url").toUrl(), panel.url("IMG_1.png"));
         QVERIFY(!panel.shows("busyLine"));
         panel.click("revealButton");
-        QCOMPARE(panel.workspace->revealed, QList<QUrl>{panel.url(QStringLiteral("IMG_1.png"))});
+        QCOMPARE(panel.workspace->revealed, QList{panel.url("IMG_1.png")});
     }
 
     void shouldTellWhyThePhotoFailedOnAsManyLinesAsThatTakes()
     {
         OpenPanelFixture panel;
-        panel.model().convertManually({panel.write(QStringLiteral("IMG_1.HEIC"))});
-        panel.turn();
-        panel.engine->fail(ConversionError::unreadableImage);
+        ConversionItem item = ConversionItem::queuedFor(panel.write("IMG_1.HEIC"), {});
+        item.status = ConversionStatus::failed;
+        panel.model().setItems({item});
         QVERIFY(!panel.shows("revealButton"));
-        QVERIFY(!panel.text("arrivalStatus").isEmpty());
+        QCOMPARE(panel.text("arrivalStatus"), "Needs attention");
         const double oneLine = panel.find("arrivalName")->height();
-        const int lowPanel = panel.window->height();
+        const int lowPanel = panel.panelWindow->height();
 
-        QList<ConversionItem> items = panel.model().items();
-        items.first().errorMessage.reset();
-        panel.model().setItems(items);
-        QCOMPARE(panel.text("arrivalStatus"), QStringLiteral("Needs attention"));
-        items.first().errorMessage = QStringLiteral("A long story. ").repeated(20);
-        items.first().sourceName = QStringLiteral("a very long name ").repeated(9) + QStringLiteral(".HEIC");
-        panel.model().setItems(items);
-        QTRY_VERIFY(panel.window->height() > lowPanel);
+        item.errorMessage = QString("A long story. ").repeated(20);
+        item.sourceName = QString("a very long name ").repeated(9) + ".HEIC";
+        panel.model().setItems({item});
+        QCOMPARE(panel.text("arrivalStatus"), *item.errorMessage);
+        QTRY_VERIFY(panel.panelWindow->height() > lowPanel);
         QVERIFY(panel.find("arrivalStatus")->height() > 3 * oneLine);
         QCOMPARE(panel.find("arrivalName")->height(), oneLine);
-        QCOMPARE(panel.window->width(), 360);
+        QCOMPARE(panel.panelWindow->width(), 360);
     }
 
-    void shouldWrapTextsOfAnyLength()
+    void shouldTranslateAndWrapItsTextsAndDrawItsSymbols()
     {
-        const LongWindedTranslator translator;
+        QTranslator translator;
+        QVERIFY(translator.load(LUMAPORT_PSEUDO_LOCALE));
+        QVERIFY(QCoreApplication::installTranslator(&translator));
         OpenPanelFixture panel;
-        panel.model().convertManually({panel.write(QStringLiteral("IMG_1.HEIC"))});
+        ConversionItem ready = ConversionItem::queuedFor(panel.write("IMG_1.HEIC"), {});
+        const ConversionItem queued = ready;
+        ready.status = ConversionStatus::ready;
+        panel.model().setItems({ready, queued});
         QVERIFY(panel.shows("busyLine"));
-        const QQuickItem *root = panel.window->rootObject();
+        const QQuickItem *root = panel.panelWindow->rootObject();
         const QRectF inside = root->boundingRect().marginsRemoved({18.0, 18.0, 18.0, 18.0});
+        const QStringList names{"Lumaport", "IMG_1.HEIC", "PNG", "JPEG", ""};
         int texts = 0;
-        const std::function<void(const QQuickItem *)> check = [&](const QQuickItem *item) {
-            if (item->objectName() == QLatin1String("monitoring")) {
-                return; // another view's, with a button that no language makes this long
-            }
-            if (item->isVisible() && item->property("truncated").isValid()) {
-                const QRectF place = item->mapRectToItem(root, item->boundingRect());
-                const QByteArray text = item->property("text").toString().toUtf8();
-                QVERIFY2(inside.contains(place), text.constData());
-                QVERIFY2(!item->property("truncated").toBool(), text.constData());
-                QVERIFY2(item->property("contentWidth").toDouble() < item->width() + 1.0, text.constData());
+        int symbols = 0;
+        for (const QQuickItem *item : panel.items()) {
+            if (qobject_cast<const Symbol *>(item) && !item->property("name").toString().isEmpty()) {
+                const QString file = ":/symbols/" + item->property("name").toString() + ".svg";
+                QVERIFY2(QFile::exists(file), qPrintable(file));
+                ++symbols;
+            } else if (item->isVisible() && item->property("truncated").isValid()) {
+                const QString text = item->property("text").toString();
+                QVERIFY2(names.contains(text) || text.startsWith('['), qPrintable(text));
+                QVERIFY2(inside.contains(item->mapRectToItem(root, item->boundingRect())), qPrintable(text));
+                QVERIFY2(!item->property("truncated").toBool(), qPrintable(text));
+                QVERIFY2(item->property("contentWidth").toDouble() < item->width() + 1, qPrintable(text));
                 ++texts;
             }
-            for (const QQuickItem *child : item->childItems()) {
-                check(child);
-            }
-        };
-        check(root);
-        QVERIFY(texts > 8);
-        const auto apart = [&](const char *left, const char *right) {
-            return panel.find(left)->x() + panel.find(left)->width() < panel.find(right)->x();
-        };
-        QVERIFY(apart("formatCaption", "formatControl"));
-        QVERIFY(apart("openButton", "quitButton"));
-    }
-
-    void shouldKeepItsDistances()
-    {
-        OpenPanelFixture panel;
-        const QQuickItem *root = panel.window->rootObject();
-        double bottom = 0;
-        for (const char *name : {"header", "monitoring", "hint", "format", "divider", "actions"}) {
-            const QRectF frame = panel.find(name)->mapRectToItem(root, panel.find(name)->boundingRect());
-            QCOMPARE(frame.left(), 18.0);
-            QCOMPARE(frame.top(), bottom + 18.0);
-            bottom = frame.bottom();
         }
-        QCOMPARE(root->height(), bottom + 18.0);
-        QCOMPARE(root->width(), 360.0);
-    }
-
-    void shouldChangeTheOutputFormatOfTheModel()
-    {
-        OpenPanelFixture panel;
-        panel.click("segment1");
-        QCOMPARE(panel.model().settings().format, OutputFormat::jpeg);
-        panel.click("segment0");
-        QCOMPARE(panel.model().settings().format, OutputFormat::png);
-    }
-
-    void shouldPauseWatchingAndOpenTheMainWindow()
-    {
-        OpenPanelFixture panel;
-        panel.click("monitoringButton");
-        QVERIFY(!panel.model().isWatching());
-        panel.click("openButton");
-        QCOMPARE(panel.mainOpened, 1);
-        QVERIFY(!panel.window->isVisible());
+        QVERIFY(texts > 8);
+        QCOMPARE(symbols, 4); // watching, busy, reveal, quit
+        const auto right = [&](const char *name) {
+            return panel.find(name)->x() + panel.find(name)->width();
+        };
+        QVERIFY(right("formatCaption") < panel.find("formatControl")->x());
+        QVERIFY(right("openButton") < panel.find("quitButton")->x());
     }
 };
 

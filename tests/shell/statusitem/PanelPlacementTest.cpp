@@ -9,38 +9,32 @@ class PanelPlacementTest : public QObject
 private Q_SLOTS:
     void shouldOpenAtTheItemAndStayOnTheScreen_data()
     {
-        QTest::addColumn<QRect>("item");
+        QTest::addColumn<std::optional<QRect>>("item");
         QTest::addColumn<QRect>("available");
-        QTest::addColumn<QRect>("panel");
+        QTest::addColumn<QPoint>("corner");
+        using Item = std::optional<QRect>;
         const QRect belowBar(0, 24, 1280, 776);
         const QRect aboveBar(0, 0, 1280, 776);
 
-        QTest::newRow("bar at the top, item in the middle")
-            << QRect(629, 1, 22, 22) << belowBar << QRect(459, 30, 360, 400);
-        QTest::newRow("item near the right edge")
-            << QRect(1250, 1, 22, 22) << belowBar << QRect(914, 30, 360, 400);
-        QTest::newRow("item near the left edge") << QRect(4, 1, 22, 22) << belowBar << QRect(6, 30, 360, 400);
-        QTest::newRow("bar at the bottom: above the item")
-            << QRect(1000, 777, 22, 22) << aboveBar << QRect(830, 370, 360, 400);
-        QTest::newRow("a bare position inside the bar")
-            << QRect(640, 12, 1, 1) << belowBar << QRect(460, 30, 360, 400);
+        QTest::newRow("bar at the top") << Item({629, 1, 22, 22}) << belowBar << QPoint(459, 30);
+        QTest::newRow("near the right edge") << Item({1250, 1, 22, 22}) << belowBar << QPoint(914, 30);
+        QTest::newRow("near the left edge") << Item({4, 1, 22, 22}) << belowBar << QPoint(6, 30);
+        QTest::newRow("bar at the bottom") << Item({1000, 777, 22, 22}) << aboveBar << QPoint(830, 370);
+        QTest::newRow("a position inside the bar") << Item({640, 12, 1, 1}) << belowBar << QPoint(460, 30);
         QTest::newRow("bar at the left of a second screen")
-            << QRect(1290, 700, 22, 22) << QRect(1320, 0, 1240, 1024) << QRect(1326, 294, 360, 400);
-        QTest::newRow("screen lower than the panel: its head stays visible")
-            << QRect(629, 1, 22, 22) << QRect(0, 24, 1280, 300) << QRect(459, 30, 360, 400);
+            << Item({1290, 700, 22, 22}) << QRect(1320, 0, 1240, 1024) << QPoint(1326, 294);
+        QTest::newRow("screen lower than the panel")
+            << Item({629, 1, 22, 22}) << QRect(0, 24, 1280, 300) << QPoint(459, 30);
+        QTest::newRow("no item") << Item() << QRect(100, 24, 1280, 776) << QPoint(1014, 30);
     }
 
     void shouldOpenAtTheItemAndStayOnTheScreen()
     {
-        QFETCH(QRect, item);
+        QFETCH(std::optional<QRect>, item);
         QFETCH(QRect, available);
-        QTEST(PanelPlacement::place(QSize(360, 400), item, available), "panel");
-    }
-
-    void shouldOpenAtTheTopRightWithoutAnItem()
-    {
-        QCOMPARE(PanelPlacement::place(QSize(360, 400), {}, QRect(100, 24, 1280, 776)),
-                 QRect(1014, 30, 360, 400));
+        QFETCH(QPoint, corner);
+        const QSize panel(360, 400);
+        QCOMPARE(PanelPlacement::place(panel, item, available), QRect(corner, panel));
     }
 };
 

@@ -7,71 +7,40 @@ class FirstLaunchSequenceTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldStartWithNothingShown()
+    void shouldTakeItsStepsInTheirTimes_data()
     {
-        const FirstLaunchSequence sequence;
-        QVERIFY(sequence.isRunning());
-        QVERIFY(!sequence.isTitleVisible());
-        QCOMPARE(sequence.revealProgress(), 0.0);
-        QCOMPARE(sequence.shimmerProgress(), 0.0);
-        QCOMPARE(sequence.titleProgress(), 0.0);
-        QCOMPARE(sequence.buttonProgress(), 0.0);
-        QVERIFY(qAbs(sequence.artworkScale() - 0.96) < 1e-9);
+        QTest::addColumn<double>("elapsed");
+        QTest::addColumn<double>("reveal");
+        QTest::addColumn<double>("title");
+        QTest::addColumn<double>("button");
+        QTest::addColumn<double>("shimmer");
+        QTest::addColumn<double>("scale");
+        QTest::newRow("start") << 0.0 << 0.0 << 0.0 << 0.0 << 0.0 << 0.96;
+        QTest::newRow("a slow beginning") << 0.33 << 0.082 << 0.0 << 0.0 << 0.0 << 0.997;
+        QTest::newRow("half of the wipe") << 0.825 << 0.5 << 0.0 << 0.0 << 0.0 << 1.0;
+        QTest::newRow("before the title") << 1.41 << 0.958 << 0.0 << 0.0 << 0.0 << 1.0;
+        QTest::newRow("title") << 1.5 << 0.984 << 0.276 << 0.0 << 0.0 << 1.0;
+        QTest::newRow("button") << 1.725 << 1.0 << 0.853 << 0.685 << 0.0 << 1.0;
+        QTest::newRow("shimmer") << 2.325 << 1.0 << 1.0 << 1.0 << 0.5 << 1.0;
+        QTest::newRow("end") << 2.85 << 1.0 << 1.0 << 1.0 << 1.0 << 1.0;
     }
 
     void shouldTakeItsStepsInTheirTimes()
     {
+        QFETCH(double, elapsed);
         FirstLaunchSequence sequence;
-        sequence.setElapsed(0.825); // the middle of the wipe, which is even on both sides of it
-        QVERIFY(qAbs(sequence.revealProgress() - 0.5) < 1e-3);
-        sequence.setElapsed(0.33);
-        QVERIFY(sequence.revealProgress() < 0.1); // it starts slowly
-        sequence.setElapsed(1.41);
-        QVERIFY(!sequence.isTitleVisible());
-        QVERIFY(sequence.revealProgress() < 1.0);
-        sequence.setElapsed(1.42);
-        QVERIFY(sequence.isTitleVisible());
-        sequence.setElapsed(1.49);
-        QVERIFY(sequence.titleProgress() > 0.15);
-        QCOMPARE(sequence.buttonProgress(), 0.0); // it comes after the title
-        sequence.setElapsed(1.65);
-        QCOMPARE(sequence.revealProgress(), 1.0);
-        QVERIFY(sequence.titleProgress() > 0.51); // it arrives slowly
-        QVERIFY(sequence.buttonProgress() < sequence.titleProgress());
-        sequence.setElapsed(1.79);
-        QCOMPARE(sequence.shimmerProgress(), 0.0);
-        sequence.setElapsed(1.88);
-        QCOMPARE(sequence.titleProgress(), 1.0);
-        QVERIFY(sequence.shimmerProgress() > 0.0);
-        sequence.setElapsed(1.96);
-        QCOMPARE(sequence.buttonProgress(), 1.0);
-        sequence.setElapsed(1.80 + 1.05 / 2.0);
-        QVERIFY(qAbs(sequence.shimmerProgress() - 0.5) < 1e-3);
-    }
-
-    void shouldComeToRest()
-    {
-        FirstLaunchSequence sequence;
-        for (int frame = 0; frame < 60 * 3; ++frame) {
-            QVERIFY(sequence.isRunning() || frame > 2.85 * 60);
-            sequence.advance(1.0 / 60.0);
-        }
-        QVERIFY(!sequence.isRunning());
-        QCOMPARE(sequence.shimmerProgress(), 1.0);
-        QVERIFY(qAbs(sequence.artworkScale() - 1.0) < 1e-6);
-    }
-
-    void shouldShowEverythingAtOnceWithReducedMotion()
-    {
-        FirstLaunchSequence sequence;
-        sequence.setReduceMotion(true);
-        QVERIFY(!sequence.isRunning());
-        QVERIFY(sequence.isTitleVisible());
-        QCOMPARE(sequence.revealProgress(), 1.0);
-        QVERIFY(qAbs(sequence.artworkScale() - 1.0) < 1e-6);
-        QCOMPARE(sequence.titleProgress(), 1.0);
-        QCOMPARE(sequence.buttonProgress(), 1.0);
-        QVERIFY(qAbs(sequence.shimmerProgress() - 1.0) < 1e-6);
+        sequence.setProperty("elapsed", elapsed);
+        QCOMPARE(sequence.isTitleVisible(), elapsed > 1.415);
+        QCOMPARE(sequence.isRunning(), elapsed < 2.849);
+        const auto isNear = [](double value, const char *column) {
+            const double expected = *static_cast<double *>(QTest::qData(column, qMetaTypeId<double>()));
+            return qAbs(value - expected) < 0.002;
+        };
+        QVERIFY(isNear(sequence.revealProgress(), "reveal"));
+        QVERIFY(isNear(sequence.titleProgress(), "title"));
+        QVERIFY(isNear(sequence.buttonProgress(), "button"));
+        QVERIFY(isNear(sequence.shimmerProgress(), "shimmer"));
+        QVERIFY(isNear(sequence.artworkScale(), "scale"));
     }
 };
 

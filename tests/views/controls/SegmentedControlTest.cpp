@@ -2,129 +2,94 @@
 
 #include <QAccessible>
 
-namespace {
-
-constexpr auto controls = R"(
-    import QtQuick
-    import Lumaport.Controls
-    import Lumaport.Options
-    Rectangle {
-        width: 300; height: 60; color: "white"
-        FormatControl { objectName: "format"; x: 10; y: 10 }
-        AppearanceControl { objectName: "appearance"; x: 150; y: 10 }
-    })";
-
-}
-
 class SegmentedControlTest : public QObject
 {
     Q_OBJECT
 
-    static QQuickItem *segment(const QQuickItem *control, int number)
-    {
-        for (QQuickItem *child : control->childItems()) {
-            if (child->objectName() == QStringLiteral("segment%1").arg(number)) {
-                return child;
-            }
-        }
-        return nullptr;
-    }
+    std::unique_ptr<ModelScene> m_scene;
+    QQuickItem *m_format = nullptr;
+    QQuickItem *m_png = nullptr;
+    QQuickItem *m_jpeg = nullptr;
 
-    static QQuickItem *pill(const QQuickItem *control)
-    {
-        for (QQuickItem *child : control->childItems()) {
-            if (child->objectName() == QStringLiteral("pill")) {
-                return child;
-            }
-        }
-        return nullptr;
-    }
+    OutputFormat chosen() const { return m_scene->model.settings().format; }
 
 private Q_SLOTS:
+    void init()
+    {
+        m_scene = std::make_unique<ModelScene>();
+        m_scene->show(R"(
+            import QtQuick
+            import Lumaport.Options
+            Rectangle {
+                width: 300; height: 60; color: "white"
+                FormatControl { objectName: "format"; x: 10; y: 10 }
+                AppearanceControl { objectName: "appearance"; x: 150; y: 10 }
+            })");
+        m_format = m_scene->find("format");
+        m_png = m_scene->find("segment0", m_format);
+        m_jpeg = m_scene->find("segment1", m_format);
+    }
+
+    void cleanup() { m_scene.reset(); }
+
     void shouldChooseByPointerKeysAndAssistiveInterface()
     {
-        ModelScene scene;
-        scene.show(controls);
-        QQuickItem *format = scene.find(QStringLiteral("format"));
-        const auto chosen = [&] { return scene.model.settings().format; };
-        scene.click(segment(format, 1));
+        m_scene->click(m_jpeg);
         QCOMPARE(chosen(), OutputFormat::jpeg);
-        segment(format, 1)->forceActiveFocus(Qt::TabFocusReason);
-        scene.press(Qt::Key_Left);
-        QCOMPARE(chosen(), OutputFormat::png);
-        QVERIFY2(segment(format, 0)->hasActiveFocus(), "focus goes with the choice");
-        scene.press(Qt::Key_Left);
-        QCOMPARE(chosen(), OutputFormat::png);
-        scene.press(Qt::Key_Right);
+        m_jpeg->forceActiveFocus(Qt::TabFocusReason);
+        for (int press = 0; press < 2; ++press) { // the second has no segment to go to
+            m_scene->press(Qt::Key_Left);
+            QCOMPARE(chosen(), OutputFormat::png);
+            QVERIFY2(m_png->hasActiveFocus(), "the focus follows the choice");
+        }
+        m_scene->press(Qt::Key_Right);
         QCOMPARE(chosen(), OutputFormat::jpeg);
 
         QAccessible::setActive(true);
-        QAccessibleInterface *png = QAccessible::queryAccessibleInterface(segment(format, 0));
-        QAccessibleInterface *jpeg = QAccessible::queryAccessibleInterface(segment(format, 1));
-        QCOMPARE(png->text(QAccessible::Name), QStringLiteral("Convert to PNG"));
+        QAccessibleInterface *png = QAccessible::queryAccessibleInterface(m_png);
+        QAccessibleInterface *jpeg = QAccessible::queryAccessibleInterface(m_jpeg);
+        QCOMPARE(png->text(QAccessible::Name), "Convert to PNG");
         QCOMPARE(png->role(), QAccessible::RadioButton);
         QVERIFY(jpeg->state().selected);
         QVERIFY(!png->state().selected);
         png->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(chosen(), OutputFormat::png);
         QVERIFY(png->state().selected);
-        QQuickItem *light = segment(scene.find(QStringLiteral("appearance")), 1);
+        QQuickItem *light = m_scene->find("segment1", m_scene->find("appearance"));
         QCOMPARE(QAccessible::queryAccessibleInterface(light)->text(QAccessible::Description),
-                 QStringLiteral("Light appearance"));
+                 "Light appearance");
     }
 
     void shouldBeOneStopForTheTabKey()
     {
-        ModelScene scene;
-        scene.show(controls);
-        segment(scene.find(QStringLiteral("format")), 0)->forceActiveFocus(Qt::TabFocusReason);
-        scene.press(Qt::Key_Tab);
-        scene.press(Qt::Key_Right);
-        QCOMPARE(scene.model.appearanceMode(), AppearanceMode::light);
-        scene.press(Qt::Key_Right);
-        QCOMPARE(scene.model.appearanceMode(), AppearanceMode::dark);
-        QCOMPARE(scene.model.settings().format, OutputFormat::png);
+        m_png->forceActiveFocus(Qt::TabFocusReason);
+        m_scene->press(Qt::Key_Tab);
+        for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
+            m_scene->press(Qt::Key_Right);
+            QCOMPARE(m_scene->model.appearanceMode(), mode);
+        }
+        QVERIFY(m_scene->fixture.appearance->isDark());
+        QCOMPARE(chosen(), OutputFormat::png);
     }
 
     void shouldSlideThePillAndJumpWithReducedMotion()
     {
-        ModelScene scene;
-        scene.show(controls);
-        const QQuickItem *format = scene.find(QStringLiteral("format"));
-        const double first = segment(format, 0)->x();
-        const double second = segment(format, 1)->x();
-        QCOMPARE(pill(format)->x(), first);
-        scene.click(segment(format, 1));
-        QVERIFY(pill(format)->x() < second);
-        QTRY_COMPARE(pill(format)->x(), second);
-        QCOMPARE(pill(format)->mapToItem(format, QPointF()).y(), segment(format, 1)->y() - 2);
+        const QQuickItem *pill = m_scene->find("pill", m_format);
+        m_scene->click(m_png); // the chosen one already
+        QCOMPARE(pill->x(), m_png->x());
+        m_scene->click(m_jpeg);
+        QVERIFY(pill->x() < m_jpeg->x());
+        QTRY_COMPARE(pill->x(), m_jpeg->x());
 
-        scene.appearance.setMotion(SystemAppearance::Motion::Reduced);
-        scene.click(segment(format, 0));
-        QCOMPARE(pill(format)->x(), first);
-    }
-
-    void shouldChangeNothingWhenTheChosenOneIsPressedAgain()
-    {
-        ModelScene scene;
-        scene.show(controls);
-        const QQuickItem *format = scene.find(QStringLiteral("format"));
-        const ConversionSettings before = scene.model.settings();
-        scene.click(segment(format, 0));
-        QCOMPARE(scene.model.settings(), before);
-        QCOMPARE(pill(format)->x(), segment(format, 0)->x());
-    }
-
-    void shouldPaintTheChosenSegmentInCobaltUnderWhite()
-    {
-        ModelScene scene;
-        scene.appearance.setMotion(SystemAppearance::Motion::Reduced);
-        scene.show(controls);
-        const QImage picture = scene.window.grabWindow();
-        // Inside the pill, left of "PNG"; and the track beside it, in the gap between the segments.
-        QCOMPARE(picture.pixelColor(10 + 4 + 4, 10 + 4 + 12).name(), QStringLiteral("#3978ff"));
-        QCOMPARE(picture.pixelColor(10 + 4 + 53 + 3, 10 + 18).name(), QStringLiteral("#e7eefc"));
-        QCOMPARE(picture.pixelColor(10 + 4 + 26, 10 + 4 - 2).name(), QStringLiteral("#3978ff"));
+        m_scene->appearance.setMotion(SystemAppearance::Motion::Reduced);
+        m_scene->click(m_png);
+        QCOMPARE(pill->x(), m_png->x());
+        QTest::mouseMove(&m_scene->window, QPoint(5, 5));
+        // The pill left of "PNG", its top two points above the segment, and the track between the segments.
+        const QImage picture = m_scene->window.grabWindow();
+        QCOMPARE(picture.pixelColor(10 + 4 + 4, 10 + 4 + 12).name(), "#3978ff");
+        QCOMPARE(picture.pixelColor(10 + 4 + 26, 10 + 4 - 2).name(), "#3978ff");
+        QCOMPARE(picture.pixelColor(10 + 4 + 53 + 3, 10 + 18).name(), "#e7eefc");
     }
 };
 

@@ -17,13 +17,9 @@ class HistoryAndOptionsTest : public QObject
 {
     Q_OBJECT
 
-    static int count(const QQuickItem *item, const QString &name)
+    static void setQuality(AppModel &model, double quality)
     {
-        int found = item->objectName() == name && item->isVisible() ? 1 : 0;
-        for (const QQuickItem *child : item->childItems()) {
-            found += count(child, name);
-        }
-        return found;
+        model.setSettings({.format = OutputFormat::jpeg, .jpegQuality = quality});
     }
 
 private Q_SLOTS:
@@ -31,55 +27,70 @@ private Q_SLOTS:
     {
         ModelScene scene;
         scene.show(list);
-        QVERIFY(scene.find(QStringLiteral("emptyState")));
-        QVERIFY(!scene.find(QStringLiteral("clearHistory")));
-        QVERIFY(!scene.find(QStringLiteral("readyCount")));
-        scene.model.setItems({scene.item(QStringLiteral("a.heic"), ConversionStatus::ready)});
-        QVERIFY(!scene.find(QStringLiteral("emptyState")));
-        QVERIFY(scene.find(QStringLiteral("readyCount")));
-        scene.click(scene.find(QStringLiteral("clearHistory")));
+        QVERIFY(scene.find("emptyState"));
+        QVERIFY(!scene.find("clearHistory"));
+        QVERIFY(!scene.find("readyCount"));
+        scene.model.setItems({scene.item("a.heic", ConversionStatus::ready)});
+        QVERIFY(!scene.find("emptyState"));
+        QVERIFY(scene.findText("1 ready"));
+        scene.click(scene.find("clearHistory"));
         QVERIFY(scene.model.items().isEmpty());
-        QCOMPARE(scene.model.lastEventText(), QStringLiteral("History cleared"));
-        QVERIFY(QFile::exists(scene.fixture.url(QStringLiteral("a.heic")).toLocalFile()));
+        QCOMPARE(scene.model.lastEventText(), "History cleared");
+        QVERIFY(QFile::exists(scene.fixture.url("a.heic").toLocalFile()));
     }
 
-    void shouldPutDividersBetweenRowsOnly()
+    void shouldShowInEachRowItsStateItsActionAndADividerBelow()
     {
         ModelScene scene;
-        const QQuickItem *item = scene.show(list);
-        QList<ConversionItem> items{scene.item(QStringLiteral("a.heic"), ConversionStatus::ready)};
+        scene.show(list);
+        const QList<ConversionItem> items{scene.item("a.heic", ConversionStatus::ready),
+                                          scene.item("b.heic", ConversionStatus::failed),
+                                          scene.item("c.heic", ConversionStatus::queued)};
         scene.model.setItems(items);
-        QCOMPARE(count(item, QStringLiteral("divider")), 0);
-        items.append(scene.item(QStringLiteral("b.heic"), ConversionStatus::failed));
-        items.prepend(scene.item(QStringLiteral("c.heic"), ConversionStatus::ready));
-        scene.model.setItems(items);
-        QCOMPARE(count(item, QStringLiteral("divider")), 2);
+        const QStringList symbols{"checkmark", "exclamationmark.triangle", "clock"};
+        const QColor attention(0xAD, 0x3E, 0x20);
+        for (int number = 0; number < 3; ++number) {
+            QQuickItem *row = scene.find(QStringLiteral("row%1").arg(number));
+            const QQuickItem *badge = scene.find("badge", row);
+            QCOMPARE(badge->property("name"), symbols.at(number));
+            QCOMPARE(badge->property("color").value<QColor>() == attention, number == 1);
+            QCOMPARE(scene.all("reveal", row).size(), number == 0 ? 1 : 0);
+            QCOMPARE(scene.all("tryAgain", row).size(), number == 1 ? 1 : 0);
+            QCOMPARE(scene.all("divider", row).size(), number == 2 ? 0 : 1);
+        }
+        QVERIFY(!scene.find("clearHistory")->isEnabled());
+        QQuickItem *reveal = scene.find("reveal");
+        QCOMPARE(QAccessible::queryAccessibleInterface(reveal)->text(QAccessible::Name),
+                 "Reveal a.png in Finder");
+        scene.click(reveal);
+        QCOMPARE(scene.fixture.workspace->revealed.size(), 1);
+        scene.click(scene.find("tryAgain"));
+        QCOMPARE(scene.model.items().first().sourceName, "b.heic");
         scene.model.setItems({items[0]});
-        QCOMPARE(count(item, QStringLiteral("divider")), 0);
+        QVERIFY(!scene.find("divider"));
     }
 
     void shouldKeepTheRowAndItsThumbnailThroughAChangeOfStatus()
     {
         ModelScene scene;
         scene.show(list);
-        QList<ConversionItem> items{scene.item(QStringLiteral("a.heic"), ConversionStatus::queued)};
+        QList<ConversionItem> items{scene.item("a.heic", ConversionStatus::queued)};
         scene.model.setItems(items);
-        QQuickItem *thumbnail = scene.find(QStringLiteral("thumbnail"));
+        QQuickItem *thumbnail = scene.find("thumbnail");
         QTRY_VERIFY(thumbnail->property("loaded").toBool());
         QCOMPARE(scene.window.grabWindow().pixelColor(scene.centre(thumbnail)), QColor(0xFF, 0xA5, 0x00));
         items[0].status = ConversionStatus::converting;
         scene.model.setItems(items);
         items[0].status = ConversionStatus::failed;
         scene.model.setItems(items);
-        QCOMPARE(scene.find(QStringLiteral("thumbnail")), thumbnail);
+        QCOMPARE(scene.find("thumbnail"), thumbnail);
         QVERIFY(thumbnail->property("loaded").toBool());
         QCOMPARE(scene.photos->launched.load(), 1);
 
-        items[0] = scene.item(QStringLiteral("b.heic"), ConversionStatus::ready, "green");
+        items[0] = scene.item("b.heic", ConversionStatus::ready, "green");
         scene.model.setItems(items);
-        QTRY_COMPARE(
-            scene.window.grabWindow().pixelColor(scene.centre(scene.find(QStringLiteral("thumbnail")))),
-            QColor(Qt::darkGreen));
+        QTRY_COMPARE(scene.window.grabWindow().pixelColor(scene.centre(scene.find("thumbnail"))),
+                     QColor(Qt::darkGreen));
     }
 
     void shouldKeepThePlaceholderOfAPhotoThatGivesNoPicture()
@@ -87,13 +98,12 @@ private Q_SLOTS:
         ModelScene scene;
         scene.show("import Lumaport.History\nPhotoThumbnail { objectName: 'thumbnail'; width: 100; height: "
                    "100; variant: 1 }");
-        QQuickItem *thumbnail = scene.find(QStringLiteral("thumbnail"));
+        QQuickItem *thumbnail = scene.find("thumbnail");
         const QImage without = scene.window.grabWindow();
         const QColor corner = without.pixelColor(1, 1); // odd: warm, from (1, 0.79, 0.59)
         QVERIFY(corner.red() == 255 && qAbs(corner.green() - 201) <= 2 && qAbs(corner.blue() - 150) <= 2);
         QVERIFY(without.pixelColor(50, 60).blue() > 200); // the mountains, nearly white
-        thumbnail->setProperty("url",
-                               scene.item(QStringLiteral("x.heic"), ConversionStatus::queued, "?").sourceURL);
+        thumbnail->setProperty("url", scene.item("x.heic", ConversionStatus::queued, "?").sourceURL);
         QTRY_COMPARE(scene.photos->launched.load(), 1);
         QTRY_COMPARE(scene.photos->running.load(), 0);
         QCoreApplication::processEvents();
@@ -103,7 +113,7 @@ private Q_SLOTS:
     void shouldPaintNothingOfTheGradientAroundAPicture()
     {
         ModelScene scene;
-        const ConversionItem photo = scene.item(QStringLiteral("a.heic"), ConversionStatus::ready, "orange");
+        const ConversionItem photo = scene.item("a.heic", ConversionStatus::ready, "orange");
         const QQuickItem *thumbnail =
             scene.show("import Lumaport.History\nPhotoThumbnail { width: 52; height: 52; cornerRadius: 11 }");
         scene.find({})->setProperty("url", photo.sourceURL);
@@ -123,94 +133,98 @@ private Q_SLOTS:
         QVERIFY(scene.window.grabWindow().pixelColor(21, 21).red() < 130); // of the gradient, not white
     }
 
-    void shouldOfferTheOneActionOfEachRow()
-    {
-        ModelScene scene;
-        const QQuickItem *item = scene.show(list);
-        scene.model.setItems({scene.item(QStringLiteral("a.heic"), ConversionStatus::ready),
-                              scene.item(QStringLiteral("b.heic"), ConversionStatus::failed),
-                              scene.item(QStringLiteral("c.heic"), ConversionStatus::queued)});
-        QCOMPARE(count(item, QStringLiteral("reveal")), 1);
-        QCOMPARE(count(item, QStringLiteral("tryAgain")), 1);
-        QVERIFY(!scene.find(QStringLiteral("clearHistory"))->isEnabled());
-        QQuickItem *reveal = scene.find(QStringLiteral("reveal"));
-        QCOMPARE(QAccessible::queryAccessibleInterface(reveal)->text(QAccessible::Name),
-                 QStringLiteral("Reveal a.png in Finder"));
-        scene.click(reveal);
-        QCOMPARE(scene.fixture.workspace->revealed.size(), 1);
-        scene.click(scene.find(QStringLiteral("tryAgain")));
-        QCOMPARE(scene.model.items().first().sourceName, QStringLiteral("b.heic"));
-    }
-
     void shouldShowTheQualityWithItsStopsForJpegOnly()
     {
         ModelScene scene;
         scene.show(panel);
-        QVERIFY(!scene.find(QStringLiteral("quality")));
-        ConversionSettings settings = scene.model.settings();
-        settings.format = OutputFormat::jpeg;
-        settings.jpegQuality = 0.65;
-        scene.model.setSettings(settings);
-        QQuickItem *slider = scene.find(QStringLiteral("qualitySlider"));
+        QVERIFY(!scene.find("quality"));
+        setQuality(scene.model, 0.65);
+        QQuickItem *slider = scene.find("qualitySlider");
         QVERIFY(slider);
         slider->forceActiveFocus(Qt::TabFocusReason);
-        const QQuickItem *text = scene.find(QStringLiteral("qualityText"));
         for (const int percent : {70, 75, 80, 85, 90, 95, 100, 100}) {
             scene.press(Qt::Key_Right);
-            QCOMPARE(text->property("text").toString(), QStringLiteral("%1% quality").arg(percent));
+            QVERIFY2(scene.findText(QStringLiteral("%1% quality").arg(percent)),
+                     qPrintable(QString::number(percent)));
             QCOMPARE(scene.model.settings().jpegQuality, percent / 100.0);
         }
         for (const int percent : {95, 90, 85, 80, 75, 70, 65, 65}) {
             scene.press(Qt::Key_Left);
-            QCOMPARE(text->property("text").toString(), QStringLiteral("%1% quality").arg(percent));
+            QVERIFY2(scene.findText(QStringLiteral("%1% quality").arg(percent)),
+                     qPrintable(QString::number(percent)));
         }
-        settings.format = OutputFormat::png;
-        scene.model.setSettings(settings);
-        QVERIFY(!scene.find(QStringLiteral("quality")));
+        scene.model.setSettings({.format = OutputFormat::png});
+        QVERIFY(!scene.find("quality"));
     }
 
-    void shouldLeaveAStoredQualityOutOfTheSlidersRangeAlone()
+    void shouldTruncateAStoredQualityToWholePercentAndLeaveItAlone_data()
     {
+        QTest::addColumn<double>("quality");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("as set") << 0.85 << "85% quality";
+        QTest::newRow("just below a whole number") << 0.7999999 << "79% quality";
+        QTest::newRow("below the slider's range") << 0.3 << "30% quality";
+        QTest::newRow("above it") << 1.7 << "170% quality";
+    }
+
+    void shouldTruncateAStoredQualityToWholePercentAndLeaveItAlone()
+    {
+        QFETCH(double, quality);
+        QFETCH(QString, text);
         ModelScene scene;
-        ConversionSettings settings = scene.model.settings();
-        settings.format = OutputFormat::jpeg;
-        settings.jpegQuality = 0.3;
-        scene.model.setSettings(settings);
+        setQuality(scene.model, quality);
         scene.show(panel);
-        QCOMPARE(scene.model.settings().jpegQuality, 0.3);
-        QCOMPARE(scene.find(QStringLiteral("qualityText"))->property("text").toString(),
-                 QStringLiteral("30% quality"));
+        QCOMPARE(scene.model.settings().jpegQuality, quality);
+        QVERIFY(scene.findText(text));
+    }
+
+    void shouldChooseFromAPickerByKeys_data()
+    {
+        QTest::addColumn<QString>("picker");
+        QTest::addColumn<Qt::Key>("key");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QStringList>("texts"); // before and after
+        QTest::newRow("folder") << "outputLocation" << Qt::Key_Up << "Save converted photos"
+                                << QStringList{"Lumaport folder", "Beside originals"};
+        QTest::newRow("originals") << "originalPolicy" << Qt::Key_Down << "Original photos"
+                                   << QStringList{"Keep originals", "Move to Originals"};
     }
 
     void shouldChooseFromAPickerByKeys()
     {
+        QFETCH(QString, picker);
+        QFETCH(Qt::Key, key);
+        QFETCH(QStringList, texts);
         ModelScene scene;
         scene.show(panel);
-        QQuickItem *picker = scene.find(QStringLiteral("outputLocation"));
-        picker->forceActiveFocus(Qt::TabFocusReason);
+        QQuickItem *box = scene.find(picker);
+        QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(box);
+        QTEST(spoken->text(QAccessible::Name), "title");
+        QCOMPARE(spoken->text(QAccessible::Description), texts.at(0));
+        box->forceActiveFocus(Qt::TabFocusReason);
         scene.press(Qt::Key_Return);
-        QTRY_VERIFY(picker->property("down").toBool());
+        QTRY_VERIFY(box->property("down").toBool());
         const auto *menu =
-            picker->property("popup").value<QObject *>()->property("contentItem").value<QQuickItem *>();
+            box->property("popup").value<QObject *>()->property("contentItem").value<QQuickItem *>();
         const auto isSaidToBeChosen = [menu] {
             auto *entry = menu->property("currentItem").value<QQuickItem *>();
             return QAccessible::queryAccessibleInterface(entry)->state().selected;
         };
         QVERIFY(isSaidToBeChosen());
-        scene.press(Qt::Key_Up);
+        scene.press(key);
         QVERIFY(!isSaidToBeChosen());
         scene.press(Qt::Key_Return);
-        QCOMPARE(scene.model.settings().outputLocation, OutputLocation::alongside);
-        QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(picker);
-        QCOMPARE(spoken->text(QAccessible::Name), QStringLiteral("Save converted photos"));
-        QCOMPARE(spoken->text(QAccessible::Description), QStringLiteral("Beside originals"));
+        QCOMPARE(spoken->text(QAccessible::Description), texts.at(1));
+        const ConversionSettings settings = scene.model.settings();
+        QVERIFY((settings.outputLocation == OutputLocation::alongside) !=
+                (settings.originalPolicy == OriginalPolicy::archive));
     }
 
     void shouldToggleNotificationsByEveryWay()
     {
         ModelScene scene;
         scene.show(panel);
-        QQuickItem *notify = scene.find(QStringLiteral("notify"));
+        QQuickItem *notify = scene.find("notify");
         const auto isOn = [&] { return scene.model.settings().notificationsEnabled; };
         notify->forceActiveFocus(Qt::TabFocusReason); // and scrolls it into view
         scene.click(notify);
@@ -229,11 +243,11 @@ private Q_SLOTS:
     {
         ModelScene scene;
         const QQuickItem *item = scene.show(panel);
-        QQuickItem *notify = scene.find(QStringLiteral("notify"));
+        QQuickItem *notify = scene.find("notify");
         QVERIFY(notify->mapToItem(item, QPointF()).y() > item->height());
         notify->forceActiveFocus(Qt::TabFocusReason);
         QVERIFY(notify->mapToItem(item, QPointF(0, notify->height())).y() <= item->height());
-        QQuickItem *close = scene.find(QStringLiteral("close"));
+        QQuickItem *close = scene.find("close");
         close->forceActiveFocus(Qt::TabFocusReason);
         QVERIFY(close->mapToItem(item, QPointF()).y() >= 0);
         scene.press(Qt::Key_Return);
@@ -259,19 +273,19 @@ private Q_SLOTS:
     {
         ModelScene scene;
         scene.show(panel);
-        const QQuickItem *path = scene.find(QStringLiteral("folderPath"));
+        const QQuickItem *path = scene.find("folderPath");
         QVERIFY(path->width() <= 258 - 2 * 22);
         const double height = path->height();
-        const QString deep = scene.fixture.home.filePath(QStringLiteral("a-very-long-name/").repeated(9));
+        const QString deep = scene.fixture.home.filePath(QString("a-very-long-name/").repeated(9));
         QDir().mkpath(deep);
         scene.fixture.panel->answer = {QUrl::fromLocalFile(deep)};
-        scene.click(scene.find(QStringLiteral("changeFolder")));
+        scene.click(scene.find("changeFolder"));
         ModelFixture::turn();
         QTRY_VERIFY(path->height() > height);
-        scene.model.setItems({scene.item(QStringLiteral("a.heic"), ConversionStatus::converting)});
-        QVERIFY(!scene.find(QStringLiteral("convertExisting"))->isEnabled());
-        QVERIFY(scene.find(QStringLiteral("changeFolder"))->isEnabled());
-        scene.click(scene.find(QStringLiteral("openFolder")));
+        scene.model.setItems({scene.item("a.heic", ConversionStatus::converting)});
+        QVERIFY(!scene.find("convertExisting")->isEnabled());
+        QVERIFY(scene.find("changeFolder")->isEnabled());
+        scene.click(scene.find("openFolder"));
         QCOMPARE(scene.fixture.workspace->opened.size(), 1);
     }
 };

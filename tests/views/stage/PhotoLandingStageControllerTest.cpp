@@ -23,94 +23,75 @@ private Q_SLOTS:
         m_fixture.reset();
     }
 
-    void shouldShowThreePlaceholdersWithoutHistory()
-    {
-        QCOMPARE(m_stage->rowCount(), 3);
-        for (int card = 0; card < 3; ++card) {
-            QCOMPARE(url(card), QUrl());
-            QCOMPARE(caption(card), QStringLiteral("Photo"));
-            QCOMPARE(symbol(card), QStringLiteral("photo"));
-        }
-        QCOMPARE(m_stage->badgeSymbol(), QStringLiteral("arrow.down"));
-        QVERIFY(!m_stage->isExpanded());
-    }
-
     void shouldFollowAPhotoFromItsLandingUntilTheStageIsIdleAgain()
     {
-        QSignalSpy cards(m_stage.get(), &QAbstractItemModel::dataChanged);
-        QSignalSpy reset(m_stage.get(), &QAbstractItemModel::modelReset);
-        const QUrl source = m_fixture->write(QStringLiteral("IMG_1.HEIC"));
-        m_fixture->model().convertManually({source});
-        QCOMPARE(url(0), source);
-        QVERIFY(m_stage->showsFluid());
-        QVERIFY(!m_stage->isFluidActive());
-        QCOMPARE(m_stage->badgeSymbol(), QString());
-
+        QCOMPARE(m_stage->rowCount(), 3);
+        QCOMPARE(cards(), "/Photo/photo /Photo/photo /Photo/photo");
+        QCOMPARE(badge(), "arrow.down");
+        QSignalSpy cardChanges(m_stage.get(), &QAbstractItemModel::dataChanged);
+        QSignalSpy resets(m_stage.get(), &QAbstractItemModel::modelReset);
+        QSignalSpy changes(m_stage.get(), &PhotoLandingStageController::changed);
+        m_fixture->model().convertManually({m_fixture->write("1.heic")});
+        QCOMPARE(cards(), "1.heic/Photo/photo /Photo/photo /Photo/photo");
+        QCOMPARE(badge(), "still fluid");
         ModelFixture::turn();
-        QVERIFY(m_stage->showsFluid());
-        QVERIFY(m_stage->isFluidActive());
-
-        cards.clear();
-        QSignalSpy badge(m_stage.get(), &PhotoLandingStageController::changed);
-        m_fixture->engine->succeed(QStringLiteral("IMG_1.png"));
-        QVERIFY(!cards.isEmpty());
-        QVERIFY(!badge.isEmpty());
-        QCOMPARE(url(0), m_fixture->url(QStringLiteral("IMG_1.png")));
-        QCOMPARE(caption(0), QStringLiteral("Ready"));
-        QCOMPARE(symbol(0), QStringLiteral("checkmark"));
-        QCOMPARE(caption(1), QStringLiteral("Photo"));
-        QCOMPARE(m_stage->badgeSymbol(), QStringLiteral("checkmark"));
-        QVERIFY(!m_stage->showsFluid());
-        QVERIFY(m_stage->isExpanded());
-
+        QCOMPARE(badge(), "moving fluid");
+        cardChanges.clear();
+        changes.clear();
+        m_fixture->engine->succeed("1.png");
+        QVERIFY(!cardChanges.isEmpty());
+        QVERIFY(!changes.isEmpty());
+        QCOMPARE(cards(), "1.png/Ready/checkmark /Photo/photo /Photo/photo");
+        QCOMPARE(badge(), "checkmark, expanded");
         m_fixture->jobs->advance(std::chrono::seconds(4));
-        QCOMPARE(url(0), m_fixture->url(QStringLiteral("IMG_1.png")));
-        QCOMPARE(caption(0), QStringLiteral("Photo"));
-        QCOMPARE(m_stage->badgeSymbol(), QStringLiteral("arrow.down"));
-        QVERIFY(!m_stage->isExpanded());
-        QVERIFY(reset.isEmpty()); // each card keeps its picture
+        QCOMPARE(cards(), "1.png/Photo/photo /Photo/photo /Photo/photo");
+        QCOMPARE(badge(), "arrow.down");
+        QVERIFY2(resets.isEmpty(), "each card keeps its picture");
     }
 
-    void shouldShowTheNewestThree()
+    void shouldShowTheNewestThreeAndWarnOfAFailure()
     {
         for (const char *name : {"1.heic", "2.heic", "3.heic", "4.heic"}) {
-            m_fixture->model().convertManually({m_fixture->write(QLatin1String(name))});
+            m_fixture->model().convertManually({m_fixture->write(name)});
+            ModelFixture::turn();
+            m_fixture->engine->fail(ConversionError::unreadableImage);
+            QCOMPARE(badge(), "exclamationmark");
         }
-        QCOMPARE(url(0).fileName(), QStringLiteral("4.heic"));
-        QCOMPARE(url(2).fileName(), QStringLiteral("2.heic"));
+        QCOMPARE(cards(), "4.heic/Photo/photo 3.heic/Photo/photo 2.heic/Photo/photo");
     }
 
-    void shouldWarnOfAFailure()
-    {
-        m_fixture->model().convertManually({m_fixture->write(QStringLiteral("IMG_1.HEIC"))});
-        ModelFixture::turn();
-        m_fixture->engine->fail(ConversionError::unreadableImage);
-        QCOMPARE(m_stage->badgeSymbol(), QStringLiteral("exclamationmark"));
-        QVERIFY(!m_stage->isExpanded());
-    }
-
-    void shouldFanOutForADragAndForThePointer()
+    void shouldExpandForADragAndForThePointer()
     {
         QSignalSpy changes(m_stage.get(), &PhotoLandingStageController::changed);
         m_fixture->model().setIsDropTargeted(true);
-        QVERIFY(m_stage->isTargeted());
-        QVERIFY(m_stage->isExpanded());
+        QCOMPARE(badge(), "arrow.down, expanded");
         m_fixture->model().setIsDropTargeted(false);
-        QVERIFY(!m_stage->isExpanded());
-        QCOMPARE(changes.size(), 2);
+        QCOMPARE(badge(), "arrow.down");
         m_stage->setHovered(true);
-        QVERIFY(m_stage->isExpanded());
+        QCOMPARE(badge(), "arrow.down, expanded");
         QCOMPARE(changes.size(), 3);
     }
 
 private:
-    QVariant data(int card, int role) const { return m_stage->data(m_stage->index(card), role); }
-    QUrl url(int card) const { return data(card, PhotoLandingStageController::UrlRole).toUrl(); }
-    QString caption(int card) const
+    /// File, caption and symbol of each card.
+    QString cards() const
     {
-        return data(card, PhotoLandingStageController::CaptionRole).toString();
+        QStringList shown;
+        for (int card = 0; card < m_stage->rowCount(); ++card) {
+            const auto data = [&](int role) { return m_stage->data(m_stage->index(card), role); };
+            shown << data(PhotoLandingStageController::UrlRole).toUrl().fileName() + '/' +
+                         data(PhotoLandingStageController::CaptionRole).toString() + '/' +
+                         data(PhotoLandingStageController::SymbolRole).toString();
+        }
+        return shown.join(' ');
     }
-    QString symbol(int card) const { return data(card, PhotoLandingStageController::SymbolRole).toString(); }
+
+    QString badge() const
+    {
+        const QString fluid = m_stage->isFluidActive() ? "moving fluid" : "still fluid";
+        return (m_stage->showsFluid() ? fluid : QString()) + m_stage->badgeSymbol() +
+               (m_stage->isExpanded() ? ", expanded" : "");
+    }
 
     std::unique_ptr<ModelFixture> m_fixture;
     std::unique_ptr<PhotoLandingStageController> m_stage;

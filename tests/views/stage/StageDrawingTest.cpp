@@ -1,3 +1,4 @@
+#include "ConversionError.h"
 #include "ConversionFluid.h"
 #include "FolderFront.h"
 #include "GaussianBlur.h"
@@ -6,7 +7,33 @@
 
 #include <cmath>
 
-// The pieces of the stage that are drawn by the program itself.
+namespace {
+
+/// The stage, with the pointer beside it.
+class StageScene : public ModelScene
+{
+public:
+    StageScene()
+    {
+        show("import QtQuick\nimport Lumaport.Stage\nItem { id: page; width: 400; height: 222\n"
+             "required property PhotoLandingStageController controller\n"
+             "PhotoLandingStage { objectName: 'stage'; controller: page.controller } }",
+             {{"controller", QVariant::fromValue(&m_controller)}});
+        for (const int x : {380, 370}) { // the pointer may rest where an earlier test left it
+            QTest::mouseMove(&window, QPoint(x, 20));
+        }
+    }
+    ~StageScene() { close(); }
+    StageScene(const StageScene &) = delete;
+    StageScene &operator=(const StageScene &) = delete;
+
+private:
+    PhotoLandingStageController m_controller{model};
+};
+
+} // namespace
+
+// What the stage draws by itself.
 class StageDrawingTest : public QObject
 {
     Q_OBJECT
@@ -52,11 +79,11 @@ private Q_SLOTS:
     {
         FolderFront front;
         const auto place = [&front](double x, double y) {
-            return front.tiltMatrix().map(QPointF(x, y)); // in a point of air
+            return front.tiltMatrix().map(QPointF(x, y)); // with a margin of one point
         };
-        front.setTilt(0.0);
+        front.setProperty("tilt", 0.0);
         QCOMPARE(place(1.0, 1.0), QPointF(1.0, 1.0));
-        front.setTilt(-18.0);
+        front.setProperty("tilt", -18.0);
         for (const double x : {1.0, 120.5, 240.0}) {
             QVERIFY(QLineF(place(x, 109.0), QPointF(x, 109.0)).length() < 1e-3);
         }
@@ -84,18 +111,10 @@ private Q_SLOTS:
         QFETCH(SystemAppearance::Motion, motion);
         QFETCH(double, tilt);
         QFETCH(double, growth);
-        ModelScene scene;
+        StageScene scene;
         scene.appearance.setMotion(motion);
-        PhotoLandingStageController controller(scene.model);
-        scene.show("import QtQuick\nimport Lumaport.Stage\nItem { id: page; width: 400; height: 222\n"
-                   "required property PhotoLandingStageController controller\n"
-                   "PhotoLandingStage { objectName: 'stage'; controller: page.controller } }",
-                   {{QStringLiteral("controller"), QVariant::fromValue(&controller)}});
-        for (const int x : {380, 370}) { // the pointer may rest where an earlier test left it
-            QTest::mouseMove(&scene.window, QPoint(x, 20));
-        }
-        const QQuickItem *stage = scene.find(QStringLiteral("stage"));
-        const QQuickItem *front = scene.find(QStringLiteral("front"));
+        const QQuickItem *stage = scene.find("stage");
+        const QQuickItem *front = scene.find("front");
         const auto card = [&](int number) { return scene.find(QStringLiteral("card%1").arg(number)); };
         // How far a card's middle lies from the stage's; an odd side is centred on a whole point.
         const auto liesAt = [&](int number, QPointF place) {
@@ -116,7 +135,36 @@ private Q_SLOTS:
             QTRY_VERIFY(liesAt(side + 1, QPointF(63 * side, -37) * growth));
         }
         QCOMPARE(front->property("tilt").toDouble(), tilt);
-        scene.close();
+    }
+
+    void shouldShowThePhotoWithItsCaptionAndABadgeForEachState()
+    {
+        StageScene scene;
+        scene.appearance.setMotion(SystemAppearance::Motion::Reduced);
+        QList<QImage> badges; // of each state: where it is white, as its symbol is
+        const auto note = [&] {
+            const QImage badge = scene.window.grabWindow().copy(165 - 27, 111 + 43 - 27, 54, 54);
+            badges << badge.convertToFormat(QImage::Format_RGB32).createMaskFromColor(qRgb(255, 255, 255));
+        };
+        note();
+        scene.model.convertManually({scene.item("a.heic", ConversionStatus::queued).sourceURL});
+        ModelFixture::turn();
+        note();
+        (void)scene.item("a.png", ConversionStatus::ready);
+        scene.fixture.engine->succeed("a.png");
+        note();
+        QQuickItem *card = scene.find("card0");
+        QVERIFY(scene.findText("Ready", card));
+        const QPoint picture = card->mapToScene(QPointF(7 + 25, 7 + 47)).toPoint();
+        QTRY_COMPARE(scene.window.grabWindow().pixelColor(picture), QColor(255, 165, 0));
+        scene.model.convertManually({scene.item("b.heic", ConversionStatus::queued).sourceURL});
+        ModelFixture::turn();
+        scene.fixture.engine->fail(ConversionError::unreadableImage);
+        note();
+        QVERIFY(scene.findText("Photo", card));
+        for (int i = 0; i < badges.size(); ++i) {
+            QCOMPARE(badges.indexOf(badges.at(i)), i);
+        }
     }
 
     void shouldDrawTheFluidOfItsMoment()
@@ -127,14 +175,16 @@ private Q_SLOTS:
         QVERIFY(fluid);
         const QImage still = scene.window.grabWindow();
         QCOMPARE(still.pixelColor(1, 1), QColor(Qt::white)); // a disc, not a square
-        // The last colour has its middle there and covers what is below by 85 %.
-        const QColor coral(0xFF, 0x80, 0x5F);
-        const QPoint middle(static_cast<int>(54 * (0.5 + 0.28 * std::sin(4.2))),
-                            static_cast<int>(54 * (0.62 + 0.2 * std::cos(0.8 * 4.2))));
-        const QColor seen = still.pixelColor(middle);
-        QVERIFY2(std::abs(seen.red() - coral.red()) < 45 && std::abs(seen.green() - coral.green()) < 30 &&
-                     std::abs(seen.blue() - coral.blue()) < 40,
-                 qPrintable(seen.name()));
+        const auto centre = [&](double phase) {
+            return still.pixelColor(static_cast<int>(54 * (0.5 + 0.28 * std::sin(phase))),
+                                    static_cast<int>(54 * (0.62 + 0.2 * std::cos(0.8 * phase))));
+        };
+        // Coral is painted last: at its centre it covers the others by 85 %.
+        const QColor coral = centre(4.2);
+        QVERIFY2(coral.red() > 210 && qAbs(coral.green() - 128) < 30 && qAbs(coral.blue() - 95) < 40,
+                 qPrintable(coral.name()));
+        // At the centre of the second, cyan shines through the edge of coral; cobalt has far less green.
+        QVERIFY2(centre(2.1).green() > 155, qPrintable(centre(2.1).name()));
         fluid->setTime(1.0);
         QVERIFY(scene.window.grabWindow() != still);
         fluid->setTime(0.0);
@@ -147,7 +197,7 @@ private Q_SLOTS:
         auto *fluid = qobject_cast<ConversionFluid *>(
             scene.show("import QtQuick; import Lumaport.Stage; ConversionFluid { width: 54; height: 54 }"));
         QVERIFY(!fluid->isMoving());
-        fluid->setActive(true);
+        fluid->setProperty("active", true);
         QVERIFY(fluid->isMoving());
         QTRY_VERIFY(fluid->time() > 0.0);
 
@@ -171,11 +221,11 @@ private Q_SLOTS:
         fluid->setVisible(true);
         QVERIFY(fluid->isMoving());
 
-        fluid->setReduceMotion(true);
+        fluid->setProperty("reduceMotion", true);
         QVERIFY(!fluid->isMoving());
         QCOMPARE(fluid->time(), 0.0);
-        fluid->setReduceMotion(false);
-        fluid->setActive(false);
+        fluid->setProperty("reduceMotion", false);
+        fluid->setProperty("active", false);
         QVERIFY(!fluid->isMoving());
         QCOMPARE(fluid->time(), 0.0);
     }
