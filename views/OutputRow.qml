@@ -2,7 +2,7 @@ import QtQuick
 import Lumaport.Options
 import Lumaport.Vocabulary
 
-// What photos become, and where the copies go.
+// The output format, and where the copies are saved.
 Item {
     id: row
 

@@ -5,13 +5,13 @@ import Lumaport.Interaction
 import Lumaport.Options
 import Lumaport.Vocabulary
 
-// The panel in which everything that can be set is set.
+// The options panel: all settings but the appearance.
 Rectangle {
     id: panel
 
     readonly property real padding: 22
 
-    // The close button was pressed; with `reason` it had got the keyboard's focus.
+    // The close button was pressed. `reason` is why it had got the focus, a Qt.FocusReason.
     signal closeRequested(int reason)
 
     Accessible.name: qsTr("Make it yours")

@@ -6,8 +6,8 @@
 #include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
 
-/// A disc of moving colour that stands for a conversion in progress. It moves, at 30 frames a second, only
-/// while it is active, motion is wanted and the user is at its window; else it is still and costs nothing.
+/// A disc of moving colour that shows a conversion in progress. It moves, at 30 frames a second, only while
+/// it is active, motion is not reduced and its window is active and shown. Otherwise it is not drawn again.
 class ConversionFluid : public QQuickPaintedItem
 {
     Q_OBJECT
