@@ -35,6 +35,6 @@ Item {
         font.pixelSize: 11
         font.weight: Font.Medium
         symbol: "folder"
-        text: OptionsController.outputLocationText
+        text: OptionsController.outputLocations[OptionsController.outputLocation]
     }
 }

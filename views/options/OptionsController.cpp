@@ -56,7 +56,6 @@ OptionsController::OptionsController(AppModel &model, QObject *parent)
     , m_model(model)
 {
     connect(&model, &AppModel::watchFolderChanged, this, &OptionsController::watchFolderChanged);
-    connect(&model, &AppModel::itemsChanged, this, &OptionsController::busyChanged);
     connect(&model, &AppModel::settingsChanged, this, &OptionsController::settingsChanged);
     connect(&model, &AppModel::appearanceModeChanged, this, &OptionsController::appearanceModeChanged);
 }
@@ -84,11 +83,6 @@ QString OptionsController::watchFolderPath() const
     return m_model.watchFolder().toLocalFile();
 }
 
-bool OptionsController::canConvertExisting() const
-{
-    return !m_model.isBusy();
-}
-
 int OptionsController::format() const
 {
     return choiceOf(m_model.settings().format);
@@ -112,11 +106,6 @@ QString OptionsController::qualityText() const
 QStringList OptionsController::outputLocations()
 {
     return optionTexts<OutputLocation>();
-}
-
-QString OptionsController::outputLocationText() const
-{
-    return optionText(m_model.settings().outputLocation);
 }
 
 int OptionsController::outputLocation() const
@@ -149,14 +138,10 @@ void OptionsController::setFormat(int choice)
     changeSettings([=](ConversionSettings &settings) { settings.format = optionOf<OutputFormat>(choice); });
 }
 
-void OptionsController::setJpegQuality(double quality)
+void OptionsController::setJpegQuality(double position)
 {
-    changeSettings([=](ConversionSettings &settings) { settings.jpegQuality = quality; });
-}
-
-void OptionsController::moveQuality(double position)
-{
-    setJpegQuality(std::round(position * 100) / 100);
+    changeSettings(
+        [=](ConversionSettings &settings) { settings.jpegQuality = std::round(position * 100) / 100; });
 }
 
 void OptionsController::setOutputLocation(int choice)

@@ -83,7 +83,7 @@ Rectangle {
 
                 TextButton {
                     Layout.maximumWidth: column.width
-                    enabled: OptionsController.canConvertExisting
+                    enabled: !AppModel.isBusy
                     leftPadding: 0
                     objectName: "convertExisting"
                     text: qsTr("Convert existing HEIC photos")
@@ -107,7 +107,7 @@ Rectangle {
                     stepSize: 0.05
                     to: 1
                     value: OptionsController.jpegQuality
-                    onMoved: OptionsController.moveQuality(value)
+                    onMoved: OptionsController.jpegQuality = value
                 }
 
                 BodyText {

@@ -45,7 +45,6 @@ void ConversionFluid::setTime(double seconds)
 {
     if (m_time != seconds) {
         m_time = seconds;
-        Q_EMIT timeChanged();
         update();
     }
 }
@@ -80,15 +79,11 @@ void ConversionFluid::updateMotion()
     if (!wanted) {
         setTime(0.0);
     }
-    if (moving == isMoving()) {
-        return;
-    }
-    if (moving) {
-        m_timer.start(frameInterval.count(), Qt::PreciseTimer, this);
-    } else {
+    if (!moving) {
         m_timer.stop();
+    } else if (!isMoving()) {
+        m_timer.start(frameInterval.count(), Qt::PreciseTimer, this);
     }
-    Q_EMIT movingChanged();
 }
 
 void ConversionFluid::timerEvent(QTimerEvent *event)

@@ -14,8 +14,6 @@ class ConversionFluid : public QQuickPaintedItem
     QML_ELEMENT
     Q_PROPERTY(bool active MEMBER m_active NOTIFY motionChanged)
     Q_PROPERTY(bool reduceMotion MEMBER m_reduceMotion NOTIFY motionChanged)
-    Q_PROPERTY(double time READ time WRITE setTime NOTIFY timeChanged)
-    Q_PROPERTY(bool moving READ isMoving NOTIFY movingChanged)
 
 public:
     explicit ConversionFluid(QQuickItem *parent = nullptr);
@@ -30,8 +28,6 @@ public:
 
 Q_SIGNALS:
     void motionChanged();
-    void timeChanged();
-    void movingChanged();
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;
