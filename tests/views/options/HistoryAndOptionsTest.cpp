@@ -152,25 +152,16 @@ private Q_SLOTS:
         QVERIFY(!scene.find("quality"));
     }
 
-    void shouldTruncateAStoredQualityToWholePercentAndLeaveItAlone_data()
-    {
-        QTest::addColumn<double>("quality");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("as set") << 0.85 << "85% quality";
-        QTest::newRow("just below a whole number") << 0.7999999 << "79% quality";
-        QTest::newRow("below the slider's range") << 0.3 << "30% quality";
-        QTest::newRow("above it") << 1.7 << "170% quality";
-    }
-
     void shouldTruncateAStoredQualityToWholePercentAndLeaveItAlone()
     {
-        QFETCH(double, quality);
-        QFETCH(QString, text);
         ModelScene scene;
-        setQuality(scene.model, quality);
         scene.show(panel);
-        QCOMPARE(scene.model.settings().jpegQuality, quality);
-        QVERIFY(scene.findText(text));
+        for (const auto &[quality, percent] :
+             {std::pair{0.85, 85}, std::pair{0.7999999, 79}, std::pair{0.3, 30}, std::pair{1.7, 170}}) {
+            setQuality(scene.model, quality);
+            QVERIFY(scene.findText(QStringLiteral("%1% quality").arg(percent)));
+            QCOMPARE(scene.model.settings().jpegQuality, quality);
+        }
     }
 
     void shouldChooseFromAPickerByKeys_data()
