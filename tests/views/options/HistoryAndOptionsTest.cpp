@@ -143,10 +143,12 @@ private Q_SLOTS:
         slider->forceActiveFocus(Qt::TabFocusReason);
         const QList<int> up{70, 75, 80, 85, 90, 95, 100, 100};
         const QList<int> down{95, 90, 85, 80, 75, 70, 65, 65};
-        for (const int percent : up + down) {
-            scene.press(percent < 100 * scene.model.settings().jpegQuality ? Qt::Key_Left : Qt::Key_Right);
-            QCOMPARE(scene.model.settings().jpegQuality, percent / 100.0);
-            QVERIFY(scene.findText(QStringLiteral("%1% quality").arg(percent)));
+        for (const auto &[key, stops] : {std::pair{Qt::Key_Right, up}, std::pair{Qt::Key_Left, down}}) {
+            for (const int percent : stops) {
+                scene.press(key);
+                QCOMPARE(scene.model.settings().jpegQuality, percent / 100.0);
+                QVERIFY(scene.findText(QStringLiteral("%1% quality").arg(percent)));
+            }
         }
         scene.model.setSettings({.format = OutputFormat::png});
         QVERIFY(!scene.find("quality"));
