@@ -191,7 +191,8 @@ private Q_SLOTS:
                 expected = expected * (1.0F - cover) + drop.color * cover;
             }
             const QColor actual = still.pixelColor(point);
-            const QVector3D difference = QVector3D(actual.red(), actual.green(), actual.blue()) - expected;
+            const QVector3D difference =
+                255.0F * QVector3D(actual.redF(), actual.greenF(), actual.blueF()) - expected;
             QVERIFY2(difference.length() < 8.0F, qPrintable(actual.name()));
         }
         fluid->setTime(1.0);
