@@ -3,7 +3,7 @@ import Lumaport.Interaction
 import Lumaport.Options
 import Lumaport.Vocabulary
 
-// The watched folder, which a click opens, and whether photos are being converted.
+// A button that opens the watched folder, and a label while photos are converted.
 Item {
     id: row
 

@@ -4,7 +4,7 @@ import Lumaport.Stage
 import Lumaport.Views
 import Lumaport.Vocabulary
 
-// The "AirDrop" workspace: where photos land. All of it takes dropped files; the stage is a button that asks for photos.
+// The "AirDrop" workspace. Files can be dropped anywhere on it; the stage is a button that asks for photos.
 Rectangle {
     id: workspace
 

@@ -23,8 +23,8 @@ Column {
         width: parent.width
     }
 
-    // One workspace fades into the other, and there is room for both meanwhile. The landing workspace is covered rather
-    // than made transparent: what overlaps on its stage would show through.
+    // One workspace fades into the other; meanwhile there is room for the higher one. The landing workspace is covered and
+    // not made transparent, because its overlapping items would show through each other.
     Item {
         height: Math.max(landing.visible ? landing.height : 0, history.visible ? history.height : 0)
         width: parent.width
@@ -73,7 +73,7 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         color: LumaportPalette.muted
         font.pixelSize: 11
-        opacity: switching.moving ? 0 : 1 // it does not run across what fades
+        opacity: switching.moving ? 0 : 1 // hidden while it changes its place
         spacing: 7
         symbol: "lock.shield"
         text: qsTr("Private by design. Converted on your Mac.")

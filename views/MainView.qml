@@ -22,7 +22,7 @@ Item {
         }
     }
 
-    // The welcome is transparent where the desktop allows it: nothing of the main view may lie behind it.
+    // Hidden behind the welcome, which is transparent where the desktop allows it.
     Rectangle {
         anchors.fill: parent
         color: LumaportPalette.night

@@ -2,7 +2,7 @@ import QtQuick
 import Lumaport.Options
 import Lumaport.Vocabulary
 
-// What photos become, and where the copies go.
+// The output format, and where the copies are saved.
 Item {
     id: row
 
@@ -35,6 +35,6 @@ Item {
         font.pixelSize: 11
         font.weight: Font.Medium
         symbol: "folder"
-        text: OptionsController.outputLocationText
+        text: OptionsController.outputLocations[OptionsController.outputLocation]
     }
 }

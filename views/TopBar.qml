@@ -10,7 +10,7 @@ Rectangle {
 
     required property MainViewController controller
 
-    // The panel's own button was pressed: the keyboard goes back to the one that opens it again.
+    // Closes the options panel and gives the keyboard's focus to the button that opens it.
     function closeOptions(reason: int) {
         optionsButton.forceActiveFocus(reason);
         controller.optionsVisible = false;

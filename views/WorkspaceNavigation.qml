@@ -4,8 +4,8 @@ import Lumaport.Interaction
 import Lumaport.Views
 import Lumaport.Vocabulary
 
-// The two tabs, with a highlight that slides to the selected one, and how many photos are ready. For the keyboard the
-// tabs are one stop, where the arrows choose.
+// The two tabs, with a highlight that slides to the selected one, and how many photos are ready. The Tab key stops at the
+// tabs once; the arrow keys choose.
 FocusScope {
     id: navigation
 
@@ -44,7 +44,7 @@ FocusScope {
         cornerRadius: 12
         shapeSize: Qt.size(navigation.selected.width, highlight.height)
 
-        // It is drawn once for a tab, and stretched while the highlight is on its way there.
+        // It is drawn once for each tab, and scaled while the highlight slides.
         transform: Scale {
             origin.x: shadow.width / 2
             xScale: highlight.width / shadow.shapeSize.width

@@ -4,7 +4,7 @@
 #include <QQuickItem>
 #include <QtQml/qqmlregistration.h>
 
-/// Scrolls a Flickable upright so that the control that gets the keyboard's focus within it can be seen.
+/// Scrolls a Flickable vertically to the control in it that gets the keyboard's focus.
 class FocusFollower : public QQuickItem
 {
     Q_OBJECT

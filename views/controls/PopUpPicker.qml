@@ -6,7 +6,7 @@ import Lumaport.Controls
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
-// A choice from a menu that pops up. `name` is its title for a screen reader.
+// A pop-up menu of choices. `name` is its title for a screen reader.
 T.ComboBox {
     id: picker
 
@@ -23,7 +23,7 @@ T.ComboBox {
     Accessible.description: displayText
     Accessible.name: name
     Accessible.onPressAction: picker.popup.open()
-    // With its menu open the keys choose. It opens as the key is let go, for letting go would close it again.
+    // While the menu is open, the keys belong to it. It opens when the key is released: a release would close it.
     Keys.enabled: !popup.visible
     Keys.onReleased: event => event.accepted = picker.opensBy(event.key)
     font.pixelSize: 12

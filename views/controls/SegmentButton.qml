@@ -3,7 +3,7 @@ import Lumaport.Controls
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
-// One segment of a segmented control. Chosen, its label is white and a little higher.
+// One segment of a segmented control. The label of the chosen one is white and raised.
 ChoiceButton {
     id: button
 

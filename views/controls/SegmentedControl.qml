@@ -4,8 +4,8 @@ import QtQuick
 import Lumaport.Controls
 import Lumaport.Vocabulary
 
-// A switch between a few choices, with a pill that slides to the chosen one. For the keyboard it is one stop, where the
-// arrows choose.
+// A switch between a few choices, with a pill that slides to the chosen one. The Tab key stops here once; the arrow keys
+// choose.
 FocusScope {
     id: control
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Lumaport.Vocabulary
 
-// A small switch with its text before it. The one who uses it takes the wish and sets `checked`.
+// A small switch with its text before it. Its user handles `chosen` and sets `checked`.
 T.Switch {
     id: control
 

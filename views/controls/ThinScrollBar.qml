@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Lumaport.Vocabulary
 
-// How far something is scrolled, to be seen and dragged. It comes while it is of use and goes a little later.
+// A scroll bar that is shown while it is used and fades out soon after.
 T.ScrollBar {
     id: bar
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Lumaport.Controls
 
-// Scrolls up and down: by wheel and touch, by its bar, and to the control that the keyboard reaches.
+// A view that scrolls vertically: by wheel, touch and scroll bar, and to the control that gets the keyboard's focus.
 ScrollView {
     id: view
 

@@ -10,7 +10,7 @@ namespace GaussianBlur {
 double extent(double radius);
 
 /// The coverage in `mask` (Format_Alpha8) blurred by a Gaussian whose standard deviation is `radius` pixels.
-/// What lies outside of the mask counts as empty: it needs `extent(radius)` pixels of air on every side.
+/// Pixels outside of the mask count as empty: it needs an empty margin of `extent(radius)` on every side.
 QImage blurred(const QImage &mask, double radius);
 
 /// A picture of `color` where `mask` covers: premultiplied, as large as the mask.

@@ -6,8 +6,8 @@
 class QPainter;
 
 /// An item that is painted into a picture, which the scene then shows. Unlike other painted items its picture
-/// stays smooth when it is turned or leant, on every renderer; its edges do when paint() leaves a transparent
-/// point around.
+/// stays smooth when it is rotated or tilted, on every renderer; its edges do when paint() leaves a margin of
+/// one transparent point.
 class PaintedImage : public QQuickItem
 {
     Q_OBJECT

@@ -2,7 +2,7 @@ import QtQuick
 import Lumaport.History
 import Lumaport.Vocabulary
 
-// One photo of the history: its thumbnail with a badge, its name and state, and the one thing that can be done with it.
+// One photo of the history: its thumbnail with a badge, its name and state, and the action for that state.
 Item {
     id: row
 

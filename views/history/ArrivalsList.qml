@@ -7,7 +7,7 @@ import Lumaport.History
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
-// The "Recent photos" workspace: the history, newest first. It is as high as its rows; what holds it scrolls.
+// The "Recent photos" workspace: the history, newest first. It is as high as its rows and does not scroll by itself.
 ColumnLayout {
     id: list
 

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr double placeholderPadding = 20.0;  // points on every side
-constexpr double smallestPlaceholder = 10.0; // points; less is a smudge
+constexpr double smallestPlaceholder = 10.0; // points; a smaller one cannot be recognised
 
 QBrush gradient(int variant, const QRectF &frame)
 {
@@ -88,13 +88,13 @@ void PhotoThumbnail::paint(QPainter *painter)
         paintPlaceholder(*painter, frame);
         return;
     }
-    // A brush has no smooth scaling below half size, so the part is first brought to the screen's own pixels.
+    // A brush does not scale smoothly below half size, so the part is first scaled to the screen's pixels.
     const QSize pixels = (frame.size() * painter->deviceTransform().m11()).toSize();
     QImage scaled = m_image.copy(fillingPart(m_image, frame).toAlignedRect())
                         .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
                         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    // What the picture leaves open shows the gradient. The outline is filled once: twice would let it shine
-    // through along the smoothed corners.
+    // The gradient shows where the picture is transparent. The outline is filled once: filled twice, the
+    // gradient would be seen along the antialiased corners.
     QPainter behind(&scaled);
     behind.setCompositionMode(QPainter::CompositionMode_DestinationOver);
     behind.fillRect(scaled.rect(), gradient(m_variant, scaled.rect()));

@@ -12,7 +12,7 @@ class ThumbnailRequest;
 
 /// A small picture of a photo file, filling its frame; while there is none, mountains on a gradient.
 ///
-/// The picture is asked of the one thumbnail store whenever `url` changes; an empty url shows the mountains.
+/// The picture comes from the thumbnail store whenever `url` changes; an empty url shows the mountains.
 /// Hidden from accessibility.
 class PhotoThumbnail : public PaintedImage
 {

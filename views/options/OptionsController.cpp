@@ -41,7 +41,6 @@ OptionsController::OptionsController(AppModel &model, QObject *parent)
     , m_model(model)
 {
     connect(&model, &AppModel::watchFolderChanged, this, &OptionsController::watchFolderChanged);
-    connect(&model, &AppModel::itemsChanged, this, &OptionsController::busyChanged);
     connect(&model, &AppModel::settingsChanged, this, &OptionsController::settingsChanged);
     connect(&model, &AppModel::appearanceModeChanged, this, &OptionsController::appearanceModeChanged);
 }
@@ -69,11 +68,6 @@ QString OptionsController::watchFolderPath() const
     return m_model.watchFolder().toLocalFile();
 }
 
-bool OptionsController::canConvertExisting() const
-{
-    return !m_model.isBusy();
-}
-
 int OptionsController::format() const
 {
     return static_cast<int>(m_model.settings().format);
@@ -97,11 +91,6 @@ QString OptionsController::qualityText() const
 QStringList OptionsController::outputLocations()
 {
     return optionTexts<OutputLocation>();
-}
-
-QString OptionsController::outputLocationText() const
-{
-    return optionText(m_model.settings().outputLocation);
 }
 
 int OptionsController::outputLocation() const
@@ -135,14 +124,10 @@ void OptionsController::setFormat(int choice)
         [=](ConversionSettings &settings) { settings.format = static_cast<OutputFormat>(choice); });
 }
 
-void OptionsController::setJpegQuality(double quality)
+void OptionsController::setJpegQuality(double position)
 {
-    changeSettings([=](ConversionSettings &settings) { settings.jpegQuality = quality; });
-}
-
-void OptionsController::moveQuality(double position)
-{
-    setJpegQuality(std::round(position * 100) / 100);
+    changeSettings(
+        [=](ConversionSettings &settings) { settings.jpegQuality = std::round(position * 100) / 100; });
 }
 
 void OptionsController::setOutputLocation(int choice)

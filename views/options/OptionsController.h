@@ -19,13 +19,11 @@ class OptionsController : public QObject
     QML_SINGLETON
     Q_PROPERTY(QString watchFolderName READ watchFolderName NOTIFY watchFolderChanged)
     Q_PROPERTY(QString watchFolderPath READ watchFolderPath NOTIFY watchFolderChanged)
-    Q_PROPERTY(bool canConvertExisting READ canConvertExisting NOTIFY busyChanged)
     Q_PROPERTY(int format READ format WRITE setFormat NOTIFY settingsChanged)
     Q_PROPERTY(bool hasQuality READ hasQuality NOTIFY settingsChanged)
     Q_PROPERTY(double jpegQuality READ jpegQuality WRITE setJpegQuality NOTIFY settingsChanged)
     Q_PROPERTY(QString qualityText READ qualityText NOTIFY settingsChanged)
     Q_PROPERTY(QStringList outputLocations READ outputLocations CONSTANT)
-    Q_PROPERTY(QString outputLocationText READ outputLocationText NOTIFY settingsChanged)
     Q_PROPERTY(int outputLocation READ outputLocation WRITE setOutputLocation NOTIFY settingsChanged)
     Q_PROPERTY(QStringList originalPolicies READ originalPolicies CONSTANT)
     Q_PROPERTY(int originalPolicy READ originalPolicy WRITE setOriginalPolicy NOTIFY settingsChanged)
@@ -40,7 +38,6 @@ public:
 
     QString watchFolderName() const;
     QString watchFolderPath() const;
-    bool canConvertExisting() const;
     int format() const;
     /// Only JPEG has a quality.
     bool hasQuality() const;
@@ -48,19 +45,16 @@ public:
     /// In whole percent, truncated.
     QString qualityText() const;
     static QStringList outputLocations();
-    QString outputLocationText() const;
     int outputLocation() const;
     static QStringList originalPolicies();
     int originalPolicy() const;
     bool notificationsEnabled() const;
     int appearanceMode() const;
 
-    /// Sets the quality to a slider's position, rounded to whole percent: the slider's sums of steps are not
-    /// exact (three steps down from 1 are 0.8499999999999999).
-    Q_INVOKABLE void moveQuality(double position);
-
     void setFormat(int choice);
-    void setJpegQuality(double quality);
+    /// `position` is the slider's. It is rounded to whole percent: the slider's sums of steps are not exact
+    /// (three steps down from 1 are 0.8499999999999999).
+    void setJpegQuality(double position);
     void setOutputLocation(int choice);
     void setOriginalPolicy(int choice);
     void setNotificationsEnabled(bool enabled);
@@ -68,7 +62,6 @@ public:
 
 Q_SIGNALS:
     void watchFolderChanged();
-    void busyChanged();
     void settingsChanged();
     void appearanceModeChanged();
 

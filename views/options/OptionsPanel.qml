@@ -5,13 +5,13 @@ import Lumaport.Interaction
 import Lumaport.Options
 import Lumaport.Vocabulary
 
-// The panel in which everything that can be set is set.
+// The options panel: all settings but the appearance.
 Rectangle {
     id: panel
 
     readonly property real padding: 22
 
-    // The close button was pressed; with `reason` it had got the keyboard's focus.
+    // The close button was pressed. `reason` is why it had got the focus, a Qt.FocusReason.
     signal closeRequested(int reason)
 
     Accessible.name: qsTr("Make it yours")
@@ -83,7 +83,7 @@ Rectangle {
 
                 TextButton {
                     Layout.maximumWidth: column.width
-                    enabled: OptionsController.canConvertExisting
+                    enabled: !AppModel.isBusy
                     leftPadding: 0
                     objectName: "convertExisting"
                     text: qsTr("Convert existing HEIC photos")
@@ -107,7 +107,7 @@ Rectangle {
                     stepSize: 0.05
                     to: 1
                     value: OptionsController.jpegQuality
-                    onMoved: OptionsController.moveQuality(value)
+                    onMoved: OptionsController.jpegQuality = value
                 }
 
                 BodyText {

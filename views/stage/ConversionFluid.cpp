@@ -17,7 +17,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto frameInterval = 33ms; // 30 frames a second
-constexpr QRgb cyan = 0x55BEF0; // a usual system cyan: there is no such colour to ask a Linux desktop for
+constexpr QRgb cyan = 0x55BEF0;      // a usual system cyan; a Linux desktop names none
 
 struct Drop
 {
@@ -25,8 +25,8 @@ struct Drop
     double phase; ///< radians
 };
 
-/// The user works with the window. One that was hidden or minimised may call itself active for a while.
-bool isAttended(const QQuickWindow *window)
+/// The window is active and shown. For a while after it was hidden or minimised, Qt still calls it active.
+bool isInUse(const QQuickWindow *window)
 {
     return window && window->isActive() && window->visibility() != QWindow::Hidden &&
            window->visibility() != QWindow::Minimized;
@@ -45,7 +45,6 @@ void ConversionFluid::setTime(double seconds)
 {
     if (m_time != seconds) {
         m_time = seconds;
-        Q_EMIT timeChanged();
         update();
     }
 }
@@ -76,19 +75,15 @@ void ConversionFluid::follow(QQuickWindow *window)
 void ConversionFluid::updateMotion()
 {
     const bool wanted = m_active && !m_reduceMotion;
-    const bool moving = wanted && isVisible() && isAttended(m_window);
+    const bool moving = wanted && isVisible() && isInUse(m_window);
     if (!wanted) {
         setTime(0.0);
     }
-    if (moving == isMoving()) {
-        return;
-    }
-    if (moving) {
-        m_timer.start(frameInterval.count(), Qt::PreciseTimer, this);
-    } else {
+    if (!moving) {
         m_timer.stop();
+    } else if (!isMoving()) {
+        m_timer.start(frameInterval.count(), Qt::PreciseTimer, this);
     }
-    Q_EMIT movingChanged();
 }
 
 void ConversionFluid::timerEvent(QTimerEvent *event)

@@ -6,16 +6,14 @@
 #include <QQuickWindow>
 #include <QtQml/qqmlregistration.h>
 
-/// A disc of moving colour that stands for a conversion in progress. It moves, at 30 frames a second, only
-/// while it is active, motion is wanted and the user is at its window; else it is still and costs nothing.
+/// A disc of moving colour that shows a conversion in progress. It moves, at 30 frames a second, only while
+/// it is active, motion is not reduced and its window is active and shown. Otherwise it is not drawn again.
 class ConversionFluid : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(bool active MEMBER m_active NOTIFY motionChanged)
     Q_PROPERTY(bool reduceMotion MEMBER m_reduceMotion NOTIFY motionChanged)
-    Q_PROPERTY(double time READ time WRITE setTime NOTIFY timeChanged)
-    Q_PROPERTY(bool moving READ isMoving NOTIFY movingChanged)
 
 public:
     explicit ConversionFluid(QQuickItem *parent = nullptr);
@@ -30,8 +28,6 @@ public:
 
 Q_SIGNALS:
     void motionChanged();
-    void timeChanged();
-    void movingChanged();
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData &data) override;

@@ -10,10 +10,10 @@
 namespace {
 
 constexpr QSizeF frontSize(239.0, 108.0);
-constexpr double air = 1.0;
+constexpr double margin = 1.0;
 constexpr double cornerRadius = 19.0;
 constexpr QRectF handle((239.0 - 75.0) / 2.0, 10.0, 75.0, 2.0);
-/// Leaning, the front's top edge is drawn larger than it is.
+/// The tilt enlarges the front's top edge.
 constexpr int oversampling = 2;
 
 } // namespace
@@ -21,15 +21,15 @@ constexpr int oversampling = 2;
 FolderFront::FolderFront(QQuickItem *parent)
     : PaintedImage(parent)
 {
-    const QSizeF size = frontSize + 2.0 * QSizeF(air, air);
+    const QSizeF size = frontSize + 2.0 * QSizeF(margin, margin);
     setImplicitSize(size.width(), size.height());
     setOversampling(oversampling);
 }
 
 QMatrix4x4 FolderFront::tiltMatrix() const
 {
-    const auto hingeX = static_cast<float>(air + frontSize.width() / 2.0);
-    const auto hingeY = static_cast<float>(air + frontSize.height());
+    const auto hingeX = static_cast<float>(margin + frontSize.width() / 2.0);
+    const auto hingeY = static_cast<float>(margin + frontSize.height());
     QMatrix4x4 matrix;
     matrix.translate(hingeX, hingeY);
     matrix.scale(1.0F, 1.0F, 0.0F);
@@ -45,7 +45,7 @@ QMatrix4x4 FolderFront::tiltMatrix() const
 
 void FolderFront::paint(QPainter *painter)
 {
-    painter->translate(air, air);
+    painter->translate(margin, margin);
     const QRectF front(QPointF(), frontSize);
     QLinearGradient fill(front.topLeft(), front.bottomRight());
     fill.setColorAt(0.0, QColor::fromRgbF(0.53F, 0.77F, 1.0F, 0.93F));

@@ -5,8 +5,8 @@
 #include <QMatrix4x4>
 #include <QtQml/qqmlregistration.h>
 
-/// The front of the stage's folder, 239 x 108 points and a point of air around for its outline. It is painted
-/// once; `tiltMatrix` leans it about its bottom edge.
+/// The front of the stage's folder, 239 x 108 points and a margin of one point for its outline. It is
+/// painted once; `tiltMatrix` turns it about its bottom edge.
 class FolderFront : public PaintedImage
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ class FolderFront : public PaintedImage
 public:
     explicit FolderFront(QQuickItem *parent = nullptr);
 
-    /// From the item's flat plane to the screen, seen from as far away as the front is wide. Depth is left
-    /// out: the scene has none, and would cut off what leaves its plane.
+    /// From the item's plane to the screen, seen from a distance equal to the front's width. Depth is set to
+    /// 0, because the scene clips what is not in its plane.
     QMatrix4x4 tiltMatrix() const;
 
 Q_SIGNALS:

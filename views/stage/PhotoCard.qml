@@ -3,7 +3,7 @@ import Lumaport.Drawing
 import Lumaport.History
 import Lumaport.Vocabulary
 
-// One printed photo on the stage, with its caption.
+// One photo card of the stage, with its caption.
 Item {
     id: card
 

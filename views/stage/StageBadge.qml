@@ -4,7 +4,7 @@ import QtQuick
 import Lumaport.Stage
 import Lumaport.Vocabulary
 
-// The round badge on the folder's front; each of its faces fades into the next.
+// The round badge on the folder's front: a symbol or the fluid. One fades into the next.
 Item {
     id: badge
 

@@ -1,7 +1,7 @@
 #pragma once
 
-/// What assistive programs are told of items. Qt 6.4 keeps from them whether an item is disabled, and a
-/// screen reader offers a button that cannot be pressed.
+/// What assistive programs are told of items. Qt 6.4 does not tell them whether an item is disabled, so
+/// that a screen reader offers a button that cannot be pressed.
 namespace AccessibleItems {
 
 /// From here on every item says whether it is disabled, and when that changes. To be called before the first
@@ -9,7 +9,7 @@ namespace AccessibleItems {
 void install();
 
 /// From here on assistive programs are told nothing. To be called before the windows are destroyed: Qt 6.4
-/// goes on to tell of items that are gone by half, and crashes when somebody listens.
+/// still reports items while they are destroyed, and crashes when such a program listens.
 void fallSilent();
 
 } // namespace AccessibleItems

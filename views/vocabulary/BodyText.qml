@@ -1,7 +1,7 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// A text of the program: in the palette's ink unless told otherwise, never taken for markup, and there for a screen reader.
+// A plain text in the palette's ink, with a name for a screen reader.
 Text {
     property real size: 12
 

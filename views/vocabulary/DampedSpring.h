@@ -20,7 +20,7 @@ public:
     /// Where `start` has come to after `seconds` (0 or more).
     State after(State start, double seconds) const;
 
-    /// How far a spring in this state can still swing out, had it no damping.
+    /// How far a spring in this state would swing without damping.
     double amplitude(State state) const;
 
 private:

@@ -1,7 +1,7 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// How one thing takes another's place in `span` milliseconds; at once with reduced motion.
+// An ease-in-out animation of `span` milliseconds; without duration when motion is reduced.
 NumberAnimation {
     property int span: 250
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Lumaport.Vocabulary
 
-// Says what the control it lies in does, once the pointer has rested there. It is made only then.
+// A tool tip of the control around it. It is made when the pointer enters the control.
 Loader {
     required property string text
     required property bool hovered
@@ -14,7 +14,7 @@ Loader {
     sourceComponent: ToolTip {
         id: bubble
 
-        // The bars along the top of a window stay free.
+        // It does not cover the bars at the top of a window.
         readonly property bool fitsAbove: parent?.mapToItem(null, 0, 0).y > 80
 
         bottomPadding: 5

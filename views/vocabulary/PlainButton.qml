@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Lumaport.Vocabulary
 
-// A button without a look of its own: symbol and text, and everything that makes it a button. Space, Return and the
-// assistive interface press it, the focus ring shows where the keyboard is, `help` says what it does.
+// A button without a background: symbol, text, focus ring, and `help` as its tool tip. Space, Return and the assistive
+// interface press it.
 // With `display: AbstractButton.IconOnly` the text is only spoken.
 T.AbstractButton {
     id: control
@@ -24,7 +24,7 @@ T.AbstractButton {
     hoverEnabled: true
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
-    opacity: enabled || parent?.enabled === false ? 1 : 0.45 // where all is disabled no single control stands out
+    opacity: enabled || parent?.enabled === false ? 1 : 0.45 // only a control that is disabled by itself looks so
 
     contentItem: SymbolLabel {
         centred: true

@@ -1,7 +1,7 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// A button in the quiet style: pressed, it shrinks a little and its fill fades; with reduced motion it only fades.
+// A button in the quiet style. While pressed it is smaller and its fill is paler; with reduced motion only paler.
 PlainButton {
     id: control
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// What lies behind the label of a quiet button that is pressed by so much, from 0 to 1 (a spring may carry it past 1).
+// The background of a quiet button. `press` is 0 at rest and 1 while pressed; a spring may pass 1.
 Rectangle {
     required property real press
 

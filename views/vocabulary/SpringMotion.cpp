@@ -4,7 +4,8 @@
 
 namespace {
 
-// A swing of less than this part of the way is below a tenth of a pixel for anything in this program.
+// An amplitude of less than this part of the way is below a tenth of a pixel for all animations of this
+// program.
 constexpr double negligiblePart = 0.0005;
 
 } // namespace

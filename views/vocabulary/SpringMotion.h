@@ -34,7 +34,7 @@ public:
     void setTo(double goal);
     void setAnimated(bool animated);
 
-    /// Lets `seconds` pass. At rest it does nothing.
+    /// Advances by `seconds`. At rest it does nothing.
     Q_INVOKABLE void advance(double seconds);
 
     void classBegin() override { m_complete = false; }

@@ -1,8 +1,8 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// A symbol and the text beside it, in one colour. Either may be missing. Where there is more room than it needs it lies
-// at the leading edge, or in the middle when `centred`. Inside a control that speaks for itself it is not `spoken`.
+// A symbol and the text beside it, in one colour. Either may be missing. In more room than it needs it is at the leading
+// edge, or in the middle when `centred`. Inside a control that has a name of its own it is not `spoken`.
 Item {
     id: label
 

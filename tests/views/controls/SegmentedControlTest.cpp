@@ -1,6 +1,7 @@
 #include "ModelScene.h"
 
 #include <QAccessible>
+#include <QSignalSpy>
 
 class SegmentedControlTest : public QObject
 {
@@ -34,8 +35,10 @@ private Q_SLOTS:
 
     void shouldChooseByPointerKeysAndAssistiveInterface()
     {
+        QSignalSpy writes(&m_scene->model, &AppModel::settingsChanged);
         m_scene->click(m_jpeg);
         QCOMPARE(chosen(), OutputFormat::jpeg);
+        QCOMPARE(writes.size(), 1);
         m_jpeg->forceActiveFocus(Qt::TabFocusReason);
         for (int press = 0; press < 2; ++press) { // the second has no segment to go to
             m_scene->press(Qt::Key_Left);
@@ -64,10 +67,12 @@ private Q_SLOTS:
     {
         m_png->forceActiveFocus(Qt::TabFocusReason);
         m_scene->press(Qt::Key_Tab);
+        QSignalSpy writes(&m_scene->model, &AppModel::appearanceModeChanged);
         for (const AppearanceMode mode : {AppearanceMode::light, AppearanceMode::dark}) {
             m_scene->press(Qt::Key_Right);
             QCOMPARE(m_scene->model.appearanceMode(), mode);
         }
+        QCOMPARE(writes.size(), 2);
         QVERIFY(m_scene->fixture.appearance->isDark());
         QCOMPARE(chosen(), OutputFormat::png);
     }

@@ -26,31 +26,26 @@ class DampedSpringTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldSolveItsEquation_data()
-    {
-        QTest::addColumn<double>("response");
-        QTest::addColumn<double>("fraction");
-        QTest::addColumn<double>("velocity");
-        QTest::newRow("quiet button") << 0.25 << 0.7 << 0.0;
-        QTest::newRow("segment pill, pushed") << 0.32 << 0.72 << 900.0;
-        QTest::newRow("workspace, pulled back") << 0.35 << 0.8 << -300.0;
-        QTest::newRow("no overshoot") << 0.4 << 1.0 << 500.0;
-        QTest::newRow("no damping") << 0.5 << 0.0 << 20.0;
-    }
-
     void shouldSolveItsEquation()
     {
-        QFETCH(double, response);
-        QFETCH(double, fraction);
-        QFETCH(double, velocity);
-        const DampedSpring::State start{-60.0, velocity};
-        for (const double seconds : {0.004, 0.05, 0.3}) {
-            const auto expected = solvedStepwise(response, fraction, start, seconds);
-            const auto actual = DampedSpring(response, fraction).after(start, seconds);
-            QVERIFY2(std::abs(actual.displacement - expected.displacement) < 0.02,
-                     qPrintable(QString::number(seconds)));
-            QVERIFY2(std::abs(actual.velocity - expected.velocity) < 0.5,
-                     qPrintable(QString::number(seconds)));
+        struct Spring
+        {
+            double response;
+            double fraction;
+            double velocity;
+        };
+        // A quiet button, a segment's pill pushed, a workspace pulled back, no overshoot, no damping.
+        for (const Spring &spring :
+             {Spring{0.25, 0.7, 0.0}, Spring{0.32, 0.72, 900.0}, Spring{0.35, 0.8, -300.0},
+              Spring{0.4, 1.0, 500.0}, Spring{0.5, 0.0, 20.0}}) {
+            const DampedSpring::State start{-60.0, spring.velocity};
+            for (const double seconds : {0.004, 0.05, 0.3}) {
+                const auto expected = solvedStepwise(spring.response, spring.fraction, start, seconds);
+                const auto actual = DampedSpring(spring.response, spring.fraction).after(start, seconds);
+                const QString which = QStringLiteral("%1 after %2 s").arg(spring.response).arg(seconds);
+                QVERIFY2(std::abs(actual.displacement - expected.displacement) < 0.02, qPrintable(which));
+                QVERIFY2(std::abs(actual.velocity - expected.velocity) < 0.5, qPrintable(which));
+            }
         }
     }
 
