@@ -93,8 +93,13 @@ private Q_SLOTS:
 
     void shouldWriteBesideTheSourceOrIntoItsSubfolder()
     {
+        const mode_t userMask = ::umask(0027);
         QCOMPARE(converted(QStringLiteral("IMG_1.HEIC"), jpegBeside), QStringLiteral("IMG_1.jpg"));
+        ::umask(userMask);
         QCOMPARE(content(QStringLiteral("IMG_1.jpg")), "jpeg 0.650000");
+        struct stat copy = {};
+        QCOMPARE(::stat(qPrintable(path(QStringLiteral("IMG_1.jpg"))), &copy), 0);
+        QCOMPARE(copy.st_mode & 07777U, 0640U);
         QCOMPARE(converted(QStringLiteral("IMG_1.HEIC"), pngBelow), QStringLiteral("Lumaport/IMG_1.png"));
         QCOMPARE(converted(QStringLiteral("IMG_1.HEIC"), pngBelow), QStringLiteral("Lumaport/IMG_1 2.png"));
         write(QStringLiteral("a.b.Heif"));

@@ -10,19 +10,19 @@
 /// An image worker that does what the test says instead of reading a photo.
 struct FakeImageWorker : ImageWorker
 {
-    tl::expected<ImageSize, ImageWorkerFault> open(const FileDescriptor & /*source*/) override
+    tl::expected<void, ImageWorkerFault> open(const FileDescriptor & /*source*/) override
     {
         if (openFault) {
             return tl::unexpected(*openFault);
         }
-        return ImageSize{4, 3};
+        return {};
     }
 
-    tl::expected<void, ImageWorkerFault> write(const FileDescriptor &output, ImageFormat format,
+    tl::expected<void, ImageWorkerFault> write(const FileDescriptor &output, OutputFormat format,
                                                double jpegQuality) override
     {
         const std::string text =
-            (format == ImageFormat::Jpeg ? "jpeg " : "png ") + std::to_string(jpegQuality);
+            (format == OutputFormat::jpeg ? "jpeg " : "png ") + std::to_string(jpegQuality);
         if (::write(output.number(), text.data(), text.size()) != static_cast<ssize_t>(text.size()) ||
             writeFault) {
             return tl::unexpected(writeFault.value_or(ImageWorkerFault::CannotWrite));

@@ -44,7 +44,7 @@ private:
         }
         ~Worker() override { --m_photos.running; }
 
-        tl::expected<ImageSize, ImageWorkerFault> open(const FileDescriptor &source) override
+        tl::expected<void, ImageWorkerFault> open(const FileDescriptor &source) override
         {
             if (m_photos.m_holds) {
                 m_photos.gate.acquire();
@@ -59,9 +59,9 @@ private:
             if (!m_top.isValid() || !m_bottom.isValid()) {
                 return tl::unexpected(ImageWorkerFault::Unreadable);
             }
-            return ImageSize{4032, 3024};
+            return {};
         }
-        tl::expected<void, ImageWorkerFault> write(const FileDescriptor & /*output*/, ImageFormat /*format*/,
+        tl::expected<void, ImageWorkerFault> write(const FileDescriptor & /*output*/, OutputFormat /*format*/,
                                                    double /*jpegQuality*/) override
         {
             return tl::unexpected(ImageWorkerFault::CannotWrite);
