@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <atomic>
 #include <mutex>
 
 namespace {
@@ -51,10 +52,8 @@ public:
 
     void endAll() override
     {
-        const std::lock_guard lock(m_mutex);
         m_hasEnded = true;
-        m_forkServer.reset();
-        m_requested.reset();
+        killForkServer();
     }
 
 private:
@@ -89,10 +88,10 @@ private:
 
     const QString m_program;
     const ImageWorkerLimits m_limits;
-    std::mutex m_mutex; ///< guards all below
+    std::atomic<bool> m_hasEnded = false;
+    std::mutex m_mutex; ///< guards the following
     std::unique_ptr<ImageWorkerChild> m_forkServer;
     FileDescriptor m_requested; ///< this end of the socket of a worker that nobody has taken yet
-    bool m_hasEnded = false;
 };
 
 /// Beside the application as it is built; in the folder for helpers once installed.

@@ -43,7 +43,7 @@ QByteArray pngOf(QSize size)
     return file.data();
 }
 
-/// What a worker that @p launcher starts says to @p content.
+/// Why a new worker does not open @p source; none when it does.
 std::optional<ImageWorkerFault> faultOf(ImageWorkerLauncher &launcher, const FileDescriptor &source)
 {
     const auto opened = launcher.launch()->open(source);

@@ -1,5 +1,5 @@
-// Stands in the library's place: the filter of calls is made and never loaded, so that what else holds a
-// worker shows.
+// Replaces the library's function: the call filter is made but never loaded, so that a test sees what the
+// rest of the lock-down refuses.
 
 #include <seccomp.h>
 
