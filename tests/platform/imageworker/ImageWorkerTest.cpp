@@ -132,12 +132,15 @@ private Q_SLOTS:
 
     void shouldHandNothingToAProgramThatIsNoWorker_data()
     {
-        addNames("/nowhere/lumaport-imageworker /tmp /bin/true /usr/bin/yes"); // the last one waits
+        addNames("/nowhere/lumaport-imageworker /tmp /bin/true /usr/bin/yes");
+        QTest::newRow("not locked down") << QByteArray(UNLOCKED_WORKER);
     }
     void shouldHandNothingToAProgramThatIsNoWorker()
     {
         QFETCH(QByteArray, name);
-        const auto launcher = ImageWorkerLauncher::create(QString::fromLatin1(name), ShortToStart);
+        const bool hangs = name.endsWith("yes");
+        const auto launcher = ImageWorkerLauncher::create(QString::fromLocal8Bit(name),
+                                                          hangs ? ShortToStart : ImageWorkerLimits());
         launcher->prepare();
         for (int attempt = 0; attempt < 2; ++attempt) {
             QCOMPARE(faultOf(*launcher, fileHolding("x")), ImageWorkerFault::NotLockedDown);
