@@ -4,27 +4,24 @@
 
 namespace {
 
-QString sentence(const char *text)
+struct Sentence
 {
-    return QCoreApplication::translate("ConversionError", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ConversionError)
+};
 
 QString describe(ConversionError error)
 {
     switch (error) {
     case ConversionError::unsupportedFile:
-        return sentence(QT_TRANSLATE_NOOP("ConversionError", "This file is not a HEIC or HEIF image."));
+        return Sentence::tr("This file is not a HEIC or HEIF image.");
     case ConversionError::unreadableImage:
-        return sentence(QT_TRANSLATE_NOOP("ConversionError",
-                                          "The image could not be opened. It may still be transferring."));
+        return Sentence::tr("The image could not be opened. It may still be transferring.");
     case ConversionError::cannotCreateDestination:
-        return sentence(
-            QT_TRANSLATE_NOOP("ConversionError", "Lumaport could not create the converted file."));
+        return Sentence::tr("Lumaport could not create the converted file.");
     case ConversionError::cannotWriteImage:
-        return sentence(QT_TRANSLATE_NOOP("ConversionError", "The converted image could not be written."));
+        return Sentence::tr("The converted image could not be written.");
     case ConversionError::cannotArchiveOriginal:
-        return sentence(QT_TRANSLATE_NOOP("ConversionError",
-                                          "The image converted, but its original could not be archived."));
+        return Sentence::tr("The image converted, but its original could not be archived.");
     }
     Q_UNREACHABLE();
 }
@@ -36,8 +33,7 @@ QString describe(const std::error_code &error)
 
 QString describe(UnsafeToOpen /*unsafe*/)
 {
-    return sentence(QT_TRANSLATE_NOOP(
-        "ConversionError", "Photos can’t be opened safely on this system, so nothing was converted."));
+    return Sentence::tr("Photos can’t be opened safely on this system, so nothing was converted.");
 }
 
 } // namespace

@@ -14,14 +14,14 @@ enum class ConversionError {
     cannotArchiveOriginal,
 };
 
-/// The image worker could not be locked down, so no photo was given to it.
+/// No image worker could be locked down, so none was given the photo.
 struct UnsafeToOpen
 {
     bool operator==(const UnsafeToOpen &) const = default;
 };
 
-/// What a conversion raises: an error of its own, or the file system's, unchanged.
+/// What a conversion raises: an error of its own, or the file system's unchanged.
 using ConversionFailure = std::variant<ConversionError, std::error_code, UnsafeToOpen>;
 
-/// The sentence that the user reads; the only place where one is made.
+/// The sentence that the user reads.
 QString description(const ConversionFailure &failure);

@@ -1,11 +1,9 @@
 #pragma once
 
 #include "OptionEnum.h"
+#include "OutputFormat.h"
 
 #include <QByteArray>
-
-/// The encoding of the converted file.
-enum class OutputFormat { png, jpeg };
 
 /// Where converted files go, relative to the source file's folder.
 enum class OutputLocation {

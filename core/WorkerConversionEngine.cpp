@@ -12,11 +12,6 @@
 
 namespace {
 
-ImageFormat imageFormat(OutputFormat format)
-{
-    return format == OutputFormat::jpeg ? ImageFormat::Jpeg : ImageFormat::Png;
-}
-
 QString outputExtension(OutputFormat format)
 {
     return format == OutputFormat::jpeg ? QStringLiteral("jpg") : QStringLiteral("png");
@@ -57,8 +52,8 @@ QUrl uniqueSourceURL(const QString &directory, const QUrl &source)
         freePath(directory, PhotoFileName::base(name), PhotoFileName::extension(name)));
 }
 
-/// Places a file with `place` where `find` says. A name that was free a moment ago may be taken by now: then
-/// it is asked once more. Gives the path, or the file system's error.
+/// Places a file with `place` at the path that `find` returns, and tries again when that name has been taken
+/// meanwhile. Returns the path, or the file system's error.
 template<typename Find, typename Place>
 tl::expected<QString, std::error_code> placeFreely(Find find, Place place)
 {
@@ -74,7 +69,7 @@ tl::expected<QString, std::error_code> placeFreely(Find find, Place place)
     }
 }
 
-/// The folder that the output goes into, made when it is missing; else the file system's error.
+/// The folder of the output, created when it is missing; or the file system's error.
 tl::expected<QString, std::error_code> makeOutputDirectory(const QUrl &sourceURL, OutputLocation location)
 {
     const QString sourceFolder = folderOf(sourceURL);
@@ -137,9 +132,7 @@ void WorkerConversionEngine::convert(const QUrl &sourceURL, const ConversionSett
 {
     ++m_waiting;
     m_executor.start([this, sourceURL, settings, receiver = QPointer(receiver), done = std::move(done)] {
-        if (--m_waiting > 0) {
-            prepare(); // the next photo's worker gets ready while this one is busy
-        }
+        --m_waiting;
         const ConversionOutcome outcome = convertNow(sourceURL, settings);
         QMetaObject::invokeMethod(
             this,
@@ -195,15 +188,17 @@ WorkerConversionEngine::render(const QUrl &sourceURL, const ConversionSettings &
         return tl::unexpected(ConversionError::unreadableImage);
     }
     const std::unique_ptr<ImageWorker> worker = m_launcher->launch();
-    if (const auto size = worker->open(photo); !size) {
-        return tl::unexpected(failureOf(size.error()));
+    if (m_waiting > 0) {
+        prepare(); // the next photo's worker starts while this one is busy
+    }
+    if (const auto opened = worker->open(photo); !opened) {
+        return tl::unexpected(failureOf(opened.error()));
     }
     auto scratch = ScratchFile::create(folderOf(sourceURL));
     if (!scratch) {
         return tl::unexpected(ConversionError::cannotWriteImage);
     }
-    const auto written =
-        worker->write(scratch->descriptor(), imageFormat(settings.format), settings.jpegQuality);
+    const auto written = worker->write(scratch->descriptor(), settings.format, settings.jpegQuality);
     if (!written) {
         return tl::unexpected(failureOf(written.error()));
     }

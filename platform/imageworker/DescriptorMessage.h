@@ -8,7 +8,7 @@
 #include <optional>
 #include <sys/socket.h>
 
-/// A record that brings an open descriptor along, over a socket that keeps records apart (SOCK_SEQPACKET).
+/// A record received with an open descriptor, over a socket that keeps records apart (SOCK_SEQPACKET).
 template<typename Record>
 struct DescriptorMessage
 {
@@ -16,7 +16,7 @@ struct DescriptorMessage
     FileDescriptor descriptor;
 };
 
-/// Sends a copy of `descriptor` along with `record`; false when the other end takes nothing any more.
+/// Sends `record` with a copy of `descriptor`; false when the other end is closed.
 template<typename Record>
 bool sendWithDescriptor(int socket, const Record &record, int descriptor)
 {
@@ -39,7 +39,7 @@ bool sendWithDescriptor(int socket, const Record &record, int descriptor)
     return sent == ssize_t{sizeof(record)};
 }
 
-/// Waits for a message; nothing when the other end has gone or has sent anything else.
+/// Waits for a message; nothing when the other end is closed or has sent anything else.
 template<typename Record>
 std::optional<DescriptorMessage<Record>> receiveWithDescriptor(int socket)
 {

@@ -18,7 +18,7 @@ using namespace imageworkerwire;
 
 namespace {
 
-/// posix_spawn's list of what to do with descriptors in the child.
+/// What posix_spawn does with descriptors in the child.
 class SpawnActions
 {
 public:
@@ -27,14 +27,15 @@ public:
     SpawnActions(const SpawnActions &) = delete;
     SpawnActions &operator=(const SpawnActions &) = delete;
 
-    /// The standard streams lead nowhere, the socket gets its number, and nothing else of ours stays open.
-    void giveOnly(int socket)
+    /// The standard streams become /dev/null, the socket gets its number, and every other descriptor is
+    /// closed.
+    void passOnly(int socket)
     {
         for (int stream = 0; stream < 3; ++stream) {
             ::posix_spawn_file_actions_addopen(&m_actions, stream, "/dev/null", O_RDWR, 0);
         }
-        ::posix_spawn_file_actions_adddup2(&m_actions, socket, NurseryDescriptor);
-        ::posix_spawn_file_actions_addclosefrom_np(&m_actions, NurseryDescriptor + 1);
+        ::posix_spawn_file_actions_adddup2(&m_actions, socket, ForkServerDescriptor);
+        ::posix_spawn_file_actions_addclosefrom_np(&m_actions, ForkServerDescriptor + 1);
     }
     const posix_spawn_file_actions_t *get() const { return &m_actions; }
 
@@ -47,29 +48,24 @@ struct SocketPair
     FileDescriptor ours;
     FileDescriptor theirs;
 
-    static std::optional<SocketPair> create()
+    /// Neither end is open when there can be no more.
+    static SocketPair create()
     {
         std::array<int, 2> ends = {-1, -1};
-        if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) {
-            return std::nullopt;
-        }
-        return SocketPair{FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+        ::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data());
+        return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
     }
 };
 
 } // namespace
 
-std::shared_ptr<ImageWorkerChild> ImageWorkerChild::start(const QString &program)
+std::unique_ptr<ImageWorkerChild> ImageWorkerChild::startForkServer(const QString &program)
 {
-    auto ends = SocketPair::create();
-    if (!ends) {
-        return nullptr;
-    }
+    SocketPair ends = SocketPair::create();
     SpawnActions actions;
-    actions.giveOnly(ends->theirs.number());
+    actions.passOnly(ends.theirs.number());
     std::string path = QFile::encodeName(program).toStdString();
-    std::string parent = std::to_string(::getpid());
-    std::array<char *, 3> arguments = {path.data(), parent.data(), nullptr};
+    std::array<char *, 2> arguments = {path.data(), nullptr};
     std::array<char *, 1> environment = {nullptr};
     pid_t identifier = 0;
     if (::posix_spawn(&identifier, path.c_str(), actions.get(), nullptr, arguments.data(),
@@ -82,52 +78,48 @@ std::shared_ptr<ImageWorkerChild> ImageWorkerChild::start(const QString &program
         ::waitpid(identifier, nullptr, 0);
         return nullptr;
     }
-    return std::make_shared<ImageWorkerChild>(std::move(process), std::move(ends->ours));
+    return std::make_unique<ImageWorkerChild>(std::move(process), std::move(ends.ours));
 }
 
-std::shared_ptr<ImageWorkerChild> ImageWorkerChild::raiseWorker(std::chrono::milliseconds limit) const
+FileDescriptor ImageWorkerChild::requestWorker() const
 {
-    auto ends = SocketPair::create();
-    if (!ends || !sendWithDescriptor(m_socket.number(), Birth{}, ends->theirs.number()) ||
-        !awaitWord(limit)) {
+    SocketPair ends = SocketPair::create();
+    const bool isSent = sendWithDescriptor(m_socket.number(), SpawnRequest{}, ends.theirs.number());
+    return isSent ? std::move(ends.ours) : FileDescriptor();
+}
+
+std::unique_ptr<ImageWorkerChild> ImageWorkerChild::receiveWorker(FileDescriptor socket)
+{
+    auto first = receiveWithDescriptor<Reply>(socket.number());
+    if (!first || first->record.fault != NoFault) {
         return nullptr;
     }
-    auto born = receiveWithDescriptor<Birth>(m_socket.number());
-    if (!born) {
-        return nullptr;
-    }
-    return std::make_shared<ImageWorkerChild>(std::move(born->descriptor), std::move(ends->ours));
+    return std::make_unique<ImageWorkerChild>(std::move(first->descriptor), std::move(socket));
 }
 
 ImageWorkerChild::~ImageWorkerChild()
 {
-    kill();
-    pollfd ended = {m_process.number(), POLLIN, 0};
-    while (::poll(&ended, 1, -1) < 0 && errno == EINTR) { // until its files are closed
+    ::syscall(SYS_pidfd_send_signal, m_process.number(), SIGKILL, nullptr, 0);
+    pollfd exit = {m_process.number(), POLLIN, 0};
+    while (::poll(&exit, 1, -1) < 0 && errno == EINTR) { // its files are closed by then
     }
-    // Only the program itself is a child of this process; it takes in its workers.
+    // Reaps the fork server. A worker is no child of this process; the fork server reaps it.
     ::waitid(P_PIDFD, static_cast<id_t>(m_process.number()), nullptr, WEXITED | WNOHANG);
 }
 
 bool ImageWorkerChild::isRunning() const
 {
-    pollfd ended = {m_process.number(), POLLIN, 0};
-    return ::poll(&ended, 1, 0) == 0;
+    pollfd exit = {m_process.number(), POLLIN, 0};
+    return ::poll(&exit, 1, 0) == 0;
 }
 
-bool ImageWorkerChild::awaitWord(std::chrono::milliseconds limit) const
+bool ImageWorkerChild::awaitMessage(const FileDescriptor &socket, std::chrono::milliseconds limit)
 {
-    QDeadlineTimer deadline(limit);
-    pollfd waiting = {m_socket.number(), POLLIN, 0};
+    const QDeadlineTimer deadline(limit);
+    pollfd message = {socket.number(), POLLIN, 0};
     int ready = 0;
     do {
-        ready = ::poll(&waiting, 1, static_cast<int>(deadline.remainingTime()));
+        ready = ::poll(&message, 1, static_cast<int>(deadline.remainingTime()));
     } while (ready < 0 && errno == EINTR);
     return ready > 0;
-}
-
-void ImageWorkerChild::kill()
-{
-    m_isKilled = true;
-    ::syscall(SYS_pidfd_send_signal, m_process.number(), SIGKILL, nullptr, 0);
 }

@@ -4,12 +4,11 @@
 
 #include <QString>
 
-#include <atomic>
 #include <chrono>
 #include <memory>
 
-/// A process of the worker program and this end of its socket: the program itself, or a worker that it
-/// raised. The process ends with this object.
+/// A process of the worker program and this end of its socket: the fork server, or a worker that it forked.
+/// The process is killed with this object.
 class ImageWorkerChild
 {
 public:
@@ -21,23 +20,21 @@ public:
     ImageWorkerChild(const ImageWorkerChild &) = delete;
     ImageWorkerChild &operator=(const ImageWorkerChild &) = delete;
 
-    /// Starts `program` on the calling thread; null when that fails.
-    static std::shared_ptr<ImageWorkerChild> start(const QString &program);
-    /// A worker, raised by this program; null when it gives none within `limit`.
-    std::shared_ptr<ImageWorkerChild> raiseWorker(std::chrono::milliseconds limit) const;
+    /// Starts `program` as a fork server; null when that fails.
+    static std::unique_ptr<ImageWorkerChild> startForkServer(const QString &program);
+    /// Asks this fork server for a worker and returns this end of the worker's socket at once; not open when
+    /// the fork server has exited.
+    FileDescriptor requestWorker() const;
+    /// Receives the first message of the worker behind `socket`; null when it has exited or is not locked
+    /// down.
+    static std::unique_ptr<ImageWorkerChild> receiveWorker(FileDescriptor socket);
 
     bool isRunning() const;
-    int socket() const { return m_socket.number(); }
-    /// Waits until the process has said something or is gone; false when it did neither within `limit`.
-    bool awaitWord(std::chrono::milliseconds limit) const;
-
-    /// Kills the process and returns at once; from any thread.
-    void kill();
-    /// Whether kill() has been called, so that its silence says nothing of the program.
-    bool isKilled() const { return m_isKilled; }
+    const FileDescriptor &socket() const { return m_socket; }
+    /// Waits for a message or the other end's exit; false when neither comes within `limit`.
+    static bool awaitMessage(const FileDescriptor &socket, std::chrono::milliseconds limit);
 
 private:
-    FileDescriptor m_process; ///< a descriptor of the process, which cannot come to mean another
+    FileDescriptor m_process; ///< a pidfd: its process identifier cannot be reused
     FileDescriptor m_socket;
-    std::atomic<bool> m_isKilled = false;
 };

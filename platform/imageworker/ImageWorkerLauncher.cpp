@@ -6,167 +6,92 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <condition_variable>
-#include <deque>
-#include <future>
+#include <algorithm>
+#include <atomic>
 #include <mutex>
-#include <thread>
-#include <vector>
 
 namespace {
 
-using Child = std::shared_ptr<ImageWorkerChild>;
-
-/// A worker that was asked for when all had been ended.
-class EndedWorker : public ImageWorker
-{
-public:
-    tl::expected<ImageSize, ImageWorkerFault> open(const FileDescriptor & /*source*/) override
-    {
-        return tl::unexpected(ImageWorkerFault::Unreadable);
-    }
-    tl::expected<void, ImageWorkerFault> write(const FileDescriptor & /*output*/, ImageFormat /*format*/,
-                                               double /*jpegQuality*/) override
-    {
-        return tl::unexpected(ImageWorkerFault::Unreadable);
-    }
-    tl::expected<QByteArray, ImageWorkerFault> thumbnail(int /*maximumSide*/) override
-    {
-        return tl::unexpected(ImageWorkerFault::Unreadable);
-    }
-};
-
+/// Uses one fork server, and starts another should that have exited. No process outlives the application,
+/// however that ends: the fork server exits when its socket is closed, and its workers are killed with it.
 class ProcessLauncher : public ImageWorkerLauncher
 {
 public:
-    ProcessLauncher(const QString &path, ImageWorkerLimits limits)
-        : m_path(path)
+    ProcessLauncher(QString program, ImageWorkerLimits limits)
+        : m_program(std::move(program))
         , m_limits(limits)
-        , m_thread([this] { startOnDemand(); })
     {}
-
-    ~ProcessLauncher() override
-    {
-        endAll();
-        {
-            const std::lock_guard lock(m_mutex);
-            m_closing = true;
-        }
-        m_wake.notify_one();
-        m_thread.join();
-    }
-    ProcessLauncher(const ProcessLauncher &) = delete;
-    ProcessLauncher &operator=(const ProcessLauncher &) = delete;
 
     std::unique_ptr<ImageWorker> launch() override
     {
-        std::future<Child> child;
-        {
-            const std::lock_guard lock(m_mutex);
-            if (m_spare && m_spare->isRunning()) {
-                return std::make_unique<ImageWorkerProcess>(std::exchange(m_spare, nullptr), m_limits);
+        // A fork server that is killed may take one request while it exits, and another before its socket is
+        // closed. Then another one is started.
+        constexpr int Attempts = 3;
+        for (int attempt = 0; attempt < Attempts; ++attempt) {
+            FileDescriptor socket = takeRequestedWorker();
+            if (!socket.isOpen()) {
+                break;
             }
-            child = m_asked.emplace_back().get_future();
+            if (!ImageWorkerChild::awaitMessage(socket, m_limits.start)) {
+                killForkServer(); // it hangs
+                break;
+            }
+            auto worker = ImageWorkerChild::receiveWorker(std::move(socket));
+            if (worker && worker->isRunning()) {
+                return std::make_unique<ImageWorkerProcess>(std::move(worker), m_limits);
+            }
         }
-        m_wake.notify_one();
-        Child worker = child.get();
-        const std::lock_guard lock(m_mutex);
-        if (m_hasEnded) {
-            return std::make_unique<EndedWorker>();
-        }
-        return std::make_unique<ImageWorkerProcess>(std::move(worker), m_limits);
+        return std::make_unique<ImageWorkerProcess>(nullptr, m_limits);
     }
 
     void prepare() override
     {
-        {
-            const std::lock_guard lock(m_mutex);
-            m_isSpareWanted = !m_spare || !m_spare->isRunning();
-        }
-        m_wake.notify_one();
+        const std::lock_guard lock(m_mutex);
+        requestWorker();
     }
 
     void endAll() override
     {
-        const std::lock_guard lock(m_mutex);
         m_hasEnded = true;
-        m_spare.reset();
-        if (m_program) {
-            m_program->kill();
-        }
-        for (const auto &started : m_started) {
-            if (const Child child = started.lock()) {
-                child->kill();
-            }
-        }
+        killForkServer();
     }
 
 private:
-    void startOnDemand()
+    FileDescriptor takeRequestedWorker()
     {
-        std::unique_lock lock(m_mutex);
-        while (true) {
-            m_wake.wait(lock, [this] { return m_closing || m_isSpareWanted || !m_asked.empty(); });
-            if (m_closing) {
-                return;
-            }
-            lock.unlock();
-            Child worker = raiseWorker();
-            lock.lock();
-            handOut(std::move(worker));
-        }
-    }
-
-    /// By the running program; by a new one should that have gone. Null when there is none to be had.
-    Child raiseWorker()
-    {
-        if (m_program && m_program->isRunning()) {
-            if (Child worker = m_program->raiseWorker(m_limits.start)) {
-                return worker;
-            }
-        }
-        return startProgram() ? m_program->raiseWorker(m_limits.start) : nullptr;
-    }
-
-    bool startProgram()
-    {
-        Child program = ImageWorkerChild::start(m_path);
         const std::lock_guard lock(m_mutex);
-        if (m_hasEnded) {
-            return false;
-        }
-        m_program = std::move(program);
-        return m_program != nullptr;
+        requestWorker();
+        return std::move(m_requested);
     }
 
-    void handOut(Child child)
+    /// Unless one is requested already.
+    void requestWorker()
     {
-        if (m_hasEnded && child) {
-            child->kill();
+        if (m_requested.isOpen() || m_hasEnded) {
+            return;
         }
-        std::erase_if(m_started, [](const auto &started) { return started.expired(); });
-        m_started.push_back(child);
-        if (!m_asked.empty()) {
-            m_asked.front().set_value(std::move(child));
-            m_asked.pop_front();
-        } else {
-            m_spare = m_hasEnded ? nullptr : std::move(child);
-            m_isSpareWanted = false;
+        if (m_forkServer) {
+            m_requested = m_forkServer->requestWorker();
+        }
+        if (!m_requested.isOpen()) {
+            m_forkServer = ImageWorkerChild::startForkServer(m_program);
+            m_requested = m_forkServer ? m_forkServer->requestWorker() : FileDescriptor();
         }
     }
 
-    const QString m_path;
+    void killForkServer()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_forkServer.reset();
+        m_requested.reset();
+    }
+
+    const QString m_program;
     const ImageWorkerLimits m_limits;
-    std::mutex m_mutex;
-    std::condition_variable m_wake;
-    std::deque<std::promise<Child>> m_asked; ///< by launch(), which waits for them
-    std::vector<std::weak_ptr<ImageWorkerChild>> m_started;
-    Child m_program; ///< set by the thread, which alone asks it for workers
-    Child m_spare;
-    bool m_isSpareWanted = false;
-    bool m_hasEnded = false; ///< all of them, on request
-    bool m_closing = false;
-    std::thread m_thread; ///< last: it uses all of the above
+    std::atomic<bool> m_hasEnded = false;
+    std::mutex m_mutex; ///< guards the following
+    std::unique_ptr<ImageWorkerChild> m_forkServer;
+    FileDescriptor m_requested; ///< this end of the socket of a worker that nobody has taken yet
 };
 
 /// Beside the application as it is built; in the folder for helpers once installed.

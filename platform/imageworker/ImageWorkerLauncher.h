@@ -8,23 +8,22 @@
 
 class ImageWorker;
 
-/// Starts image workers.
+/// Starts image workers. May be called on any thread.
 class ImageWorkerLauncher
 {
 public:
     virtual ~ImageWorkerLauncher() = default;
 
-    /// A worker for one photo; the one that stands ready, if there is one. Never null: when none could be
-    /// started, the first call to it says so. May be called on any thread.
+    /// A worker for one photo; the prepared one, if there is one. Never null: when none could be started, the
+    /// first call to it says so.
     virtual std::unique_ptr<ImageWorker> launch() = 0;
-    /// Starts a worker ahead of need, if none stands ready. Returns at once.
+    /// Requests a worker ahead of need, unless one is requested already. Returns at once.
     virtual void prepare() = 0;
-    /// Ends every worker at once, whoever waits for one; from any thread. Workers launched later fail.
+    /// Kills every worker at once, also while a thread waits for it. Workers launched later fail.
     virtual void endAll() = 0;
 
-    /// Starts the worker program that lies beside the application.
+    /// Uses the worker program that lies beside the application.
     static std::shared_ptr<ImageWorkerLauncher> create();
-    /// Starts `program`. Its processes end with the launcher, however that ends: they are started by one
-    /// thread of its own, because the kernel ends them when the thread that started them is gone.
+    /// Uses `program`. Its processes end with the launcher.
     static std::shared_ptr<ImageWorkerLauncher> create(const QString &program, ImageWorkerLimits limits);
 };

@@ -1,10 +1,15 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 
-/// How long an image worker may take before it is ended.
+/// What an image worker accepts and answers, and how long it may take before it is killed.
 struct ImageWorkerLimits
 {
+    /// Of one picture. Twice what the largest phone sensors write.
+    static constexpr std::int32_t maximumPixels = 300'000'000;
+    static constexpr std::int64_t maximumThumbnailBytes = 4LL * 1024 * 1024;
+
     std::chrono::milliseconds start{15'000};
     std::chrono::milliseconds open{15'000};
     std::chrono::milliseconds write{20'000};

@@ -10,11 +10,11 @@ using namespace imageworkerwire;
 
 namespace {
 
-std::optional<Reply> receiveReply(const ImageWorkerChild &worker, std::chrono::milliseconds limit)
+std::optional<Reply> receiveReply(const FileDescriptor &socket, std::chrono::milliseconds limit)
 {
     Reply reply;
-    if (!worker.awaitWord(limit) ||
-        ::recv(worker.socket(), &reply, sizeof(reply), MSG_DONTWAIT | MSG_TRUNC) != ssize_t{sizeof(reply)}) {
+    if (!ImageWorkerChild::awaitMessage(socket, limit) ||
+        ::recv(socket.number(), &reply, sizeof(reply), MSG_DONTWAIT | MSG_TRUNC) != ssize_t{sizeof(reply)}) {
         return std::nullopt;
     }
     return reply;
@@ -30,83 +30,54 @@ tl::unexpected<ImageWorkerFault> failed(ImageWorkerFault fault)
 tl::expected<Reply, ImageWorkerFault>
 ImageWorkerProcess::ask(const Request &request, const FileDescriptor &file, std::chrono::milliseconds limit)
 {
-    const bool asked = m_child && m_child->isRunning() && file.isOpen() &&
-                       sendWithDescriptor(m_child->socket(), request, file.number());
-    const std::optional<Reply> reply = asked ? receiveReply(*m_child, limit) : std::nullopt;
+    const bool isSent = m_worker && sendWithDescriptor(m_worker->socket().number(), request, file.number());
+    const std::optional<Reply> reply = isSent ? receiveReply(m_worker->socket(), limit) : std::nullopt;
     if (!reply) {
-        m_child.reset();
+        m_worker.reset();
         return failed(ImageWorkerFault::Unreadable);
     }
-    switch (reply->outcome) {
-    case Outcome::Done:
+    if (reply->fault == NoFault) {
         return *reply;
-    case Outcome::CannotWrite:
-        return failed(ImageWorkerFault::CannotWrite);
-    case Outcome::NotLockedDown:
-    case Outcome::Unreadable:
-        break;
     }
-    return failed(ImageWorkerFault::Unreadable);
+    return failed(reply->fault == ImageWorkerFault::CannotWrite ? ImageWorkerFault::CannotWrite
+                                                                : ImageWorkerFault::Unreadable);
 }
 
-tl::expected<void, ImageWorkerFault> ImageWorkerProcess::awaitLockDown()
+tl::expected<void, ImageWorkerFault> ImageWorkerProcess::open(const FileDescriptor &source)
 {
-    const std::optional<Reply> greeting = m_child ? receiveReply(*m_child, m_limits.start) : std::nullopt;
-    if (greeting && greeting->outcome == Outcome::Done) {
-        return {};
+    if (!m_worker) {
+        return failed(ImageWorkerFault::NotLockedDown);
     }
-    const bool wasKilled = m_child && m_child->isKilled();
-    m_child.reset();
-    return failed(wasKilled ? ImageWorkerFault::Unreadable : ImageWorkerFault::NotLockedDown);
-}
-
-tl::expected<ImageSize, ImageWorkerFault> ImageWorkerProcess::open(const FileDescriptor &source)
-{
-    if (const auto lockedDown = awaitLockDown(); !lockedDown) {
-        return failed(lockedDown.error());
-    }
-    Request request;
-    request.kind = RequestKind::Open;
-    const auto reply = ask(request, source, m_limits.open);
+    const auto reply = ask({.kind = RequestKind::Open}, source, m_limits.open);
     if (!reply) {
         return failed(reply.error());
     }
-    if (reply->width <= 0 || reply->height <= 0 ||
-        std::int64_t{reply->width} * reply->height > MaximumPixels) {
-        m_child.reset();
+    if (reply->pixels <= 0 || reply->pixels > ImageWorkerLimits::maximumPixels) {
+        m_worker.reset();
         return failed(ImageWorkerFault::Unreadable);
     }
-    m_size = {reply->width, reply->height};
-    return m_size;
+    m_pixels = reply->pixels;
+    return {};
 }
 
-tl::expected<void, ImageWorkerFault> ImageWorkerProcess::write(const FileDescriptor &scratch,
-                                                               ImageFormat format, double jpegQuality)
+tl::expected<void, ImageWorkerFault> ImageWorkerProcess::write(const FileDescriptor &output,
+                                                               OutputFormat format, double jpegQuality)
 {
-    Request request;
-    request.kind = RequestKind::Write;
-    request.format = format == ImageFormat::Png ? Format::Png : Format::Jpeg;
-    request.jpegQuality = jpegQuality;
-    const auto reply = ask(request, scratch, writeLimit());
-    if (!reply) {
-        return failed(reply.error());
-    }
-    return {};
+    const Request request = {.kind = RequestKind::Write, .format = format, .jpegQuality = jpegQuality};
+    return ask(request, output, writeLimit()).map([](const Reply & /*done*/) {});
 }
 
 tl::expected<QByteArray, ImageWorkerFault> ImageWorkerProcess::thumbnail(int maximumSide)
 {
     const FileDescriptor picture(::memfd_create("thumbnail", MFD_CLOEXEC));
-    Request request;
-    request.kind = RequestKind::Thumbnail;
-    request.maximumSide = maximumSide;
-    const auto reply = ask(request, picture, writeLimit());
+    const auto reply =
+        ask({.kind = RequestKind::Thumbnail, .maximumSide = maximumSide}, picture, writeLimit());
     if (!reply) {
         return failed(reply.error());
     }
     struct stat status = {};
     if (::fstat(picture.number(), &status) != 0 || status.st_size <= 0 ||
-        status.st_size > MaximumThumbnailBytes) {
+        status.st_size > ImageWorkerLimits::maximumThumbnailBytes) {
         return failed(ImageWorkerFault::Unreadable);
     }
     QByteArray bytes(static_cast<qsizetype>(status.st_size), Qt::Uninitialized);
@@ -118,7 +89,6 @@ tl::expected<QByteArray, ImageWorkerFault> ImageWorkerProcess::thumbnail(int max
 
 std::chrono::milliseconds ImageWorkerProcess::writeLimit() const
 {
-    constexpr std::int64_t Megapixel = 1'000'000;
-    const std::int64_t megapixels = std::int64_t{m_size.width} * m_size.height / Megapixel;
-    return m_limits.write + m_limits.perMegapixel * megapixels;
+    constexpr int Megapixel = 1'000'000;
+    return m_limits.write + m_limits.perMegapixel * (m_pixels / Megapixel);
 }

@@ -7,33 +7,31 @@
 
 #include <memory>
 
-/// The photo's side of the conversation with one child.
+/// An image worker in a process of its own, and what the application asks of it.
 class ImageWorkerProcess : public ImageWorker
 {
 public:
-    ImageWorkerProcess(std::shared_ptr<ImageWorkerChild> child, ImageWorkerLimits limits)
-        : m_child(std::move(child))
+    /// `worker` is locked down, or null when none could be had.
+    ImageWorkerProcess(std::unique_ptr<ImageWorkerChild> worker, ImageWorkerLimits limits)
+        : m_worker(std::move(worker))
         , m_limits(limits)
     {}
 
-    tl::expected<ImageSize, ImageWorkerFault> open(const FileDescriptor &source) override;
-    tl::expected<void, ImageWorkerFault> write(const FileDescriptor &scratch, ImageFormat format,
+    tl::expected<void, ImageWorkerFault> open(const FileDescriptor &source) override;
+    tl::expected<void, ImageWorkerFault> write(const FileDescriptor &output, OutputFormat format,
                                                double jpegQuality) override;
     tl::expected<QByteArray, ImageWorkerFault> thumbnail(int maximumSide) override;
 
 private:
     using Reply = imageworkerwire::Reply;
 
-    /// Waits until the worker has said that it is locked down; only then it may be handed anything.
-    tl::expected<void, ImageWorkerFault> awaitLockDown();
-    /// Asks and waits. A child whose answer is no record, or does not come within `limit`, is ended, and the
-    /// photo is Unreadable.
+    /// Sends the request and waits for the reply. A worker whose reply is malformed, or does not come within
+    /// `limit`, is killed, and the photo is Unreadable.
     tl::expected<Reply, ImageWorkerFault> ask(const imageworkerwire::Request &request,
                                               const FileDescriptor &file, std::chrono::milliseconds limit);
     std::chrono::milliseconds writeLimit() const;
 
-    /// Null when it could not be started or has been ended; shared with who may kill it.
-    std::shared_ptr<ImageWorkerChild> m_child;
+    std::unique_ptr<ImageWorkerChild> m_worker; ///< null when it could not be had or has been killed
     ImageWorkerLimits m_limits;
-    ImageSize m_size;
+    std::int32_t m_pixels = 0;
 };

@@ -86,8 +86,13 @@ private Q_SLOTS:
 
     void shouldWriteBesideTheSourceOrIntoItsSubfolder()
     {
+        const mode_t userMask = ::umask(0027);
         QCOMPARE(converted("IMG_1.HEIC", jpegBeside), "IMG_1.jpg");
+        ::umask(userMask);
         QCOMPARE(content("IMG_1.jpg"), "jpeg 0.65");
+        struct stat copy = {};
+        QCOMPARE(::stat(qPrintable(path("IMG_1.jpg")), &copy), 0);
+        QCOMPARE(copy.st_mode & 07777U, 0640U);
         QCOMPARE(converted("IMG_1.HEIC", pngBelow), "Lumaport/IMG_1.png");
         QCOMPARE(converted("IMG_1.HEIC", pngBelow), "Lumaport/IMG_1 2.png");
         QCOMPARE(content("IMG_1.HEIC"), "red");

@@ -29,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     }
     static const int output = ::memfd_create("copy", MFD_CLOEXEC);
     static_cast<void>(writeThumbnail(*source, *photo, output, 240));
-    for (const CopyFormat format : {CopyFormat::Png, CopyFormat::Jpeg}) {
+    for (const OutputFormat format : {OutputFormat::png, OutputFormat::jpeg}) {
         static_cast<void>(writeCopy(*source, *photo, output, format, 0.9));
         static_cast<void>(::ftruncate(output, 0));
         ::lseek(output, 0, SEEK_SET);

@@ -48,7 +48,7 @@ private:
         }
         ~Worker() override { --launcher.running; }
 
-        tl::expected<ImageSize, ImageWorkerFault> open(const FileDescriptor &source) override
+        tl::expected<void, ImageWorkerFault> open(const FileDescriptor &source) override
         {
             if (launcher.m_holds) {
                 launcher.gate.acquire();
@@ -62,15 +62,15 @@ private:
             if (launcher.openFault || !top.isValid() || !bottom.isValid()) {
                 return tl::unexpected(launcher.openFault.value_or(ImageWorkerFault::Unreadable));
             }
-            return ImageSize{4032, 3024};
+            return {};
         }
 
-        tl::expected<void, ImageWorkerFault> write(const FileDescriptor &output, ImageFormat format,
+        tl::expected<void, ImageWorkerFault> write(const FileDescriptor &output, OutputFormat format,
                                                    double jpegQuality) override
         {
             QFile file;
             file.open(output.number(), QIODevice::WriteOnly);
-            file.write(format == ImageFormat::Jpeg ? "jpeg " + QByteArray::number(jpegQuality) : "png");
+            file.write(format == OutputFormat::jpeg ? "jpeg " + QByteArray::number(jpegQuality) : "png");
             if (launcher.writeFault) {
                 return tl::unexpected(*launcher.writeFault);
             }

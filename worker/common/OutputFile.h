@@ -22,7 +22,7 @@ public:
     /// May be asked on any thread.
     Result<void> outcome() const
     {
-        return m_failed ? Result<void>(tl::unexpected(Fault::CannotWrite)) : Result<void>();
+        return m_failed ? Result<void>(tl::unexpected(ImageWorkerFault::CannotWrite)) : Result<void>();
     }
 
 private:

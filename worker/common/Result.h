@@ -1,23 +1,20 @@
 #pragma once
 
+#include "ImageWorkerFault.h"
+#include "ImageWorkerLimits.h"
+
 #include <cstdint>
 #include <tl/expected.hpp>
 #include <vector>
 
 namespace imageworker {
 
-/// Why a photo did not become a copy.
-enum class Fault {
-    Unreadable,  ///< damaged, incomplete, or of a kind that is not understood
-    CannotWrite, ///< the photo was sound, but the output could not take the bytes
-};
-
 template<typename Value>
-using Result = tl::expected<Value, Fault>;
+using Result = tl::expected<Value, ImageWorkerFault>;
 
-inline tl::unexpected<Fault> unreadable()
+inline tl::unexpected<ImageWorkerFault> unreadable()
 {
-    return tl::unexpected(Fault::Unreadable);
+    return tl::unexpected(ImageWorkerFault::Unreadable);
 }
 
 using Bytes = std::vector<std::uint8_t>;
@@ -31,14 +28,12 @@ struct PixelSize
     bool operator==(const PixelSize &) const = default;
 };
 
-/// Larger pictures are refused. Twice what the largest phone sensors write.
-inline constexpr std::int64_t MaximumPixels = 300'000'000;
 inline constexpr std::int64_t MaximumSide = 65'535; ///< what a JPEG can hold
 
 inline bool isAcceptable(std::int64_t width, std::int64_t height)
 {
     return width > 0 && height > 0 && width <= MaximumSide && height <= MaximumSide &&
-           width * height <= MaximumPixels;
+           width * height <= ImageWorkerLimits::maximumPixels;
 }
 
 } // namespace imageworker

@@ -129,7 +129,7 @@ std::unique_ptr<TileDecoder> TileDecoder::create(const CodedPicture &picture)
     context->thread_count = 1;
     context->flags |= AV_CODEC_FLAG_UNALIGNED; // else the conformance window is rounded to what suits vectors
     context->err_recognition = AV_EF_EXPLODE;
-    context->max_pixels = MaximumPixels;
+    context->max_pixels = ImageWorkerLimits::maximumPixels;
     const bool isRecord = picture.codec != Codec::Jpeg; // a JPEG's tables are put before its data
     if (isRecord && !picture.configuration.empty()) {
         const std::size_t length = picture.configuration.size();

@@ -85,7 +85,7 @@ public:
     {
         // The library looks at the size of a chunk alone, and the frame's header has two bytes for a side.
         const bool fits = std::max(m_form.size.width, m_form.size.height) <= JPEG_MAX_DIMENSION;
-        return fits ? Result<void>() : tl::unexpected(Fault::CannotWrite);
+        return fits ? Result<void>() : tl::unexpected(ImageWorkerFault::CannotWrite);
     }
 
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
@@ -95,7 +95,7 @@ public:
         Bytes stream = encoder->encode(top, height, readRow, chunk == 0 ? all : all.first(0));
         m_encoders.giveBack(std::move(encoder));
         if (stream.empty()) {
-            return tl::unexpected(Fault::CannotWrite);
+            return tl::unexpected(ImageWorkerFault::CannotWrite);
         }
         m_pieces.add(chunk, chunk == 0 ? beginning(std::move(stream)) : continuation(chunk, stream),
                      [this](const Bytes &piece) { m_output.write(piece); });

@@ -9,7 +9,7 @@
 
 namespace imageworker {
 
-Result<void> writeCopy(const Source &source, const Photo &photo, int output, CopyFormat format,
+Result<void> writeCopy(const Source &source, const Photo &photo, int output, OutputFormat format,
                        double jpegQuality)
 {
     const int workers = availableWorkers();
@@ -22,8 +22,8 @@ Result<void> writeCopy(const Source &source, const Photo &photo, int output, Cop
     describeCopy(metadata.exif, photo.upright());
     describeCopyInXmp(metadata.xmp, size);
     OutputFile file(output);
-    const auto encoder = format == CopyFormat::Png ? makePngEncoder(file, size, metadata)
-                                                   : makeJpegEncoder(file, size, jpegQuality, metadata);
+    const auto encoder = format == OutputFormat::png ? makePngEncoder(file, size, metadata)
+                                                     : makeJpegEncoder(file, size, jpegQuality, metadata);
     return runPipeline(**rows, *encoder, workers);
 }
 

@@ -44,7 +44,7 @@ public:
         }
     }
 
-    std::optional<Fault> fault() const { return m_fault; }
+    std::optional<ImageWorkerFault> fault() const { return m_fault; }
 
 private:
     struct Progress
@@ -169,7 +169,7 @@ private:
     std::size_t m_released = 0;  ///< strips before this one are no longer needed
     std::size_t m_nextChunk = 0;
     int m_encoding = 0;
-    std::optional<Fault> m_fault;
+    std::optional<ImageWorkerFault> m_fault;
 };
 
 } // namespace

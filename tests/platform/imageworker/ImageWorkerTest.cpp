@@ -1,37 +1,75 @@
 #include "ImageWorker.h"
 
 #include "ImageWorkerLauncher.h"
-#include "ImageWorkerTools.h"
+#include "WorkerCount.h"
 
+#include <QBuffer>
 #include <QImage>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <fcntl.h>
+#include <array>
+#include <csignal>
+#include <future>
 #include <linux/landlock.h>
 #include <sys/mman.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
+#include <vector>
 
 namespace {
 
-/// Open for writing, too: only the lock-down stands in the way.
-FileDescriptor fileHolding(const QByteArray &content, const QTemporaryDir &folder)
+/// A file in memory, open for reading and writing.
+FileDescriptor fileHolding(const QByteArray &content)
 {
-    const QString path = folder.filePath(QStringLiteral("source"));
-    QFile file(path);
-    file.open(QFile::WriteOnly);
-    file.write(content);
-    file.close();
-    return FileDescriptor(::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC));
+    FileDescriptor file(::memfd_create("source", MFD_CLOEXEC));
+    const ssize_t written =
+        ::pwrite(file.number(), content.constData(), static_cast<std::size_t>(content.size()), 0);
+    return written == content.size() ? std::move(file) : FileDescriptor();
 }
 
-/// Whether the kernel can close the file system to a process.
-bool hasLandlock()
+QByteArray contentOf(const FileDescriptor &file)
 {
-    return ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION) > 0;
+    QByteArray content(100, Qt::Uninitialized);
+    content.resize(::pread(file.number(), content.data(), static_cast<std::size_t>(content.size()), 0));
+    return content;
 }
 
-/// For workers that hang: the shorter of these is how long that lasts.
+QByteArray pngOf(QSize size)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::darkCyan);
+    QBuffer file;
+    image.save(&file, "PNG");
+    return file.data();
+}
+
+/// Why a new worker does not open @p source; none when it does.
+std::optional<ImageWorkerFault> faultOf(ImageWorkerLauncher &launcher, const FileDescriptor &source)
+{
+    const auto opened = launcher.launch()->open(source);
+    return opened ? std::nullopt : std::optional(opened.error());
+}
+
+qsizetype openDescriptors()
+{
+    return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size();
+}
+
+bool hasChildren()
+{
+    siginfo_t status = {};
+    return ::waitid(P_ALL, 0, &status, WEXITED | WNOHANG | WNOWAIT) == 0;
+}
+
+void addNames(const QByteArray &names)
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const QByteArray &name : names.split(' ')) {
+        QTest::newRow(name) << name;
+    }
+}
+
+/// For workers that hang: they do so for the shorter time.
 constexpr ImageWorkerLimits ShortToStart{.start = std::chrono::milliseconds(200)};
 constexpr ImageWorkerLimits ShortToOpen{.open = std::chrono::milliseconds(200)};
 
@@ -42,89 +80,51 @@ class ImageWorkerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldContainEveryDisobedience_data()
+    void shouldContainHostileWorkers_data()
     {
-        QTest::addColumn<QByteArray>("order");
-        for (const char *order : {"open",
-                                  "look",
-                                  "create",
-                                  "socket",
-                                  "exec",
-                                  "fork",
-                                  "clone",
-                                  "vfork",
-                                  "ptrace",
-                                  "truncate-source",
-                                  "slow-group",
-                                  "limits-of-another",
-                                  "change-limit",
-                                  "unlimited-time",
-                                  "unlimited-files",
-                                  "allocate",
-                                  "crash",
-                                  "spin",
-                                  "sleep",
-                                  "huge",
-                                  "negative",
-                                  "nonsense"}) {
-            QTest::newRow(order) << QByteArray(order);
-        }
+        addNames("open look create socket exec fork clone vfork ptrace truncate-source slow-group "
+                 "limits-of-parent change-limit unlimited-time unlimited-files allocate crash spin sleep "
+                 "huge negative nonsense");
     }
-    void shouldContainEveryDisobedience()
+    void shouldContainHostileWorkers()
     {
-        QFETCH(QByteArray, order);
-        const bool hangs = order == "spin" || order == "sleep";
-        const QTemporaryDir folder;
-        const FileDescriptor source = fileHolding(order, folder);
-        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(DISOBEDIENT_WORKER),
+        QFETCH(QByteArray, name);
+        const bool hangs = name == "spin" || name == "sleep";
+        const FileDescriptor source = fileHolding(name);
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(HOSTILE_WORKER),
                                                           hangs ? ShortToOpen : ImageWorkerLimits());
-        const auto opened = launcher->launch()->open(source);
-        QVERIFY(!opened);
-        QCOMPARE(opened.error(), ImageWorkerFault::Unreadable);
-        QFile file(folder.filePath(QStringLiteral("source")));
-        QVERIFY(file.open(QFile::ReadOnly));
-        QCOMPARE(file.readAll(), order);
+        QCOMPARE(faultOf(*launcher, source), ImageWorkerFault::Unreadable);
+        QCOMPARE(contentOf(source), name);
         QTRY_COMPARE(workerCount(), 0);
-    }
-    void shouldCloseTheFileSystemEvenWithoutTheFilterOfCalls_data()
-    {
-        QTest::addColumn<QByteArray>("order");
-        for (const char *order : {"open-unfiltered", "create-unfiltered", "exec-unfiltered"}) {
-            QTest::newRow(order) << QByteArray(order);
-        }
-    }
-    void shouldCloseTheFileSystemEvenWithoutTheFilterOfCalls()
-    {
-        if (!hasLandlock()) {
-            QSKIP("this kernel has no Landlock");
-        }
-        QFETCH(QByteArray, order);
-        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(UNFILTERED_WORKER), {});
-        const auto opened = launcher->launch()->open(memoryHolding(order));
-        QVERIFY(!opened);
-        QCOMPARE(opened.error(), ImageWorkerFault::Unreadable);
-        // It is the filter that is missing: what Landlock does not know of passes.
-        QVERIFY(launcher->launch()->open(memoryHolding("slow-group")));
-    }
-    void shouldReachAWorkerThatObeys()
-    {
-        // Else the orders above would fail for want of a worker.
-        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(DISOBEDIENT_WORKER), {});
-        QVERIFY(!launcher->launch()->open(memoryHolding("crash")));
+        // The next photo has a worker of its own.
         const auto worker = launcher->launch();
-        QVERIFY(worker->open(memoryHolding("answer")));
+        QVERIFY(worker->open(fileHolding("endless-write")));
         QCOMPARE(workerCount(), 1);
     }
 
-    void shouldEndAWriteThatNeverEnds()
+    void shouldCloseTheFileSystemEvenWithoutTheCallFilter_data()
     {
-        const QTemporaryDir folder;
-        const FileDescriptor source = fileHolding("endless-write", folder);
-        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(DISOBEDIENT_WORKER), {});
+        addNames("open-unfiltered create-unfiltered exec-unfiltered");
+    }
+    void shouldCloseTheFileSystemEvenWithoutTheCallFilter()
+    {
+        if (::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION) <= 0) {
+            QSKIP("this kernel has no Landlock");
+        }
+        QFETCH(QByteArray, name);
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(UNFILTERED_WORKER), {});
+        QCOMPARE(faultOf(*launcher, fileHolding(name)), ImageWorkerFault::Unreadable);
+        // What only the filter forbids succeeds, so the filter is missing.
+        QVERIFY(!faultOf(*launcher, fileHolding("slow-group")));
+    }
+
+    void shouldLimitTheSizeOfTheOutput()
+    {
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(HOSTILE_WORKER), {});
         const auto worker = launcher->launch();
-        QVERIFY(worker->open(source));
-        const FileDescriptor output(::memfd_create("output", MFD_CLOEXEC));
-        const auto written = worker->write(output, ImageFormat::Png, 1);
+        QVERIFY(worker->open(fileHolding("endless-write")));
+        const FileDescriptor output = fileHolding({});
+        const auto written = worker->write(output, OutputFormat::png, 1);
         QVERIFY(!written);
         QCOMPARE(written.error(), ImageWorkerFault::CannotWrite);
         QVERIFY(::lseek(output.number(), 0, SEEK_END) <= qint64(2) << 30);
@@ -132,21 +132,29 @@ private Q_SLOTS:
 
     void shouldHandNothingToAProgramThatIsNoWorker_data()
     {
-        QTest::addColumn<QString>("program");
-        QTest::newRow("missing") << QStringLiteral("/nowhere/lumaport-imageworker");
-        QTest::newRow("a folder") << QStringLiteral("/tmp");
-        QTest::newRow("another program") << QStringLiteral("/bin/true");
-        QTest::newRow("a program that waits") << QStringLiteral("/bin/sleep");
+        addNames("/nowhere/lumaport-imageworker /tmp /bin/true /usr/bin/yes");
+        QTest::newRow("not locked down") << QByteArray(UNLOCKED_WORKER);
     }
     void shouldHandNothingToAProgramThatIsNoWorker()
     {
-        QFETCH(QString, program);
-        const auto launcher = ImageWorkerLauncher::create(program, ShortToStart);
+        QFETCH(QByteArray, name);
+        const bool hangs = name.endsWith("yes");
+        const auto launcher = ImageWorkerLauncher::create(QString::fromLocal8Bit(name),
+                                                          hangs ? ShortToStart : ImageWorkerLimits());
         launcher->prepare();
         for (int attempt = 0; attempt < 2; ++attempt) {
-            const auto opened = launcher->launch()->open(memoryHolding("x"));
-            QVERIFY(!opened);
-            QCOMPARE(opened.error(), ImageWorkerFault::NotLockedDown);
+            QCOMPARE(faultOf(*launcher, fileHolding("x")), ImageWorkerFault::NotLockedDown);
+        }
+    }
+
+    void shouldStartAnotherForkServerWhenItsOwnWasKilled()
+    {
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(IMAGE_WORKER), {});
+        launcher->prepare();
+        for (int death = 0; death < 2; ++death) { // with a worker prepared, and with none
+            QTRY_COMPARE(childrenOf(::getpid()).size(), 1);
+            ::kill(childrenOf(::getpid()).first(), SIGKILL);
+            QVERIFY(!faultOf(*launcher, fileHolding(pngOf({8, 8}))));
         }
     }
 
@@ -154,26 +162,59 @@ private Q_SLOTS:
     {
         const auto launcher = ImageWorkerLauncher::create(QStringLiteral(IMAGE_WORKER), {});
         const auto before = launcher->launch();
+        launcher->prepare();
         launcher->endAll();
-        const FileDescriptor source = memoryHolding(pngOf({8, 8}));
-        for (const auto &opened : {before->open(source), launcher->launch()->open(source)}) {
-            QVERIFY(!opened);
-            QCOMPARE(opened.error(), ImageWorkerFault::Unreadable); // the program is not to blame
-        }
+        const FileDescriptor source = fileHolding(pngOf({8, 8}));
+        QVERIFY(!before->open(source));
+        QVERIFY(faultOf(*launcher, source));
     }
 
-    void shouldMakeThumbnailsOfWhatItCanRead()
+    void shouldMakeThumbnails()
     {
         const auto launcher = ImageWorkerLauncher::create(QStringLiteral(IMAGE_WORKER), {});
         const auto worker = launcher->launch();
-        const auto size = worker->open(memoryHolding(pngOf({400, 300})));
-        QVERIFY(size);
-        QCOMPARE(size->width, 400);
+        QVERIFY(worker->open(fileHolding(pngOf({400, 300}))));
         const auto thumbnail = worker->thumbnail(240);
         QVERIFY(thumbnail);
         const QImage small = QImage::fromData(*thumbnail, "PNG");
         QCOMPARE(small.size(), QSize(240, 180));
         QCOMPARE(small.pixelColor(100, 100), QColor(Qt::darkCyan));
+    }
+
+    void shouldLeaveNothingBehindAfterManyPhotos()
+    {
+        constexpr int Threads = 4;
+        constexpr int PhotosOfThread = 125;
+        const QByteArray good = pngOf({64, 48});
+        const std::array sources = {good, good.left(good.size() / 2), good,
+                                    QByteArray("\0\0\0\x18"
+                                               "ftypheic",
+                                               12)};
+        const qsizetype before = openDescriptors();
+        auto launcher = ImageWorkerLauncher::create(QStringLiteral(IMAGE_WORKER), {});
+        const auto convertMany = [&launcher, &sources] {
+            int converted = 0;
+            for (std::size_t photo = 0; photo < PhotosOfThread; ++photo) {
+                launcher->prepare();
+                const auto worker = launcher->launch();
+                converted += worker->open(fileHolding(sources[photo % sources.size()])) &&
+                                     worker->write(fileHolding({}), OutputFormat::jpeg, 0.9)
+                                 ? 1
+                                 : 0;
+            }
+            return converted;
+        };
+        std::vector<std::future<int>> threads(Threads);
+        for (auto &thread : threads) {
+            thread = std::async(std::launch::async, convertMany);
+        }
+        for (auto &thread : threads) {
+            QCOMPARE(thread.get(), PhotosOfThread / 2 + 1);
+        }
+        QTRY_VERIFY(workerCount() <= 1); // the prepared one
+        launcher.reset();
+        QCOMPARE(openDescriptors(), before);
+        QVERIFY(!hasChildren());
     }
 };
 

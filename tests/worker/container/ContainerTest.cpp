@@ -76,7 +76,7 @@ TEST(Container, ShouldReadPicturesOfOtherCodecs)
     expectLikeIndependentDecoder(makePhoto({.codec = PhotoRecipe::Codec::Av1}));
     expectLikeIndependentDecoder(
         makePhoto({.size = {65, 97}, .hasAlpha = true, .codec = PhotoRecipe::Codec::Av1}));
-    const auto jpeg = convert(makePhoto({}), CopyFormat::Jpeg);
+    const auto jpeg = convert(makePhoto({}), OutputFormat::jpeg);
     ASSERT_TRUE(jpeg);
     HeifFile file;
     const auto asItem = shown(file.bytes(file.add("jpeg", *jpeg, {spatialExtents(96, 64)})));

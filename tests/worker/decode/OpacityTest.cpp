@@ -99,7 +99,7 @@ TEST(Opacity, ShouldBeLaidOverWhiteInAJpeg)
 {
     const Raster opacity = blocks(16);
     const Raster grey = drawn(opacity.size, [](int, int y) { return y < 32 ? 0 : 100; });
-    const auto jpeg = convert(photoWithOpacity(grey, opacity), CopyFormat::Jpeg);
+    const auto jpeg = convert(photoWithOpacity(grey, opacity), OutputFormat::jpeg);
     ASSERT_TRUE(jpeg);
     const auto copy = shown(*jpeg);
     ASSERT_TRUE(copy);

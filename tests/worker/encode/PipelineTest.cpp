@@ -159,7 +159,7 @@ TEST(JpegEncoder, ShouldRefusePicturesThatTheFormatCannotHold)
         StripSource source(picture, {size.height});
         const auto written = runPipeline(source, *makeJpegEncoder(output, size, 0.9, {}), 2);
         ASSERT_FALSE(written);
-        EXPECT_EQ(written.error(), Fault::CannotWrite);
+        EXPECT_EQ(written.error(), ImageWorkerFault::CannotWrite);
     }
 }
 

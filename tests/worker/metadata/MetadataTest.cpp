@@ -62,7 +62,7 @@ Bytes exif()
 class Metadata : public testing::Test
 {
 protected:
-    static void write(const Bytes &photo, CopyFormat format, const MemoryFile &copy)
+    static void write(const Bytes &photo, OutputFormat format, const MemoryFile &copy)
     {
         const auto bytes = convert(photo, format);
         ASSERT_TRUE(bytes);
@@ -76,9 +76,9 @@ TEST_F(Metadata, ShouldReachTheCopyAndDescribeIt)
     for (const std::size_t length : {std::size_t{100}, std::size_t{150'000}}) {
         const Bytes photo =
             makePhoto({.size = {128, 64}, .orientation = 6, .exif = exif(), .xmp = xmpPacket(length)});
-        for (const CopyFormat format : {CopyFormat::Jpeg, CopyFormat::Png}) {
+        for (const OutputFormat format : {OutputFormat::jpeg, OutputFormat::png}) {
             SCOPED_TRACE(testing::Message()
-                         << length << " bytes, " << (format == CopyFormat::Png ? "PNG" : "JPEG"));
+                         << length << " bytes, " << (format == OutputFormat::png ? "PNG" : "JPEG"));
             const MemoryFile copy;
             ASSERT_NO_FATAL_FAILURE(write(photo, format, copy));
             const std::string found = readWith("exiftool -a -G1 -S -n", copy);
@@ -93,7 +93,7 @@ TEST_F(Metadata, ShouldReachTheCopyAndDescribeIt)
             EXPECT_TRUE(says("XMP-dc] Source: harbour\n")) << found;
             EXPECT_TRUE(says("XMP-dc] Identifier: " + std::string(100, 'X'))) << found;
             EXPECT_FALSE(says("Warning")) << found;
-            if (format == CopyFormat::Png) {
+            if (format == OutputFormat::png) {
                 EXPECT_NE(readWith("pngcheck", copy).find("OK"), std::string::npos);
                 EXPECT_TRUE(says("SRGBRendering: 0\n")) << found;
             } else {
@@ -107,7 +107,7 @@ TEST_F(Metadata, ShouldKeepWhatWasShotWhereAndWhenInAJpegThatCannotHoldAll)
 {
     const MemoryFile copy;
     ASSERT_NO_FATAL_FAILURE(
-        write(makePhoto({.exif = makeExif({.makerNoteLength = 70'000})}), CopyFormat::Jpeg, copy));
+        write(makePhoto({.exif = makeExif({.makerNoteLength = 70'000})}), OutputFormat::jpeg, copy));
     const std::string found = readWith("exiftool -a -G1 -S -n", copy);
     for (const std::string line :
          {"[IFD0] Make: Lens\n", "[ExifIFD] DateTimeOriginal: 2024:05:06 07:08:09\n",
@@ -125,7 +125,7 @@ TEST_F(Metadata, ShouldNotShowThePhotoAsItWas)
         return std::search(file.begin(), file.end(), preview.begin(), preview.end()) != file.end();
     };
     ASSERT_TRUE(hasPreview(photo));
-    for (const CopyFormat format : {CopyFormat::Jpeg, CopyFormat::Png}) {
+    for (const OutputFormat format : {OutputFormat::jpeg, OutputFormat::png}) {
         const auto copy = convert(photo, format);
         ASSERT_TRUE(copy);
         EXPECT_FALSE(hasPreview(*copy));

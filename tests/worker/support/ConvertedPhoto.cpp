@@ -32,7 +32,7 @@ Bytes MemoryFile::bytes() const
     return content;
 }
 
-Result<Bytes> convert(const Bytes &photo, CopyFormat format)
+Result<Bytes> convert(const Bytes &photo, OutputFormat format)
 {
     const auto source = sourceOfBytes(photo);
     const auto read = readPhoto(*source);
@@ -48,7 +48,7 @@ Result<Bytes> convert(const Bytes &photo, CopyFormat format)
 
 std::optional<Raster> shown(const Bytes &photo)
 {
-    const auto copy = convert(photo, CopyFormat::Png);
+    const auto copy = convert(photo, OutputFormat::png);
     return copy ? readPng(*copy) : std::nullopt;
 }
 

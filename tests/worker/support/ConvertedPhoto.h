@@ -24,7 +24,7 @@ private:
 };
 
 /// The copy of @p photo, a whole file.
-Result<Bytes> convert(const Bytes &photo, CopyFormat format);
+Result<Bytes> convert(const Bytes &photo, OutputFormat format);
 
 /// The pixels of its PNG; nothing when it is refused.
 std::optional<Raster> shown(const Bytes &photo);

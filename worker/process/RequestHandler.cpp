@@ -1,0 +1,76 @@
+#include "RequestHandler.h"
+
+#include "DescriptorMessage.h"
+#include "ImageWorkerWire.h"
+#include "PhotoConverter.h"
+#include "PhotoReader.h"
+#include "Thumbnail.h"
+
+#include <sys/resource.h>
+#include <sys/socket.h>
+
+namespace imageworker {
+
+namespace {
+
+using namespace imageworkerwire;
+
+Reply replyFor(const Result<void> &result)
+{
+    return {result ? NoFault : result.error()};
+}
+
+/// The one photo of this process.
+class OpenedPhoto
+{
+public:
+    Reply answer(DescriptorMessage<Request> &message)
+    {
+        const Request &request = message.record;
+        if (request.kind == RequestKind::Open) {
+            return open(std::move(message.descriptor));
+        }
+        if (!m_photo) {
+            return {ImageWorkerFault::Unreadable};
+        }
+        const int output = message.descriptor.number();
+        if (request.kind == RequestKind::Write) {
+            return replyFor(writeCopy(*m_source, *m_photo, output, request.format, request.jpegQuality));
+        }
+        constexpr int LeastUrgent = 19;
+        ::setpriority(PRIO_PROCESS, 0, LeastUrgent); // a thumbnail gives way to conversions
+        return replyFor(writeThumbnail(*m_source, *m_photo, output, request.maximumSide));
+    }
+
+private:
+    Reply open(FileDescriptor file)
+    {
+        m_file = std::move(file);
+        m_source = sourceOfFile(m_file.number());
+        m_photo = m_source ? readPhoto(*m_source) : unreadable();
+        if (!m_photo) {
+            return {ImageWorkerFault::Unreadable};
+        }
+        const PixelSize size = m_photo->upright().size();
+        return {NoFault, size.width * size.height};
+    }
+
+    FileDescriptor m_file;
+    std::unique_ptr<Source> m_source;
+    Result<Photo> m_photo = unreadable();
+};
+
+} // namespace
+
+void handleRequests(int socket)
+{
+    OpenedPhoto photo;
+    while (auto message = receiveWithDescriptor<Request>(socket)) {
+        const Reply reply = photo.answer(*message);
+        if (::send(socket, &reply, sizeof(reply), MSG_NOSIGNAL) != ssize_t{sizeof(reply)}) {
+            return;
+        }
+    }
+}
+
+} // namespace imageworker
