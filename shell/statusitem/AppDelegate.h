@@ -27,7 +27,7 @@ public:
     AppDelegate(QQmlEngine &engine, std::shared_ptr<JobScheduler> jobs, StatusItemMaker makeStatusItem);
     ~AppDelegate() override;
 
-    /// Sets up what does not need the model.
+    /// Sets up notifications, and keeps the application running without a window.
     static void applicationDidFinishLaunching(NotificationManager &notifications);
     /// Closing the main window leaves the application running with its status item.
     static bool applicationShouldTerminateAfterLastWindowClosed() { return false; }

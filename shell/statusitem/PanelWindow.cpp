@@ -87,7 +87,7 @@ void PanelWindow::followFocus(const QWindow *focus)
     if (focus == this) {
         m_hadFocus = true;
     } else if (m_hadFocus) {
-        // Before its first focus the panel stays open, because until then no window may have the focus.
+        // Until the panel has had the focus it stays open: on the way to it, no window may have the focus.
         hide();
         if (mayBeOnItem(QCursor::pos())) {
             m_justLostFocus = m_jobs->after(sameClick, [this] { m_justLostFocus.reset(); });

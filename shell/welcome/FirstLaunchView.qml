@@ -3,8 +3,8 @@ import Lumaport.Interaction
 import Lumaport.Vocabulary
 import Lumaport.Welcome
 
-// The welcome: the signature, the title and the button that ends it. All is white, in front of what is behind the window
-// or, with `backdrop`, of a dark ground.
+// The welcome: the signature, the title and the button that ends it, all white. With `backdrop` it has a dark background
+// of its own, for where the desktop does not blend windows.
 Item {
     id: view
 
@@ -32,7 +32,7 @@ Item {
         onActivated: view.finished()
     }
 
-    // Dark in both appearances, because the texts are always white. Nothing behind it hears the pointer.
+    // Dark in both appearances, because the texts are always white. Nothing behind it gets pointer events.
     Rectangle {
         anchors.fill: parent
         visible: view.backdrop

@@ -9,7 +9,7 @@
 class QQmlComponent;
 class WelcomePanel;
 
-/// Shows and ends the welcome as the main view says.
+/// Shows the welcome while `isPresenting`.
 ///
 /// Where the desktop blends windows, the main window becomes fully transparent and a panel over its frame
 /// shows the welcome. Elsewhere the welcome covers the content of the main window.

@@ -33,8 +33,8 @@ public:
         view->setSurface(surface);
     }
 
-    /// As the main view does, and then as long as it takes.
-    void present(bool isPresenting = true)
+    /// Presents as the main view does, and waits for the turn after.
+    void present(bool isPresenting = true) const
     {
         view->setProperty("isPresenting", isPresenting);
         QCoreApplication::processEvents();
@@ -55,7 +55,7 @@ public:
     PresentationView *view = nullptr;
 };
 
-/// The platform of the tests warns at each change of a window's opacity. Any more of them fail the test.
+/// The platform of the tests warns at each change of a window's opacity. Each further change fails the test.
 void expectChangesOfOpacity(int count)
 {
     for (int i = 0; i < count; ++i) {
