@@ -75,7 +75,7 @@ struct Picture
 };
 
 /// A file that is a JPEG or PNG whatever its name says.
-struct PlainFile
+struct JpegOrPng
 {
     enum class Kind { Jpeg, Png };
     Kind kind = Kind::Jpeg;
@@ -85,7 +85,7 @@ struct PlainFile
 
 struct Photo
 {
-    std::variant<Picture, PlainFile> picture;
+    std::variant<Picture, JpegOrPng> picture;
     Bytes exif; ///< from its TIFF header on; empty when there is none
     Bytes xmp;  ///< a packet of text; empty when there is none
 

@@ -3,8 +3,8 @@
 #include "Boxes.h"
 #include "Exif.h"
 #include "ItemData.h"
+#include "JpegOrPngReader.h"
 #include "PictureReader.h"
-#include "PlainFileReader.h"
 #include "TrackReader.h"
 
 #include <algorithm>
@@ -96,8 +96,8 @@ Result<Photo> readPrimaryItem(const Source &source, const ItemTable &table)
 
 Result<Photo> readPhoto(const Source &source)
 {
-    if (const auto kind = plainFileKind(source)) {
-        return readPlainFile(source, *kind);
+    if (const auto kind = jpegOrPngKind(source)) {
+        return readJpegOrPng(source, *kind);
     }
     const auto boxes = readTopLevelBoxes(source);
     if (!boxes) {

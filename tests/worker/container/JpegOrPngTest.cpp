@@ -39,7 +39,7 @@ Raster mutedColours(bool hasAlpha)
     return raster;
 }
 
-class PlainFiles : public testing::Test
+class JpegOrPngFiles : public testing::Test
 {
 protected:
     /// @p stored turned upside down and taken from @p profile to sRGB.
@@ -68,7 +68,7 @@ protected:
     }
 };
 
-TEST_F(PlainFiles, ShouldBeTurnedAndFollowTheirProfiles)
+TEST_F(JpegOrPngFiles, ShouldBeTurnedAndFollowTheirProfiles)
 {
     constexpr unsigned UpsideDown = 3;
     const Bytes exif = makeExif({.orientation = UpsideDown});
@@ -90,7 +90,7 @@ TEST_F(PlainFiles, ShouldBeTurnedAndFollowTheirProfiles)
     }
 }
 
-TEST_F(PlainFiles, ShouldBeRefusedWhenPixelsOfAJpegAreMissing)
+TEST_F(JpegOrPngFiles, ShouldBeRefusedWhenPixelsOfAJpegAreMissing)
 {
     // An end stands in each file, so only the decoding can tell that it is not that of the pixels.
     const Bytes whole = makeJpeg(cornerColours({96, 64}, false), {});

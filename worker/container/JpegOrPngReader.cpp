@@ -1,8 +1,8 @@
-#include "PlainFileReader.h"
+#include "JpegOrPngReader.h"
 
 #include "Exif.h"
-#include "FileMarks.h"
 #include "JpegDecoder.h"
+#include "MagicBytes.h"
 #include "PngDecoder.h"
 
 #include <algorithm>
@@ -21,7 +21,7 @@ Result<Photo> readPng(std::span<const std::uint8_t> file)
         return unreadable();
     }
     Photo photo;
-    photo.picture = PlainFile{PlainFile::Kind::Png, header->size, {}};
+    photo.picture = JpegOrPng{JpegOrPng::Kind::Png, header->size, {}};
     photo.exif = std::move(header->exif);
     photo.xmp = std::move(header->xmp);
     return photo;
@@ -39,7 +39,7 @@ Result<Photo> readJpeg(std::span<const std::uint8_t> file)
         return unreadable();
     }
     Photo photo;
-    photo.picture = PlainFile{PlainFile::Kind::Jpeg, header->size, {}};
+    photo.picture = JpegOrPng{JpegOrPng::Kind::Jpeg, header->size, {}};
     photo.exif = std::move(header->exif);
     photo.xmp = std::move(header->xmp);
     return photo;
@@ -47,29 +47,29 @@ Result<Photo> readJpeg(std::span<const std::uint8_t> file)
 
 } // namespace
 
-std::optional<PlainFile::Kind> plainFileKind(const Source &source)
+std::optional<JpegOrPng::Kind> jpegOrPngKind(const Source &source)
 {
     const auto start = source.read(0, std::min<std::uint64_t>(source.size(), PngSignature.size()));
     if (start && std::ranges::equal(*start, PngSignature)) {
-        return PlainFile::Kind::Png;
+        return JpegOrPng::Kind::Png;
     }
     if (start && start->size() >= JpegStart.size() &&
         std::equal(JpegStart.begin(), JpegStart.end(), start->begin())) {
-        return PlainFile::Kind::Jpeg;
+        return JpegOrPng::Kind::Jpeg;
     }
     return std::nullopt;
 }
 
-Result<Photo> readPlainFile(const Source &source, PlainFile::Kind kind)
+Result<Photo> readJpegOrPng(const Source &source, JpegOrPng::Kind kind)
 {
     const auto file = source.read(0, source.size());
-    auto photo = !file ? unreadable() : kind == PlainFile::Kind::Png ? readPng(*file) : readJpeg(*file);
+    auto photo = !file ? unreadable() : kind == JpegOrPng::Kind::Png ? readPng(*file) : readJpeg(*file);
     if (!photo) {
         return unreadable();
     }
-    auto &plain = std::get<PlainFile>(photo->picture);
-    plain.upright = Upright(plain.stored);
-    plain.upright.applyExifOrientation(exifOrientation(photo->exif));
+    auto &image = std::get<JpegOrPng>(photo->picture);
+    image.upright = Upright(image.stored);
+    image.upright.applyExifOrientation(exifOrientation(photo->exif));
     return photo;
 }
 
