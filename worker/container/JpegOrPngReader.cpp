@@ -12,37 +12,15 @@ namespace imageworker {
 
 namespace {
 
-constexpr std::array<std::uint8_t, 3> JpegStart = {0xFF, 0xD8, 0xFF};
-
-Result<Photo> readPng(std::span<const std::uint8_t> file)
+template<typename Header>
+Result<Photo> photoOf(JpegOrPng::Kind kind, Result<Header> header)
 {
-    auto header = readPngHeader(file);
     if (!header) {
         return unreadable();
     }
-    Photo photo;
-    photo.picture = JpegOrPng{JpegOrPng::Kind::Png, header->size, {}};
-    photo.exif = std::move(header->exif);
-    photo.xmp = std::move(header->xmp);
-    return photo;
-}
-
-Result<Photo> readJpeg(std::span<const std::uint8_t> file)
-{
-    auto header = readJpegHeader(file);
-    if (!header) {
-        return unreadable();
-    }
-    // A cut file still has its header: the end must be there, too. Cameras may append more after it.
-    constexpr std::array<std::uint8_t, 2> End = {0xFF, 0xD9};
-    if (std::find_end(file.begin(), file.end(), End.begin(), End.end()) == file.end()) {
-        return unreadable();
-    }
-    Photo photo;
-    photo.picture = JpegOrPng{JpegOrPng::Kind::Jpeg, header->size, {}};
-    photo.exif = std::move(header->exif);
-    photo.xmp = std::move(header->xmp);
-    return photo;
+    JpegOrPng image{kind, header->size, Upright(header->size)};
+    image.upright.applyExifOrientation(exifOrientation(header->exif));
+    return Photo{image, std::move(header->exif), std::move(header->xmp)};
 }
 
 } // namespace
@@ -50,27 +28,31 @@ Result<Photo> readJpeg(std::span<const std::uint8_t> file)
 std::optional<JpegOrPng::Kind> jpegOrPngKind(const Source &source)
 {
     const auto start = source.read(0, std::min<std::uint64_t>(source.size(), PngSignature.size()));
-    if (start && std::ranges::equal(*start, PngSignature)) {
+    const auto startsWith = [&start](std::span<const std::uint8_t> signature) {
+        return start && start->size() >= signature.size() &&
+               std::equal(signature.begin(), signature.end(), start->begin());
+    };
+    if (startsWith(PngSignature)) {
         return JpegOrPng::Kind::Png;
     }
-    if (start && start->size() >= JpegStart.size() &&
-        std::equal(JpegStart.begin(), JpegStart.end(), start->begin())) {
-        return JpegOrPng::Kind::Jpeg;
-    }
-    return std::nullopt;
+    return startsWith(JpegSignature) ? std::optional(JpegOrPng::Kind::Jpeg) : std::nullopt;
 }
 
 Result<Photo> readJpegOrPng(const Source &source, JpegOrPng::Kind kind)
 {
     const auto file = source.read(0, source.size());
-    auto photo = !file ? unreadable() : kind == JpegOrPng::Kind::Png ? readPng(*file) : readJpeg(*file);
-    if (!photo) {
+    if (!file) {
         return unreadable();
     }
-    auto &image = std::get<JpegOrPng>(photo->picture);
-    image.upright = Upright(image.stored);
-    image.upright.applyExifOrientation(exifOrientation(photo->exif));
-    return photo;
+    if (kind == JpegOrPng::Kind::Png) {
+        return photoOf(kind, readPngHeader(*file));
+    }
+    // A cut file still has its header, so the end must be there, too. Cameras may append more after it.
+    constexpr std::array<std::uint8_t, 2> End = {0xFF, 0xD9};
+    if (std::ranges::find_end(*file, End).empty()) {
+        return unreadable();
+    }
+    return photoOf(kind, readJpegHeader(*file));
 }
 
 } // namespace imageworker

@@ -74,21 +74,19 @@ Result<void> readMetadata(const Source &source, const ItemTable &table, Photo &p
 
 Result<Photo> readPrimaryItem(const Source &source, const ItemTable &table)
 {
-    auto read = readPicture(source, table, table.primary);
+    auto picture = readPicture(source, table, table.primary);
     Photo photo;
-    if (!read || !readMetadata(source, table, photo)) {
+    if (!picture || !readMetadata(source, table, photo)) {
         return unreadable();
     }
-    if (!read->turnsItself) {
+    if (!picture->hasOrientation) {
         const unsigned orientation = exifOrientation(photo.exif);
-        read->picture.upright.applyExifOrientation(orientation);
-        if (read->picture.alpha != nullptr) {
-            auto alpha = std::make_shared<Picture>(*read->picture.alpha);
-            alpha->upright.applyExifOrientation(orientation);
-            read->picture.alpha = std::move(alpha);
+        picture->upright.applyExifOrientation(orientation);
+        if (picture->alpha != nullptr) {
+            picture->alpha->upright.applyExifOrientation(orientation);
         }
     }
-    photo.picture = std::move(read->picture);
+    photo.picture = std::move(*picture);
     return photo;
 }
 
