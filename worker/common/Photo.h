@@ -12,7 +12,7 @@ namespace imageworker {
 
 enum class Codec { Hevc, Av1, Avc, Jpeg };
 
-/// One picture as a decoder takes it.
+/// Coded bytes that a decoder turns into one picture, with what it must know beforehand.
 struct CodedPicture
 {
     Codec codec = Codec::Hevc;
@@ -33,11 +33,13 @@ struct CodePoints
 struct ColourDescription
 {
     std::optional<CodePoints> codePoints;
-    Bytes iccProfile;       ///< empty when there is none
-    bool isOpacity = false; ///< its samples are no light: of the code points only range and matrix count
+    Bytes iccProfile; ///< empty when there is none
+    bool isOpacity =
+        false; ///< its samples are opacity, not light: only range and matrix of the code points count
 };
 
-/// Equal tiles in rows; the canvas cuts what the last ones have too much. A single picture is a grid of one.
+/// Tiles of one size in rows. The canvas cuts off what the last ones have too much. A single picture is a
+/// grid of one tile.
 struct TileGrid
 {
     int columns = 1;
@@ -64,18 +66,21 @@ struct Overlay
     std::vector<Layer> layers;
 };
 
-/// What is needed to decode and show one picture.
+/// How to decode and show what a HEIF file holds as one picture. It holds no pixels: they are in a
+/// DecodedPicture or a Raster.
 struct Picture
 {
     std::variant<TileGrid, Overlay> content;
     Upright upright;
+    bool hasOrientation =
+        false; ///< "irot" or "imir" is part of upright, so Exif's orientation does not count
     ColourDescription colour;
-    std::shared_ptr<const Picture> alpha; ///< its opacity as a picture of its own; null when it is opaque
-    bool premultiplied = false;           ///< its colours have been multiplied by its opacity
+    std::shared_ptr<Picture> alpha; ///< its opacity as a picture of its own; null when it is opaque
+    bool premultiplied = false;     ///< its colours have been multiplied by its opacity
 };
 
-/// A file that is a JPEG or PNG whatever its name says.
-struct PlainFile
+/// A whole file that is a JPEG or PNG, whatever its name says.
+struct JpegOrPng
 {
     enum class Kind { Jpeg, Png };
     Kind kind = Kind::Jpeg;
@@ -83,13 +88,17 @@ struct PlainFile
     Upright upright;
 };
 
+/// What a file holds: its picture and its metadata.
 struct Photo
 {
-    std::variant<Picture, PlainFile> picture;
+    std::variant<Picture, JpegOrPng> picture;
     Bytes exif; ///< from its TIFF header on; empty when there is none
     Bytes xmp;  ///< a packet of text; empty when there is none
 
-    const Upright &upright() const;
+    const Upright &upright() const
+    {
+        return std::visit([](const auto &content) -> const Upright & { return content.upright; }, picture);
+    }
 };
 
 } // namespace imageworker

@@ -12,7 +12,7 @@ struct SampleFormat
 {
     int depth = 8;      ///< bits of a sample; above 8 each takes two bytes, in the machine's order
     int planeCount = 3; ///< 1: brightness alone; 3: brightness and two colour planes, or green, blue and red
-    int chromaShiftX = 0; ///< the colour planes' width is the picture's divided by 2 to this
+    int chromaShiftX = 0; ///< the colour planes' width is the picture's, shifted right by this
     int chromaShiftY = 0;
     bool isRgb = false;    ///< planes are green, blue and red
     CodePoints codePoints; ///< as the coded picture itself says

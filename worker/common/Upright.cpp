@@ -1,6 +1,7 @@
 #include "Upright.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace imageworker {
@@ -14,21 +15,19 @@ PixelSize Upright::size() const
 void Upright::rotateAnticlockwise(unsigned quarters)
 {
     for (unsigned quarter = 0; quarter < quarters % 4; ++quarter) {
-        // The new pixel (x, y) is the old one at (width - 1 - y, x): the axis that x used to read turns
-        // round.
-        bool &readByX = m_turn.transposed ? m_turn.mirroredY : m_turn.mirroredX;
-        readByX = !readByX;
+        // The new pixel (x, y) is the old one at (width - 1 - y, x).
+        flipHorizontally();
         m_turn.transposed = !m_turn.transposed;
     }
 }
 
-void Upright::exchangeTopAndBottom()
+void Upright::flipVertically()
 {
     bool &readByY = m_turn.transposed ? m_turn.mirroredX : m_turn.mirroredY;
     readByY = !readByY;
 }
 
-void Upright::exchangeLeftAndRight()
+void Upright::flipHorizontally()
 {
     bool &readByX = m_turn.transposed ? m_turn.mirroredY : m_turn.mirroredX;
     readByX = !readByX;
@@ -59,33 +58,25 @@ bool Upright::cropTo(std::int64_t left, std::int64_t top, std::int64_t width, st
 
 void Upright::applyExifOrientation(unsigned orientation)
 {
+    struct Step
+    {
+        unsigned quarters;
+        bool isFlipped;
+    };
     // Exif 2.32, 4.6.4: where the stored first row and first column belong.
-    switch (orientation) {
-    case 2:
-        exchangeLeftAndRight();
-        break;
-    case 3:
-        rotateAnticlockwise(2);
-        break;
-    case 4:
-        exchangeTopAndBottom();
-        break;
-    case 5:
-        rotateAnticlockwise(1);
-        exchangeTopAndBottom();
-        break;
-    case 6:
-        rotateAnticlockwise(3);
-        break;
-    case 7:
-        rotateAnticlockwise(3);
-        exchangeTopAndBottom();
-        break;
-    case 8:
-        rotateAnticlockwise(1);
-        break;
-    default:
-        break;
+    constexpr std::array<Step, 9> Steps = {{{0, false},
+                                            {0, false},
+                                            {2, true},
+                                            {2, false},
+                                            {0, true},
+                                            {1, true},
+                                            {3, false},
+                                            {3, true},
+                                            {1, false}}};
+    const Step step = orientation < Steps.size() ? Steps[orientation] : Step{};
+    rotateAnticlockwise(step.quarters);
+    if (step.isFlipped) {
+        flipVertically();
     }
 }
 

@@ -17,8 +17,8 @@ struct PixelRectangle
     bool operator==(const PixelRectangle &) const = default;
 };
 
-/// One of the eight ways to lay a picture: first perhaps columns become rows, then each axis of the original
-/// may be read backwards. For a pixel (x, y) of the result, (u, v) is (y, x) when transposed, else (x, y);
+/// One of the eight orientations of a picture: columns may become rows, then each axis of the original may be
+/// read backwards. For a pixel (x, y) of the result, (u, v) is (y, x) when transposed, else (x, y);
 /// the pixel of the original is u or width - 1 - u, v or height - 1 - v.
 struct Turn
 {
@@ -29,8 +29,8 @@ struct Turn
     bool operator==(const Turn &) const = default;
 };
 
-/// How a stored picture becomes the one to show: a part of it, turned. Cropping and turning can be added in
-/// any order.
+/// Crop and orientation that make a stored picture the upright one that is shown. Steps can be added in any
+/// order; each applies to what is shown so far.
 class Upright
 {
 public:
@@ -46,14 +46,16 @@ public:
 
     /// Adds @p quarters turns of 90 degrees anticlockwise (ISO/IEC 23008-12, 6.5.10).
     void rotateAnticlockwise(unsigned quarters);
-    void exchangeTopAndBottom();
-    void exchangeLeftAndRight();
+    /// Exchanges top and bottom.
+    void flipVertically();
+    /// Exchanges left and right.
+    void flipHorizontally();
     /// Adds a crop given in what is shown so far; false when nothing of it lies inside.
     bool cropTo(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height);
-    /// Adds what an Exif orientation of 1 to 8 asks for; other values ask for nothing.
+    /// Adds an Exif orientation of 1 to 8; other values change nothing.
     void applyExifOrientation(unsigned orientation);
 
-    /// Turns an uncropped picture as @p other turns one of another size.
+    /// Takes the orientation of @p other, not its crop.
     void turnLike(const Upright &other) { m_turn = other.m_turn; }
 
     /// Where the stored rectangle @p stored, which lies inside crop(), is shown.

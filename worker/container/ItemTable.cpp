@@ -73,8 +73,8 @@ bool readItemLocations(ByteReader reader, ItemTable &table)
         Item &item = table.items[identifier];
         item.construction = static_cast<Construction>(method);
         for (unsigned index = 0; index < extentCount && !reader.failed(); ++index) {
-            const std::uint64_t number =
-                reader.number(indexWidth); // counted from 1; not written for one alone
+            // Counted from 1; not written where there is only one.
+            const std::uint64_t number = reader.number(indexWidth);
             const std::uint64_t offset = reader.number(offsetWidth);
             const std::uint64_t length = reader.number(lengthWidth);
             if (offset > UINT64_MAX - base || number > MaximumItems) {

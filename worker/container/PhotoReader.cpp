@@ -3,8 +3,8 @@
 #include "Boxes.h"
 #include "Exif.h"
 #include "ItemData.h"
+#include "JpegOrPngReader.h"
 #include "PictureReader.h"
-#include "PlainFileReader.h"
 #include "TrackReader.h"
 
 #include <algorithm>
@@ -74,21 +74,19 @@ Result<void> readMetadata(const Source &source, const ItemTable &table, Photo &p
 
 Result<Photo> readPrimaryItem(const Source &source, const ItemTable &table)
 {
-    auto read = readPicture(source, table, table.primary);
+    auto picture = readPicture(source, table, table.primary);
     Photo photo;
-    if (!read || !readMetadata(source, table, photo)) {
+    if (!picture || !readMetadata(source, table, photo)) {
         return unreadable();
     }
-    if (!read->turnsItself) {
+    if (!picture->hasOrientation) {
         const unsigned orientation = exifOrientation(photo.exif);
-        read->picture.upright.applyExifOrientation(orientation);
-        if (read->picture.alpha != nullptr) {
-            auto alpha = std::make_shared<Picture>(*read->picture.alpha);
-            alpha->upright.applyExifOrientation(orientation);
-            read->picture.alpha = std::move(alpha);
+        picture->upright.applyExifOrientation(orientation);
+        if (picture->alpha != nullptr) {
+            picture->alpha->upright.applyExifOrientation(orientation);
         }
     }
-    photo.picture = std::move(read->picture);
+    photo.picture = std::move(*picture);
     return photo;
 }
 
@@ -96,8 +94,8 @@ Result<Photo> readPrimaryItem(const Source &source, const ItemTable &table)
 
 Result<Photo> readPhoto(const Source &source)
 {
-    if (const auto kind = plainFileKind(source)) {
-        return readPlainFile(source, *kind);
+    if (const auto kind = jpegOrPngKind(source)) {
+        return readJpegOrPng(source, *kind);
     }
     const auto boxes = readTopLevelBoxes(source);
     if (!boxes) {

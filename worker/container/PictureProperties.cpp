@@ -8,6 +8,18 @@
 
 namespace imageworker {
 
+Picture pictureOf(CodedPicture coded, PixelSize size)
+{
+    TileGrid grid;
+    grid.tile = size;
+    grid.canvas = size;
+    grid.tiles.push_back(std::move(coded));
+    Picture picture;
+    picture.upright = Upright(size);
+    picture.content = std::move(grid);
+    return picture;
+}
+
 Result<PixelSize> spatialExtent(const ItemTable &table, const Item &item)
 {
     const ItemProperty *property = table.property(item, fourCharacters("ispe"));
@@ -83,9 +95,8 @@ Result<void> applyCleanAperture(ByteReader reader, Upright &upright)
     return {};
 }
 
-Result<bool> applyTransformations(const ItemTable &table, const Item &item, Upright &upright)
+Result<void> applyTransformations(const ItemTable &table, const Item &item, Picture &picture)
 {
-    bool turns = false;
     for (const std::uint32_t index : item.properties) {
         if (index >= table.properties.size()) {
             continue;
@@ -93,19 +104,19 @@ Result<bool> applyTransformations(const ItemTable &table, const Item &item, Upri
         ByteReader reader(table.properties[index].payload);
         switch (table.properties[index].type) {
         case fourCharacters("irot"):
-            upright.rotateAnticlockwise(reader.u8() & 3);
-            turns = true;
+            picture.upright.rotateAnticlockwise(reader.u8() & 3);
+            picture.hasOrientation = true;
             break;
         case fourCharacters("imir"):
             if ((reader.u8() & 1) == 0) {
-                upright.exchangeTopAndBottom();
+                picture.upright.flipVertically();
             } else {
-                upright.exchangeLeftAndRight();
+                picture.upright.flipHorizontally();
             }
-            turns = true;
+            picture.hasOrientation = true;
             break;
         case fourCharacters("clap"):
-            if (!applyCleanAperture(reader, upright)) {
+            if (!applyCleanAperture(reader, picture.upright)) {
                 return unreadable();
             }
             break;
@@ -113,7 +124,7 @@ Result<bool> applyTransformations(const ItemTable &table, const Item &item, Upri
             break;
         }
     }
-    return turns;
+    return {};
 }
 
 bool isTransformed(const ItemTable &table, const Item &item)

@@ -6,6 +6,9 @@
 
 namespace imageworker {
 
+/// A picture of @p size that is one coded picture.
+Picture pictureOf(CodedPicture coded, PixelSize size);
+
 /// "ispe", ISO/IEC 23008-12, 6.5.3; Unreadable when it is missing or asks for more than is accepted.
 Result<PixelSize> spatialExtent(const ItemTable &table, const Item &item);
 
@@ -16,10 +19,9 @@ ColourDescription colourOf(const ItemTable &table, const Item &item);
 /// (ISO/IEC 14496-12, 12.1.4). Unreadable when it leaves nothing.
 Result<void> applyCleanAperture(ByteReader reader, Upright &upright);
 
-/// "irot", "imir" and "clap" in the order of the item's properties, ISO/IEC 23008-12, 6.5.10, 6.5.12 and
-/// ISO/IEC 14496-12, 12.1.4. Gives whether there was an "irot" or "imir"; Unreadable when a crop leaves
-/// nothing.
-Result<bool> applyTransformations(const ItemTable &table, const Item &item, Upright &upright);
+/// Turns and crops @p picture by "irot", "imir" and "clap" in the order of the item's properties, ISO/IEC
+/// 23008-12, 6.5.10, 6.5.12 and ISO/IEC 14496-12, 12.1.4. Unreadable when a crop leaves nothing.
+Result<void> applyTransformations(const ItemTable &table, const Item &item, Picture &picture);
 
 /// Whether the item has any of these.
 bool isTransformed(const ItemTable &table, const Item &item);

@@ -41,10 +41,10 @@ public:
         , m_table(table)
     {}
 
-    Result<ReadPicture> read(std::uint32_t identifier, int depth);
+    Result<Picture> read(std::uint32_t identifier, int depth);
 
 private:
-    Result<void> readContent(const Item &item, int depth, ReadPicture &result);
+    Result<void> readContent(const Item &item, int depth, Picture &picture);
     Result<CodedPicture> readCoded(const Item &item) const;
     Result<void> readSingle(const Item &item, Picture &picture) const;
     Result<void> readGrid(const Item &item, int depth, Picture &picture);
@@ -52,7 +52,7 @@ private:
     Result<void> readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, Picture &picture) const;
     Result<void> layTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, int depth,
                           Picture &picture);
-    Result<void> readIdentity(const Item &item, int depth, ReadPicture &result);
+    Result<void> readIdentity(const Item &item, int depth, Picture &picture);
     Result<void> readOverlay(const Item &item, int depth, Picture &picture);
     Result<void> readAlpha(std::uint32_t identifier, int depth, Picture &picture);
     Result<Bytes> readDerivation(const Item &item) const;
@@ -62,15 +62,14 @@ private:
     std::size_t m_pictures = 0; ///< read so far, however deep
 };
 
-Result<ReadPicture> PictureReader::read(std::uint32_t identifier, int depth)
+Result<Picture> PictureReader::read(std::uint32_t identifier, int depth)
 {
     const Item *item = m_table.find(identifier);
     if (item == nullptr || depth > MaximumDepth || ++m_pictures > MaximumPictures) {
         return unreadable();
     }
-    ReadPicture result;
-    Picture &picture = result.picture;
-    if (!readContent(*item, depth, result)) {
+    Picture picture;
+    if (!readContent(*item, depth, picture)) {
         return unreadable();
     }
     // A tone map describes what it would make of its base, which is shown as it is.
@@ -82,32 +81,26 @@ Result<ReadPicture> PictureReader::read(std::uint32_t identifier, int depth)
     if (!colour.iccProfile.empty()) {
         picture.colour.iccProfile = std::move(colour.iccProfile);
     }
-    const auto turned = applyTransformations(m_table, *item, picture.upright);
-    if (!turned) {
+    if (!applyTransformations(m_table, *item, picture)) {
         return unreadable();
     }
-    if (picture.alpha != nullptr) { // of the picture that an identity shows again: it turns along
-        auto alpha = std::make_shared<Picture>(*picture.alpha);
-        if (!applyTransformations(m_table, *item, alpha->upright)) {
-            return unreadable();
-        }
-        picture.alpha = std::move(alpha);
+    // The opacity of a picture that an identity shows again turns along.
+    if (picture.alpha != nullptr && !applyTransformations(m_table, *item, *picture.alpha)) {
+        return unreadable();
     }
     if (!readAlpha(identifier, depth, picture)) {
         return unreadable();
     }
-    result.turnsItself = result.turnsItself || *turned;
-    return result;
+    return picture;
 }
 
-Result<void> PictureReader::readContent(const Item &item, int depth, ReadPicture &result)
+Result<void> PictureReader::readContent(const Item &item, int depth, Picture &picture)
 {
-    Picture &picture = result.picture;
     switch (item.type) {
     case fourCharacters("grid"):
         return readGrid(item, depth, picture);
     case fourCharacters("iden"):
-        return readIdentity(item, depth, result);
+        return readIdentity(item, depth, picture);
     case fourCharacters("iovl"):
         return readOverlay(item, depth, picture);
     case fourCharacters("tmap"): { // the first input is the picture, the second its gain map
@@ -116,7 +109,7 @@ Result<void> PictureReader::readContent(const Item &item, int depth, ReadPicture
         if (base == nullptr || base->type == item.type) {
             return unreadable();
         }
-        return readIdentity(item, depth, result);
+        return readIdentity(item, depth, picture);
     }
     default:
         return readSingle(item, picture);
@@ -145,12 +138,8 @@ Result<void> PictureReader::readSingle(const Item &item, Picture &picture) const
     if (!coded) {
         return unreadable();
     }
-    TileGrid grid;
-    grid.tile = sizeOfSingle(*coded, *extent);
-    grid.canvas = grid.tile;
-    grid.tiles.push_back(std::move(*coded));
-    picture.upright = Upright(grid.canvas);
-    picture.content = std::move(grid);
+    const PixelSize size = sizeOfSingle(*coded, *extent);
+    picture = pictureOf(std::move(*coded), size);
     return {};
 }
 
@@ -236,14 +225,14 @@ Result<void> PictureReader::layTiles(const std::vector<std::uint32_t> &inputs, T
         if (!tile) {
             return unreadable();
         }
-        const PixelSize size = tile->picture.upright.size();
+        const PixelSize size = tile->upright.size();
         const int index = static_cast<int>(overlay.layers.size());
         grid.tile = index == 0 ? size : grid.tile;
         if (size != grid.tile) {
             return unreadable();
         }
         overlay.layers.push_back({index % grid.columns * size.width, index / grid.columns * size.height,
-                                  std::make_shared<Picture>(std::move(tile->picture))});
+                                  std::make_shared<Picture>(std::move(*tile))});
     }
     if (!isCovered(grid)) {
         return unreadable();
@@ -253,14 +242,14 @@ Result<void> PictureReader::layTiles(const std::vector<std::uint32_t> &inputs, T
 }
 
 /// Identity derivation, ISO/IEC 23008-12, 6.6.2.1: the input as it is shown, ready to be turned once more.
-Result<void> PictureReader::readIdentity(const Item &item, int depth, ReadPicture &result)
+Result<void> PictureReader::readIdentity(const Item &item, int depth, Picture &picture)
 {
     const auto inputs = referencesOf(item, fourCharacters("dimg"));
     auto input = inputs.empty() ? unreadable() : read(inputs.front(), depth + 1);
     if (!input) {
         return unreadable();
     }
-    result = std::move(*input);
+    picture = std::move(*input);
     return {};
 }
 
@@ -297,7 +286,7 @@ Result<void> PictureReader::readOverlay(const Item &item, int depth, Picture &pi
         if (!read) {
             return unreadable();
         }
-        layer.picture = std::make_shared<Picture>(std::move(read->picture));
+        layer.picture = std::make_shared<Picture>(std::move(*read));
         overlay.layers.push_back(std::move(layer));
     }
     picture.upright = Upright(overlay.canvas);
@@ -314,13 +303,12 @@ Result<void> PictureReader::readAlpha(std::uint32_t identifier, int depth, Pictu
             continue;
         }
         auto alpha = read(auxiliary, depth + 1);
-        if (!alpha || alpha->picture.alpha != nullptr ||
-            !std::holds_alternative<TileGrid>(alpha->picture.content)) {
+        if (!alpha || alpha->alpha != nullptr || !std::holds_alternative<TileGrid>(alpha->content)) {
             return unreadable();
         }
-        alpha->picture.colour.iccProfile.clear();
-        alpha->picture.colour.isOpacity = true;
-        picture.alpha = std::make_shared<Picture>(std::move(alpha->picture));
+        alpha->colour.iccProfile.clear();
+        alpha->colour.isOpacity = true;
+        picture.alpha = std::make_shared<Picture>(std::move(*alpha));
         const Item *master = m_table.find(identifier);
         const auto premultipliedBy = referencesOf(*master, fourCharacters("prem"));
         picture.premultiplied = std::ranges::find(premultipliedBy, auxiliary) != premultipliedBy.end();
@@ -331,14 +319,9 @@ Result<void> PictureReader::readAlpha(std::uint32_t identifier, int depth, Pictu
 
 } // namespace
 
-Result<ReadPicture> readPicture(const Source &source, const ItemTable &table, std::uint32_t identifier)
+Result<Picture> readPicture(const Source &source, const ItemTable &table, std::uint32_t identifier)
 {
     return PictureReader(source, table).read(identifier, 0);
-}
-
-const Upright &Photo::upright() const
-{
-    return std::visit([](const auto &content) -> const Upright & { return content.upright; }, picture);
 }
 
 } // namespace imageworker

@@ -135,19 +135,13 @@ Result<Picture> pictureOf(const Track &track)
         return unreadable();
     }
     coded.data = {track.sample};
-    TileGrid grid;
-    grid.tile = track.size;
-    grid.canvas = track.size;
-    grid.tiles.push_back(std::move(coded));
-    Picture picture;
-    picture.upright = Upright(track.size);
+    Picture picture = pictureOf(std::move(coded), track.size);
     if (!track.cleanAperture.empty() &&
         !applyCleanAperture(ByteReader(track.cleanAperture), picture.upright)) {
         return unreadable();
     }
     picture.upright.rotateAnticlockwise(track.quarterTurns);
     picture.colour = track.colour;
-    picture.content = std::move(grid);
     return picture;
 }
 

@@ -1,6 +1,6 @@
 #include "JpegDecoder.h"
 
-#include "FileMarks.h"
+#include "MagicBytes.h"
 #include "SrgbStage.h"
 
 #include <algorithm>

@@ -122,7 +122,7 @@ Result<std::unique_ptr<RowSource>> openPicture(const Source &source, const Pictu
 
 /// The stored picture in sRGB, made smaller while it is decoded where @p smallestSide (in pixels, of the
 /// longer side) allows; 0 asks for the full size.
-Result<Raster> decodePlainFile(const Source &source, const PlainFile &file, int smallestSide)
+Result<Raster> decodeJpegOrPng(const Source &source, const JpegOrPng &file, int smallestSide)
 {
     const auto bytes = source.read(0, source.size());
     if (!bytes) {
@@ -134,12 +134,13 @@ Result<Raster> decodePlainFile(const Source &source, const PlainFile &file, int 
            longest / (2 * reduction) >= static_cast<unsigned>(smallestSide)) {
         reduction *= 2;
     }
-    return file.kind == PlainFile::Kind::Png ? decodePng(*bytes, reduction) : decodeJpeg(*bytes, reduction);
+    return file.kind == JpegOrPng::Kind::Png ? decodePng(*bytes, reduction) : decodeJpeg(*bytes, reduction);
 }
 
-Result<std::unique_ptr<RowSource>> openPlain(const Source &source, const PlainFile &file, int smallestSide)
+Result<std::unique_ptr<RowSource>> openJpegOrPng(const Source &source, const JpegOrPng &file,
+                                                 int smallestSide)
 {
-    auto raster = decodePlainFile(source, file, smallestSide);
+    auto raster = decodeJpegOrPng(source, file, smallestSide);
     if (!raster) {
         return unreadable();
     }
@@ -152,8 +153,8 @@ Result<std::unique_ptr<RowSource>> openPlain(const Source &source, const PlainFi
 
 Result<std::unique_ptr<RowSource>> openRows(const Source &source, const Photo &photo, int workers)
 {
-    if (const auto *file = std::get_if<PlainFile>(&photo.picture)) {
-        return openPlain(source, *file, 0);
+    if (const auto *file = std::get_if<JpegOrPng>(&photo.picture)) {
+        return openJpegOrPng(source, *file, 0);
     }
     return openPicture(source, std::get<Picture>(photo.picture), workers);
 }
@@ -161,8 +162,8 @@ Result<std::unique_ptr<RowSource>> openRows(const Source &source, const Photo &p
 Result<std::unique_ptr<RowSource>> openReducedRows(const Source &source, const Photo &photo, int workers,
                                                    int smallestSide)
 {
-    if (const auto *file = std::get_if<PlainFile>(&photo.picture)) {
-        return openPlain(source, *file, smallestSide);
+    if (const auto *file = std::get_if<JpegOrPng>(&photo.picture)) {
+        return openJpegOrPng(source, *file, smallestSide);
     }
     const auto &picture = std::get<Picture>(photo.picture);
     const auto *grid = std::get_if<TileGrid>(&picture.content);

@@ -9,7 +9,7 @@
 namespace imageworker {
 
 /// The rows of @p photo, upright and in sRGB, to be read with @p workers threads. Its opacity, and pictures
-/// that cannot be decoded in strips (overlays, plain files), are decoded here already. All arguments must
+/// that cannot be decoded in strips (overlays, a JPEG or PNG), are decoded here already. All arguments must
 /// outlive the result.
 Result<std::unique_ptr<RowSource>> openRows(const Source &source, const Photo &photo, int workers);
 

@@ -1,7 +1,7 @@
 #include "PngDecoder.h"
 
 #include "ByteReader.h"
-#include "FileMarks.h"
+#include "MagicBytes.h"
 #include "PngScanlines.h"
 #include "SrgbStage.h"
 

@@ -2,8 +2,8 @@
 
 #include "ColourSpace.h"
 #include "Exif.h"
-#include "FileMarks.h"
 #include "JpegChunkEncoder.h"
+#include "MagicBytes.h"
 #include "OrderedPieces.h"
 #include "Spares.h"
 #include "Xmp.h"

@@ -1,6 +1,6 @@
 #include "PngEncoder.h"
 
-#include "FileMarks.h"
+#include "MagicBytes.h"
 #include "OrderedPieces.h"
 #include "PngFilter.h"
 #include "Spares.h"

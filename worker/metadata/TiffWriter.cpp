@@ -124,8 +124,8 @@ Bytes write(const TiffFields &source, const std::vector<Directory> &directories)
             if (isApart) {
                 tiff.setNumber(entry + 8, 4, static_cast<std::uint32_t>(outlying));
             }
-            if (!isLink(
-                    field.tag)) { // a link's value is written below, whatever the source said of its length
+            // A link's value is written below, whatever the source said of its length.
+            if (!isLink(field.tag)) {
                 const auto value = source.bytes().subspan(field.valuePosition, field.valueLength);
                 std::ranges::copy(value, output.begin() +
                                              static_cast<std::ptrdiff_t>(isApart ? outlying : entry + 8));

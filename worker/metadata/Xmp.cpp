@@ -1,6 +1,6 @@
 #include "Xmp.h"
 
-#include "FileMarks.h"
+#include "MagicBytes.h"
 
 extern "C" {
 #include <libavutil/md5.h>

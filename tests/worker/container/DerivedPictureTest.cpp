@@ -1,5 +1,4 @@
 #include "ConvertedPhoto.h"
-#include "MadeGrid.h"
 #include "MadePhoto.h"
 
 #include <cstring>
@@ -9,16 +8,19 @@ namespace imageworker {
 
 namespace {
 
-using Properties = HeifFile::Properties;
-using Place = HeifFile::Place;
+unsigned addIdentity(HeifFile &file, unsigned input, const HeifFile::Properties &properties)
+{
+    const unsigned identity = file.add("iden", {}, properties);
+    file.refer(identity, "dimg", {input});
+    return identity;
+}
 
 TEST(DerivedPictures, ShouldBeTurnedOnceMoreAsIdentities)
 {
     HeifFile file;
     const unsigned grid = addGrid(file, {150, 100}, {rotation(1)});
     const unsigned identity =
-        file.add("iden", {}, {spatialExtents(100, 150), mirror(1), crop({60, 90}, 10, 20)});
-    file.refer(identity, "dimg", {grid});
+        addIdentity(file, grid, {spatialExtents(100, 150), mirror(1), crop({60, 90}, 10, 20)});
     expectLikeIndependentDecoder(file.bytes(identity));
 }
 
@@ -27,98 +29,73 @@ TEST(DerivedPictures, ShouldBePutInTheirPlacesAsTilesOfAGrid)
     const CodedItem coded = codedItemOf(makePhoto({.size = TileSize}));
     for (const bool isDerived : {true, false}) { // the other is coded, but shown turned all the same
         HeifFile file;
-        const unsigned plain = file.add("hvc1", coded.data, coded.properties);
-        unsigned turned = 0;
-        if (isDerived) {
-            turned = file.add("iden", {}, {spatialExtents(64, 64), rotation(1)});
-            file.refer(turned, "dimg", {plain});
-        } else {
-            turned = file.add("hvc1", coded.data, with(coded.properties, {rotation(1)}));
-        }
-        const unsigned grid =
-            file.add("grid", gridOf(2, 2, {120, 100}), {spatialExtents(120, 100)}, Place::ItemData);
-        file.refer(grid, "dimg", {turned, plain, plain, turned});
-        const auto copy = shown(file.bytes(grid));
+        const unsigned plain = file.add(coded);
+        const unsigned turned = isDerived ? addIdentity(file, plain, {spatialExtents(64, 64), rotation(1)})
+                                          : file.add(coded, {rotation(1)});
         const auto tile = shown(file.bytes(plain));
         const auto turnedTile = shown(file.bytes(turned));
-        ASSERT_TRUE(copy && tile && turnedTile);
+        ASSERT_TRUE(tile && turnedTile);
         Raster expected({120, 100});
         lay(*turnedTile, 0, 0, expected);
         lay(*tile, 64, 0, expected);
         lay(*tile, 0, 64, expected);
         lay(*turnedTile, 64, 64, expected);
-        EXPECT_EQ(largestDifference(*copy, expected), 0);
-        const unsigned tooWide = file.add("grid", gridOf(2, 2, {129, 100}), {spatialExtents(129, 100)});
-        file.refer(tooWide, "dimg", {turned, plain, plain, turned});
-        EXPECT_FALSE(shown(file.bytes(tooWide)));
+        const std::vector<unsigned> tiles = {turned, plain, plain, turned};
+        expectShown(file.bytes(file.addGrid(2, 2, expected.size, tiles)), expected, 0);
+        EXPECT_FALSE(shown(file.bytes(file.addGrid(2, 2, {129, 100}, tiles)))) << "wider than its tiles";
     }
 }
 
 TEST(DerivedPictures, ShouldBeJoinedWhereTwoTilesWouldShareAColourSample)
 {
     constexpr PixelSize OddTile{61, 63};
-    const Properties cut = {spatialExtents(OddTile.width, OddTile.height)};
+    constexpr PixelSize Canvas{3 * OddTile.width, OddTile.height};
     HeifFile file;
     std::vector<unsigned> tiles;
-    Raster joined({3 * OddTile.width, OddTile.height});
+    Raster joined(Canvas);
     for (int index = 0; index < 3; ++index) {
-        CodedItem coded = codedItemOf(
-            makePhoto({.size = TileSize}, partOf(cornerColours({192, 64}, false), 64 * index, 0, TileSize)));
-        std::erase_if(coded.properties,
-                      [](const HeifFile::Property &property) { return property.type == "ispe"; });
-        tiles.push_back(file.add("hvc1", coded.data, with(coded.properties, cut)));
+        CodedItem coded =
+            codedItemOf(makePhoto({}, partOf(cornerColours({192, 64}, false), 64 * index, 0, TileSize)));
+        std::erase_if(coded.properties, [](const auto &property) { return property.type == "ispe"; });
+        tiles.push_back(file.add(coded, {spatialExtents(OddTile.width, OddTile.height)}));
         const auto tile = shown(file.bytes(tiles.back()));
         ASSERT_TRUE(tile);
         lay(*tile, index * OddTile.width, 0, joined);
     }
     // A quarter turn, and a crop that begins and ends inside of colour samples.
-    const PixelSize canvas = joined.size;
-    const unsigned grid =
-        file.add("grid", gridOf(1, 3, canvas),
-                 {spatialExtents(static_cast<unsigned>(canvas.width), static_cast<unsigned>(canvas.height)),
-                  crop({canvas.width - 2, canvas.height}, 0, 0), rotation(1)},
-                 Place::ItemData);
-    file.refer(grid, "dimg", tiles);
-    const auto copy = shown(file.bytes(grid));
-    ASSERT_TRUE(copy);
-    ASSERT_EQ(copy->size, (PixelSize{canvas.height, canvas.width - 2}));
-    for (int y = 0; y < copy->size.height; ++y) {
-        for (int x = 0; x < copy->size.width; ++x) {
-            const std::uint8_t *original = joined.row(x) + std::ptrdiff_t{4} * (canvas.width - 2 - y);
-            ASSERT_EQ(std::memcmp(copy->row(y) + std::ptrdiff_t{4} * x, original, 4), 0) << x << ", " << y;
+    const auto cropped = crop({Canvas.width - 2, Canvas.height}, 0, 0);
+    Raster expected({Canvas.height, Canvas.width - 2});
+    for (int y = 0; y < expected.size.height; ++y) {
+        for (int x = 0; x < expected.size.width; ++x) {
+            std::memcpy(expected.row(y) + 4L * x, joined.row(x) + 4L * (Canvas.width - 2 - y), 4);
         }
     }
+    expectShown(file.bytes(file.addGrid(1, 3, Canvas, tiles, {cropped, rotation(1)})), expected, 0);
 }
 
 TEST(DerivedPictures, ShouldBeLaidOverOneAnotherInAnOverlay)
 {
-    const std::vector<Bytes> layers = {makePhoto({}), makePhoto({.size = {128, 64}, .orientation = 6})};
+    const Bytes below = makePhoto({});
+    const Bytes above = makePhoto({.size = {128, 64}, .orientation = 6});
     HeifFile file;
-    std::vector<unsigned> items;
-    for (const Bytes &layer : layers) {
-        const CodedItem coded = codedItemOf(layer);
-        items.push_back(file.add("hvc1", coded.data, coded.properties));
-    }
-    constexpr PixelSize CanvasSize{120, 90};
-    const auto number = [](int value) { return bigEndian(static_cast<std::uint16_t>(value), 2); };
+    const std::vector<unsigned> layers = {file.add(codedItemOf(below)), file.add(codedItemOf(above))};
+    Raster expected({120, 90});
     const Bytes description =
-        joined({Bytes(2), number(0xFFFF), number(0x8080), number(0), number(0xFFFF), number(CanvasSize.width),
-                number(CanvasSize.height), number(-10), number(20), number(60), number(-5)});
-    const unsigned overlay = file.add("iovl", description, {spatialExtents(120, 90)}, Place::ItemData);
-    file.refer(overlay, "dimg", items);
+        joined({Bytes(2), numbers(2, {0xFFFF, 0x8080, 0, 0xFFFF, 120, 90, -10, 20, 60, -5})});
+    const unsigned overlay =
+        file.add("iovl", description, {spatialExtents(120, 90)}, HeifFile::Place::ItemData);
+    file.refer(overlay, "dimg", layers);
 
-    const auto copy = shown(file.bytes(overlay));
-    const auto below = decodeIndependently(layers[0]);
-    const auto above = decodeIndependently(layers[1]);
-    ASSERT_TRUE(copy && below && above);
-    Raster expected(CanvasSize);
-    for (std::size_t pixel = 0; pixel < expected.rgba.size(); pixel += 4) {
-        constexpr std::array<std::uint8_t, 4> Orange = {255, 128, 0, 255};
-        std::ranges::copy(Orange, expected.rgba.begin() + static_cast<std::ptrdiff_t>(pixel));
+    constexpr std::array<std::uint8_t, 4> Orange = {255, 128, 0, 255};
+    for (std::size_t index = 0; index < expected.rgba.size(); ++index) {
+        expected.rgba[index] = Orange[index % 4];
     }
-    lay(*below, -10, 20, expected);
-    lay(*above, 60, -5, expected);
-    EXPECT_LE(largestDifference(*copy, expected), Rounding);
+    const auto first = decodeIndependently(below);
+    const auto second = decodeIndependently(above);
+    ASSERT_TRUE(first && second);
+    lay(*first, -10, 20, expected);
+    lay(*second, 60, -5, expected);
+    expectShown(file.bytes(overlay), expected);
 }
 
 } // namespace

@@ -97,11 +97,11 @@ TEST(Upright, ShouldAddStepsInAnyOrder)
                 expected = expected.rotatedAnticlockwise();
                 break;
             case 1:
-                upright.exchangeLeftAndRight();
+                upright.flipHorizontally();
                 expected = expected.leftAndRightExchanged();
                 break;
             case 2:
-                upright.exchangeTopAndBottom();
+                upright.flipVertically();
                 expected = expected.topAndBottomExchanged();
                 break;
             default:

@@ -32,16 +32,14 @@ std::optional<Raster> shown(const Bytes &photo);
 /// Its preview of at most @p side pixels; nothing when it is refused.
 std::optional<Raster> thumbnailOf(const Bytes &photo, int side);
 
-/// @p size pixels of @p whole.
-Raster partOf(const Raster &whole, int left, int top, PixelSize size);
-/// Lays @p picture on @p canvas; what lies outside is left out.
-void lay(const Raster &picture, int left, int top, Raster &canvas);
-
-/// A test's check that the copy of @p photo shows what the independent decoder shows.
-void expectLikeIndependentDecoder(const Bytes &photo);
-
-/// How far both may differ: the independent decoder rounds to integers in between.
+/// How far a copy may differ from what the independent decoder shows, which rounds to integers in between.
 constexpr int Rounding = 2;
+
+/// Expects the copy of @p photo to show @p expected.
+void expectShown(const Bytes &photo, const std::optional<Raster> &expected, int tolerance = Rounding);
+
+/// Expects it to show what the independent decoder does.
+void expectLikeIndependentDecoder(const Bytes &photo);
 
 /// Largest difference of two values at the same place; that of black and white for pictures of other sizes.
 int largestDifference(const Raster &a, const Raster &b);

@@ -32,52 +32,27 @@ Profile displayP3()
 
 Profile tableProfile()
 {
-    const Profile space = displayP3();
     const Profile lab(cmsCreateLab4Profile(nullptr));
-    cmsHTRANSFORM toLab = cmsCreateTransform(space.get(), TYPE_RGB_16, lab.get(), TYPE_Lab_16,
-                                             INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOOPTIMIZE);
-    constexpr cmsUInt32Number steps = 33;
-    cmsStage *table = cmsStageAllocCLut16bit(nullptr, steps, 3, 3, nullptr);
-    cmsStageSampleCLut16bit(
-        table,
-        [](const cmsUInt16Number *from, cmsUInt16Number *to, void *transform) {
-            cmsDoTransform(transform, from, to, 1);
-            return 1;
-        },
-        toLab, 0);
-    cmsPipeline *pipeline = cmsPipelineAlloc(nullptr, 3, 3);
-    cmsPipelineInsertStage(pipeline, cmsAT_BEGIN, table);
-    // A saved table stands between curves.
-    cmsPipelineInsertStage(pipeline, cmsAT_BEGIN, cmsStageAllocToneCurves(nullptr, 3, nullptr));
-    cmsPipelineInsertStage(pipeline, cmsAT_END, cmsStageAllocToneCurves(nullptr, 3, nullptr));
-    Profile profile(cmsCreateProfilePlaceholder(nullptr));
-    cmsSetProfileVersion(profile.get(), 4.3);
-    cmsSetDeviceClass(profile.get(), cmsSigInputClass);
-    cmsSetColorSpace(profile.get(), cmsSigRgbData);
-    cmsSetPCS(profile.get(), cmsSigLabData);
-    cmsWriteTag(profile.get(), cmsSigMediaWhitePointTag, cmsD50_XYZ());
-    cmsWriteTag(profile.get(), cmsSigAToB0Tag, pipeline);
-    cmsPipelineFree(pipeline);
+    cmsHTRANSFORM toLab = cmsCreateTransform(displayP3().get(), TYPE_RGB_16, lab.get(), TYPE_Lab_16,
+                                             INTENT_RELATIVE_COLORIMETRIC, 0);
+    Profile profile(cmsTransform2DeviceLink(toLab, 4.3, cmsFLAGS_FORCE_CLUT));
     cmsDeleteTransform(toLab);
+    cmsSetDeviceClass(profile.get(), cmsSigInputClass);
+    cmsWriteTag(profile.get(), cmsSigMediaWhitePointTag, cmsD50_XYZ());
     return profile;
 }
 
 ExactSrgb::ExactSrgb(const Bytes &profile)
-{
-    const Profile srgb(cmsCreate_sRGBProfile());
-    m_transform = cmsCreateTransform(openProfile(profile).get(), TYPE_RGB_DBL, srgb.get(), TYPE_RGB_DBL,
-                                     INTENT_PERCEPTUAL, cmsFLAGS_NOOPTIMIZE);
-}
-
-ExactSrgb::~ExactSrgb()
-{
-    cmsDeleteTransform(m_transform);
-}
+    : m_transform(cmsCreateTransform(openProfile(profile).get(), TYPE_RGB_DBL,
+                                     Profile(cmsCreate_sRGBProfile()).get(), TYPE_RGB_DBL, INTENT_PERCEPTUAL,
+                                     cmsFLAGS_NOOPTIMIZE),
+                  &cmsDeleteTransform)
+{}
 
 Pixel ExactSrgb::of(const Pixel &pixel) const
 {
     Pixel shown = {};
-    cmsDoTransform(m_transform, pixel.data(), shown.data(), 1);
+    cmsDoTransform(m_transform.get(), pixel.data(), shown.data(), 1);
     for (double &value : shown) {
         value = std::clamp(value, 0.0, 1.0);
     }

@@ -22,15 +22,12 @@ class ExactSrgb
 {
 public:
     explicit ExactSrgb(const Bytes &profile);
-    ~ExactSrgb();
-    ExactSrgb(const ExactSrgb &) = delete;
-    ExactSrgb &operator=(const ExactSrgb &) = delete;
 
     /// Within 0 to 1.
     Pixel of(const Pixel &pixel) const;
 
 private:
-    cmsHTRANSFORM m_transform;
+    std::unique_ptr<void, decltype(&cmsDeleteTransform)> m_transform;
 };
 
 /// Exact arithmetic of H.273, 8.3 for one pixel.

@@ -7,35 +7,22 @@ namespace imageworker {
 
 namespace {
 
-Bytes bytesOf(std::string_view text)
-{
-    return {text.begin(), text.end()};
-}
-
-std::size_t numberAt(const Bytes &bytes, std::size_t position)
-{
-    std::size_t number = 0;
-    for (std::size_t index = 0; index < 4; ++index) {
-        number = number << 8 | bytes.at(position + index);
-    }
-    return number;
-}
-
-/// Where the payload of the first box of this type starts and ends, wherever it is.
-std::pair<std::size_t, std::size_t> payloadOf(const Bytes &file, std::string_view type)
+/// The payload of the first box of this type, wherever it is.
+Bytes payloadOf(const Bytes &file, std::string_view type)
 {
     const auto found = std::search(file.begin(), file.end(), type.begin(), type.end());
     if (found == file.end()) {
         throw std::runtime_error("no such box: " + std::string(type));
     }
     const auto position = static_cast<std::size_t>(found - file.begin());
-    return {position + 4, position - 4 + numberAt(file, position - 4)};
+    return part(file, position + 4, position - 4 + numberAt(file, position - 4));
 }
 
-Bytes part(const Bytes &bytes, std::size_t first, std::size_t last)
+void append(Bytes &bytes, const std::vector<Bytes> &parts)
 {
-    return {bytes.begin() + static_cast<std::ptrdiff_t>(first),
-            bytes.begin() + static_cast<std::ptrdiff_t>(last)};
+    for (const Bytes &part : parts) {
+        bytes.insert(bytes.end(), part.begin(), part.end());
+    }
 }
 
 } // namespace
@@ -49,13 +36,40 @@ Bytes bigEndian(std::uint64_t value, unsigned width)
     return bytes;
 }
 
+Bytes numbers(unsigned width, const std::vector<std::int64_t> &values)
+{
+    Bytes bytes;
+    for (const std::int64_t value : values) {
+        append(bytes, {bigEndian(static_cast<std::uint64_t>(value), width)});
+    }
+    return bytes;
+}
+
+Bytes bytesOf(std::string_view text)
+{
+    return {text.begin(), text.end()};
+}
+
 Bytes joined(const std::vector<Bytes> &parts)
 {
     Bytes bytes;
-    for (const Bytes &part : parts) {
-        bytes.insert(bytes.end(), part.begin(), part.end());
-    }
+    append(bytes, parts);
     return bytes;
+}
+
+Bytes part(const Bytes &bytes, std::size_t first, std::size_t last)
+{
+    return {bytes.begin() + static_cast<std::ptrdiff_t>(first),
+            bytes.begin() + static_cast<std::ptrdiff_t>(last)};
+}
+
+std::size_t numberAt(const Bytes &bytes, std::size_t position)
+{
+    std::size_t number = 0;
+    for (std::size_t index = 0; index < 4; ++index) {
+        number = number << 8 | bytes.at(position + index);
+    }
+    return number;
 }
 
 Bytes box(std::string_view type, const Bytes &payload)
@@ -66,12 +80,12 @@ Bytes box(std::string_view type, const Bytes &payload)
 
 Bytes fullBox(std::string_view type, unsigned version, const Bytes &payload)
 {
-    return box(type, joined({bigEndian(version, 1), bigEndian(0, 3), payload}));
+    return box(type, joined({bigEndian(version, 1), Bytes(3), payload}));
 }
 
-HeifFile::Property spatialExtents(unsigned width, unsigned height)
+HeifFile::Property spatialExtents(int width, int height)
 {
-    return {"ispe", joined({bigEndian(0, 4), bigEndian(width, 4), bigEndian(height, 4)})};
+    return {"ispe", numbers(4, {0, width, height})};
 }
 
 HeifFile::Property opacityRole()
@@ -81,64 +95,99 @@ HeifFile::Property opacityRole()
 
 HeifFile::Property codePoints(unsigned primaries, unsigned transfer, unsigned matrix, bool fullRange)
 {
-    return {"colr", joined({bytesOf("nclx"), bigEndian(primaries, 2), bigEndian(transfer, 2),
-                            bigEndian(matrix, 2), bigEndian(fullRange ? 0x80 : 0, 1)})};
+    return {"colr", joined({bytesOf("nclx"), numbers(2, {primaries, transfer, matrix}),
+                            bigEndian(fullRange ? 0x80 : 0, 1)})};
+}
+
+HeifFile::Property rotation(unsigned quarters)
+{
+    return {"irot", bigEndian(quarters, 1)};
+}
+
+HeifFile::Property mirror(unsigned axis)
+{
+    return {"imir", bigEndian(axis, 1)};
+}
+
+HeifFile::Property crop(PixelSize size, int halvesRight, int halvesDown)
+{
+    return {"clap", numbers(4, {size.width, 1, size.height, 1, halvesRight, 2, halvesDown, 2})};
 }
 
 CodedItem codedItemOf(const Bytes &file)
 {
     CodedItem item;
-    const auto [first, last] = payloadOf(file, "ipco");
-    for (std::size_t position = first; position < last; position += numberAt(file, position)) {
-        const Bytes type = part(file, position + 4, position + 8);
-        item.properties.push_back({std::string(type.begin(), type.end()),
-                                   part(file, position + 8, position + numberAt(file, position))});
+    const Bytes properties = payloadOf(file, "ipco");
+    for (std::size_t start = 0, end = 0; start < properties.size(); start = end) {
+        end = start + numberAt(properties, start);
+        const Bytes type = part(properties, start + 4, start + 8);
+        item.properties.push_back({{type.begin(), type.end()}, part(properties, start + 8, end)});
     }
-    const auto [start, end] = payloadOf(file, "mdat");
-    item.data = part(file, start, end);
+    std::ranges::stable_partition(item.properties,
+                                  [](const auto &property) { return property.type == "hvcC"; });
+    item.data = payloadOf(file, "mdat");
     return item;
+}
+
+Bytes photoOf(const CodedItem &item, const HeifFile::Properties &more)
+{
+    HeifFile file;
+    return file.bytes(file.add(item, more));
+}
+
+unsigned HeifFile::add(const CodedItem &item, const Properties &more, Place place)
+{
+    Properties properties = item.properties;
+    properties.insert(properties.end(), more.begin(), more.end());
+    return add(item.type, item.data, std::move(properties), place);
+}
+
+unsigned HeifFile::addGrid(unsigned rows, unsigned columns, PixelSize canvas,
+                           const std::vector<unsigned> &tiles, const Properties &more, Place place)
+{
+    const Bytes description =
+        joined({numbers(1, {0, 0, rows - 1, columns - 1}), numbers(2, {canvas.width, canvas.height})});
+    const unsigned grid =
+        add({"grid", {spatialExtents(canvas.width, canvas.height)}, description}, more, place);
+    refer(grid, "dimg", tiles);
+    return grid;
 }
 
 unsigned HeifFile::add(std::string_view type, const Bytes &data, Properties properties, Place place)
 {
     const Bytes foreign(5, 0xAA);
+    const std::size_t half = data.size() / 2;
+    const Bytes first = part(data, 0, half);
+    const Bytes second = part(data, half, data.size());
+    std::vector<Extent> extents;
+    std::vector<unsigned> others;
     switch (place) {
-    case Place::File: {
-        const std::size_t half = data.size() / 2;
-        const std::size_t start = m_mediaData.size();
-        m_mediaData = joined({m_mediaData, part(data, half, data.size()), foreign, part(data, 0, half)});
-        const std::size_t second = data.size() - half;
-        return addItem(type, std::move(properties), place,
-                       {{start + second + foreign.size(), half}, {start, second}});
+    case Place::File:
+        extents = {{m_mediaData.size() + second.size() + foreign.size(), half},
+                   {m_mediaData.size(), second.size()}};
+        append(m_mediaData, {second, foreign, first});
+        break;
+    case Place::ItemData:
+        extents = {{m_itemData.size(), data.size()}};
+        append(m_itemData, {data});
+        break;
+    case Place::Item:
+        others = {add("mime", joined({foreign, second, foreign}), {}),
+                  add("mime", joined({foreign, first}), {})};
+        extents = {{foreign.size(), half, 2}, {foreign.size(), second.size(), 1}};
+        break;
     }
-    case Place::ItemData: {
-        const std::size_t start = m_itemData.size();
-        m_itemData = joined({m_itemData, data});
-        return addItem(type, std::move(properties), place, {{start, data.size()}});
+    m_items.push_back({std::string(type), std::move(properties), place, std::move(extents)});
+    const auto number = static_cast<unsigned>(m_items.size());
+    if (!others.empty()) {
+        refer(number, "iloc", others);
     }
-    case Place::Item: {
-        const std::size_t half = data.size() / 2;
-        const unsigned second = add("mime", joined({foreign, part(data, half, data.size()), foreign}), {});
-        const unsigned first = add("mime", joined({foreign, part(data, 0, half)}), {});
-        const unsigned item = addItem(type, std::move(properties), place,
-                                      {{foreign.size(), half, 2}, {foreign.size(), data.size() - half, 1}});
-        refer(item, "iloc", {second, first});
-        return item;
-    }
-    }
-    throw std::logic_error("no such place");
+    return number;
 }
 
 void HeifFile::refer(unsigned from, std::string_view kind, const std::vector<unsigned> &to)
 {
     m_references.push_back({std::string(kind), from, to});
-}
-
-unsigned HeifFile::addItem(std::string_view type, Properties properties, Place place,
-                           std::vector<Extent> extents)
-{
-    m_items.push_back({std::string(type), std::move(properties), place, std::move(extents)});
-    return static_cast<unsigned>(m_items.size());
 }
 
 Bytes HeifFile::meta(unsigned primary, std::size_t mediaStart) const
@@ -154,29 +203,26 @@ Bytes HeifFile::meta(unsigned primary, std::size_t mediaStart) const
     unsigned propertyNumber = 0;
     for (const Item &item : m_items) {
         ++number;
-        infos = joined({infos, fullBox("infe", 2,
-                                       joined({bigEndian(number, 2), bigEndian(0, 2), bytesOf(item.type),
-                                               Bytes(item.type == "mime" ? 2 : 1, 0)}))});
-        locations = joined({locations, bigEndian(number, 2), bigEndian(static_cast<unsigned>(item.place), 2),
-                            bigEndian(0, 2), bigEndian(item.extents.size(), 2)});
+        const Bytes noTexts(item.type == "mime" ? 2 : 1);
+        append(infos, {fullBox("infe", 2, joined({numbers(2, {number, 0}), bytesOf(item.type), noTexts}))});
+        append(locations,
+               {numbers(2, {number, static_cast<int>(item.place), 0}), bigEndian(item.extents.size(), 2)});
         for (const Extent &extent : item.extents) {
             const std::size_t base = item.place == Place::File ? mediaStart : 0;
-            locations = joined({locations, hasReferences ? bigEndian(extent.reference, 4) : Bytes(),
-                                bigEndian(base + extent.offset, 4), bigEndian(extent.length, 4)});
+            append(locations, {hasReferences ? bigEndian(extent.reference, 4) : Bytes(),
+                               bigEndian(base + extent.offset, 4), bigEndian(extent.length, 4)});
         }
-        associations = joined({associations, bigEndian(number, 2), bigEndian(item.properties.size(), 1)});
+        append(associations, {bigEndian(number, 2), bigEndian(item.properties.size(), 1)});
         for (const Property &property : item.properties) {
-            properties = joined({properties, box(property.type, property.payload)});
-            associations = joined({associations, bigEndian(++propertyNumber, 1)});
+            append(properties, {box(property.type, property.payload)});
+            append(associations, {bigEndian(++propertyNumber, 1)});
         }
     }
     Bytes references;
     for (const Reference &reference : m_references) {
-        Bytes content = joined({bigEndian(reference.from, 2), bigEndian(reference.to.size(), 2)});
-        for (const unsigned item : reference.to) {
-            content = joined({content, bigEndian(item, 2)});
-        }
-        references = joined({references, box(reference.kind, content)});
+        const Bytes to = numbers(2, {reference.to.begin(), reference.to.end()});
+        append(references, {box(reference.kind, joined({bigEndian(reference.from, 2),
+                                                        bigEndian(reference.to.size(), 2), to}))});
     }
     return fullBox("meta", 0,
                    joined({fullBox("hdlr", 0, joined({Bytes(4), bytesOf("pict"), Bytes(13)})),

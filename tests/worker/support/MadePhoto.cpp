@@ -1,28 +1,31 @@
 #include "MadePhoto.h"
 
+#include <algorithm>
 #include <cstring>
-#include <libheif/heif.h>
-#include <memory>
+#include <libheif/heif_cxx.h>
 #include <png.h>
-#include <stdexcept>
 
 namespace imageworker {
 
 namespace {
 
-using Context = std::unique_ptr<heif_context, decltype(&heif_context_free)>;
-using Image = std::unique_ptr<heif_image, decltype(&heif_image_release)>;
+using Chroma = PhotoRecipe::Chroma;
 
-void check(const heif_error &error)
+class BytesWriter : public heif::Context::Writer
 {
-    if (error.code != heif_error_Ok) {
-        throw std::runtime_error(error.message);
+public:
+    heif_error write(const void *data, std::size_t size) override
+    {
+        const auto *first = static_cast<const std::uint8_t *>(data);
+        bytes.assign(first, first + size);
+        return {heif_error_Ok, heif_suberror_Unspecified, ""};
     }
-}
+    Bytes bytes;
+};
 
 heif_chroma arrangementOf(const PhotoRecipe &recipe)
 {
-    if (recipe.chroma == PhotoRecipe::Chroma::None) {
+    if (recipe.chroma == Chroma::None) {
         return heif_chroma_monochrome;
     }
     if (recipe.depth > 8) {
@@ -31,35 +34,32 @@ heif_chroma arrangementOf(const PhotoRecipe &recipe)
     return recipe.hasAlpha ? heif_chroma_interleaved_RGBA : heif_chroma_interleaved_RGB;
 }
 
-Image imageOf(const Raster &raster, const PhotoRecipe &recipe)
+heif::Image imageOf(const Raster &raster, const PhotoRecipe &recipe)
 {
-    const bool isGrey = recipe.chroma == PhotoRecipe::Chroma::None;
-    heif_image *made = nullptr;
-    check(heif_image_create(raster.size.width, raster.size.height,
-                            isGrey ? heif_colorspace_monochrome : heif_colorspace_RGB, arrangementOf(recipe),
-                            &made));
-    Image image(made, &heif_image_release);
+    const bool isGrey = recipe.chroma == Chroma::None;
+    const auto [width, height] = raster.size;
+    heif::Image image;
+    image.create(width, height, isGrey ? heif_colorspace_monochrome : heif_colorspace_RGB,
+                 arrangementOf(recipe));
     const heif_channel channel = isGrey ? heif_channel_Y : heif_channel_interleaved;
-    check(heif_image_add_plane(image.get(), channel, raster.size.width, raster.size.height, recipe.depth));
+    image.add_plane(channel, width, height, recipe.depth);
     int stride = 0;
-    std::uint8_t *plane = heif_image_get_plane(image.get(), channel, &stride);
+    std::uint8_t *plane = image.get_plane(channel, &stride);
     const int samples = isGrey ? 1 : recipe.hasAlpha ? 4 : 3;
-    const int sampleBytes = recipe.depth > 8 ? 2 : 1;
-    for (int y = 0; y < raster.size.height; ++y) {
+    for (int y = 0; y < height; ++y) {
         std::uint8_t *next = plane + std::ptrdiff_t{y} * stride;
-        for (int x = 0; x < raster.size.width; ++x) {
-            for (int sample = 0; sample < samples; ++sample, next += sampleBytes) {
+        for (int x = 0; x < width; ++x) {
+            for (int sample = 0; sample < samples; ++sample) {
                 const int value = raster.row(y)[std::ptrdiff_t{4} * x + sample];
                 const int code = value * ((1 << recipe.depth) - 1) / 255;
-                for (int byte = 0; byte < sampleBytes; ++byte) {
-                    next[byte] = static_cast<std::uint8_t>(code >> (8 * byte));
+                for (int shift = 0; shift < recipe.depth; shift += 8) {
+                    *next++ = static_cast<std::uint8_t>(code >> shift);
                 }
             }
         }
     }
     if (!recipe.iccProfile.empty()) {
-        check(heif_image_set_raw_color_profile(image.get(), "prof", recipe.iccProfile.data(),
-                                               recipe.iccProfile.size()));
+        image.set_raw_color_profile(heif_color_profile_type_prof, recipe.iccProfile);
     }
     return image;
 }
@@ -81,6 +81,24 @@ Raster cornerColours(PixelSize size, bool hasAlpha)
     return raster;
 }
 
+Raster partOf(const Raster &whole, int left, int top, PixelSize size)
+{
+    Raster part(size);
+    lay(whole, -left, -top, part);
+    return part;
+}
+
+void lay(const Raster &picture, int left, int top, Raster &canvas)
+{
+    const int start = std::max(left, 0);
+    const int end = std::min(left + picture.size.width, canvas.size.width);
+    for (int y = std::max(top, 0); y < std::min(top + picture.size.height, canvas.size.height); ++y) {
+        std::memcpy(canvas.row(y) + std::ptrdiff_t{4} * start,
+                    picture.row(y - top) + std::ptrdiff_t{4} * (start - left),
+                    std::size_t{4} * static_cast<std::size_t>(end - start));
+    }
+}
+
 Bytes makePhoto(const PhotoRecipe &recipe)
 {
     return makePhoto(recipe, cornerColours(recipe.size, recipe.hasAlpha));
@@ -88,67 +106,61 @@ Bytes makePhoto(const PhotoRecipe &recipe)
 
 Bytes makePhoto(const PhotoRecipe &recipe, const Raster &picture)
 {
-    const Context context(heif_context_alloc(), &heif_context_free);
-    heif_encoder *found = nullptr;
-    check(heif_context_get_encoder_for_format(
-        context.get(), recipe.codec == PhotoRecipe::Codec::Av1 ? heif_compression_AV1 : heif_compression_HEVC,
-        &found));
-    const std::unique_ptr<heif_encoder, decltype(&heif_encoder_release)> encoder(found,
-                                                                                 &heif_encoder_release);
-    check(heif_encoder_set_lossy_quality(encoder.get(), 90));
-    if (recipe.chroma != PhotoRecipe::Chroma::None) {
-        check(heif_encoder_set_parameter_string(encoder.get(), "chroma",
-                                                recipe.chroma == PhotoRecipe::Chroma::Full ? "444" : "420"));
+    constexpr int HighQuality = 90;
+    heif::Encoder encoder(recipe.codec == PhotoRecipe::Codec::Av1 ? heif_compression_AV1
+                                                                  : heif_compression_HEVC);
+    encoder.set_lossy_quality(HighQuality);
+    if (recipe.chroma != Chroma::None) {
+        encoder.set_string_parameter("chroma", recipe.chroma == Chroma::Full ? "444" : "420");
     }
-    const std::unique_ptr<heif_encoding_options, decltype(&heif_encoding_options_free)> options(
-        heif_encoding_options_alloc(), &heif_encoding_options_free);
-    options->image_orientation = static_cast<heif_orientation>(recipe.orientation);
-    const Image image = imageOf(picture, recipe);
-    heif_image_handle *handle = nullptr;
-    check(heif_context_encode_image(context.get(), image.get(), encoder.get(), options.get(), &handle));
+    heif::Context::EncodingOptions options;
+    options.image_orientation = static_cast<heif_orientation>(recipe.orientation);
+    heif::Context context;
+    const heif::ImageHandle photo = context.encode_image(imageOf(picture, recipe), encoder, options);
     if (!recipe.exif.empty()) {
-        check(heif_context_add_exif_metadata(context.get(), handle, recipe.exif.data(),
-                                             static_cast<int>(recipe.exif.size())));
+        context.add_exif_metadata(photo, recipe.exif.data(), static_cast<int>(recipe.exif.size()));
     }
     if (!recipe.xmp.empty()) {
-        check(heif_context_add_XMP_metadata(context.get(), handle, recipe.xmp.data(),
-                                            static_cast<int>(recipe.xmp.size())));
+        context.add_XMP_metadata(photo, recipe.xmp.data(), static_cast<int>(recipe.xmp.size()));
     }
-    heif_image_handle_release(handle);
-    Bytes bytes;
-    heif_writer writer = {1, [](heif_context *, const void *data, std::size_t size, void *target) {
-                              const auto *first = static_cast<const std::uint8_t *>(data);
-                              static_cast<Bytes *>(target)->assign(first, first + size);
-                              return heif_error{heif_error_Ok, heif_suberror_Unspecified, ""};
-                          }};
-    check(heif_context_write(context.get(), &writer, &bytes));
-    return bytes;
+    BytesWriter writer;
+    context.write(writer);
+    return writer.bytes;
+}
+
+unsigned addGrid(HeifFile &file, PixelSize canvas, const HeifFile::Properties &properties,
+                 HeifFile::Place place)
+{
+    constexpr int Columns = 3;
+    constexpr int Rows = 2;
+    const Raster whole = cornerColours({Columns * TileSize.width, Rows * TileSize.height}, false);
+    std::vector<unsigned> tiles;
+    for (int index = 0; index < Rows * Columns; ++index) {
+        const int left = index % Columns * TileSize.width;
+        const int top = index / Columns * TileSize.height;
+        tiles.push_back(file.add(codedItemOf(makePhoto({}, partOf(whole, left, top, TileSize)))));
+    }
+    return file.addGrid(Rows, Columns, canvas, tiles, properties, place);
 }
 
 std::optional<Raster> decodeIndependently(const Bytes &photo)
 {
-    const Context context(heif_context_alloc(), &heif_context_free);
-    heif_image_handle *handle = nullptr;
-    if (heif_context_read_from_memory_without_copy(context.get(), photo.data(), photo.size(), nullptr).code !=
-            heif_error_Ok ||
-        heif_context_get_primary_image_handle(context.get(), &handle).code != heif_error_Ok) {
+    try {
+        heif::Context context;
+        context.read_from_memory_without_copy(photo.data(), photo.size());
+        const heif::Image image = context.get_primary_image_handle().decode_image(
+            heif_colorspace_RGB, heif_chroma_interleaved_RGBA);
+        constexpr heif_channel Channel = heif_channel_interleaved;
+        Raster raster({image.get_width(Channel), image.get_height(Channel)});
+        int stride = 0;
+        const std::uint8_t *plane = image.get_plane(Channel, &stride);
+        for (int y = 0; y < raster.size.height; ++y) {
+            std::memcpy(raster.row(y), plane + std::ptrdiff_t{y} * stride, raster.rowLength());
+        }
+        return raster;
+    } catch (const heif::Error &) {
         return std::nullopt;
     }
-    heif_image *decoded = nullptr;
-    const heif_error error =
-        heif_decode_image(handle, &decoded, heif_colorspace_RGB, heif_chroma_interleaved_RGBA, nullptr);
-    heif_image_handle_release(handle);
-    if (error.code != heif_error_Ok) {
-        return std::nullopt;
-    }
-    const Image image(decoded, &heif_image_release);
-    Raster raster({heif_image_get_primary_width(image.get()), heif_image_get_primary_height(image.get())});
-    int stride = 0;
-    const std::uint8_t *plane = heif_image_get_plane_readonly(image.get(), heif_channel_interleaved, &stride);
-    for (int y = 0; y < raster.size.height; ++y) {
-        std::memcpy(raster.row(y), plane + std::ptrdiff_t{y} * stride, raster.rowLength());
-    }
-    return raster;
 }
 
 std::optional<Raster> readPng(const Bytes &file)

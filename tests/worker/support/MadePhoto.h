@@ -1,5 +1,6 @@
 #pragma once
 
+#include "HeifFile.h"
 #include "Raster.h"
 
 #include <optional>
@@ -26,12 +27,23 @@ struct PhotoRecipe
 /// A smooth picture with a different colour in each corner, so that turns and mirrors show.
 Raster cornerColours(PixelSize size, bool hasAlpha);
 
-/// The bytes of a HEIC file with cornerColours(), written by an encoder that is not this project's.
+/// @p size pixels of @p whole.
+Raster partOf(const Raster &whole, int left, int top, PixelSize size);
+/// Lays @p picture on @p canvas; what lies outside is left out.
+void lay(const Raster &picture, int left, int top, Raster &canvas);
+
+/// The bytes of a HEIC file with cornerColours(), written by libheif.
 Bytes makePhoto(const PhotoRecipe &recipe);
 /// The same with @p picture, whose size counts.
 Bytes makePhoto(const PhotoRecipe &recipe, const Raster &picture);
 
-/// How the independent decoder shows it; nothing when it cannot.
+constexpr PixelSize TileSize{64, 64};
+
+/// Adds a grid of 3 x 2 tiles that shows @p canvas pixels of cornerColours().
+unsigned addGrid(HeifFile &file, PixelSize canvas, const HeifFile::Properties &properties = {},
+                 HeifFile::Place place = HeifFile::Place::ItemData);
+
+/// How libheif, as an independent decoder, shows a photo; nothing when it cannot.
 std::optional<Raster> decodeIndependently(const Bytes &photo);
 
 /// The pixels of a PNG by libpng; nothing when it refuses it.

@@ -4,29 +4,21 @@ namespace imageworker {
 
 namespace {
 
-Bytes bytesOf(std::string_view text)
-{
-    return {text.begin(), text.end()};
-}
-
 /// ISO/IEC 14496-12, 12.1.3: the description of samples that are pictures.
 Bytes sampleDescription(const MadeTrack &track)
 {
-    Bytes children;
-    for (const HeifFile::Property &property : track.picture.properties) {
-        if (property.type == "colr" || property.type == "clap" ||
-            property.type == track.picture.properties.front().type) {
-            children = joined({children, box(property.type, property.payload)});
+    const auto &properties = track.picture.properties;
+    Bytes entry = joined(
+        {Bytes(6), bigEndian(1, 2), Bytes(16), numbers(2, {track.size.width, track.size.height}), Bytes(50)});
+    for (const HeifFile::Property &property : properties) {
+        if (property.type == "colr" || property.type == "clap" || &property == &properties.front()) {
+            entry = joined({entry, box(property.type, property.payload)});
         }
     }
     if (track.isAuxiliary) {
-        children = joined(
-            {children,
-             fullBox("auxi", 0, joined({bytesOf("urn:mpeg:mpegB:cicp:systems:auxiliary:alpha"), {0}}))});
+        entry = joined({entry, box("auxi", opacityRole().payload)});
     }
-    const Bytes entry = joined({Bytes(6), bigEndian(1, 2), Bytes(16), bigEndian(track.width, 2),
-                                bigEndian(track.height, 2), Bytes(50), children});
-    return fullBox("stsd", 0, joined({bigEndian(1, 4), box(track.codingName, entry)}));
+    return fullBox("stsd", 0, joined({bigEndian(1, 4), box(track.picture.type, entry)}));
 }
 
 /// ISO/IEC 14496-12, 8.3.2.
@@ -36,26 +28,22 @@ Bytes trackHeader(unsigned clockwiseQuarters)
     constexpr std::int32_t Sines[] = {0, One, 0, -One};
     const std::int32_t sine = Sines[clockwiseQuarters % 4];
     const std::int32_t cosine = Sines[(clockwiseQuarters + 1) % 4];
-    Bytes matrix;
-    for (const std::int32_t number : {cosine, sine, 0, -sine, cosine, 0, 0, 0, 0x40000000}) {
-        matrix = joined({matrix, bigEndian(static_cast<std::uint32_t>(number), 4)});
-    }
+    const Bytes matrix = numbers(4, {cosine, sine, 0, -sine, cosine, 0, 0, 0, 0x40000000});
     return fullBox("tkhd", 0, joined({Bytes(36), matrix, Bytes(8)}));
 }
 
 Bytes trackBox(const MadeTrack &track, std::size_t offset)
 {
-    const std::size_t length = track.picture.data.size();
-    const Bytes sizes = track.sizes == MadeTrack::Sizes::Common
-                            ? joined({bigEndian(length, 4), bigEndian(1, 4)})
-                            : joined({bigEndian(0, 4), bigEndian(1, 4), bigEndian(length, 4)});
-    const bool isLong = track.offsets == MadeTrack::Offsets::Long;
-    const Bytes offsets = joined({bigEndian(1, 4), bigEndian(offset, isLong ? 8 : 4)});
-    const Bytes samples = box("stbl", joined({sampleDescription(track), fullBox("stsz", 0, sizes),
-                                              fullBox(isLong ? "co64" : "stco", 0, offsets)}));
+    const auto length = static_cast<std::int64_t>(track.picture.data.size());
+    const Bytes sizes =
+        numbers(4, track.hasCommonSize ? std::vector{length, std::int64_t{1}}
+                                       : std::vector{std::int64_t{0}, std::int64_t{1}, length});
+    const Bytes offsets = joined({bigEndian(1, 4), bigEndian(offset, track.hasLongOffsets ? 8 : 4)});
+    const Bytes samples = joined({sampleDescription(track), fullBox("stsz", 0, sizes),
+                                  fullBox(track.hasLongOffsets ? "co64" : "stco", 0, offsets)});
     const Bytes handler = fullBox("hdlr", 0, joined({Bytes(4), bytesOf(track.handler), Bytes(13)}));
-    return box("trak", joined({trackHeader(track.clockwiseQuarters),
-                               box("mdia", joined({handler, box("minf", samples)}))}));
+    const Bytes media = joined({handler, box("minf", box("stbl", samples))});
+    return box("trak", joined({trackHeader(track.clockwiseQuarters), box("mdia", media)}));
 }
 
 Bytes movie(const std::vector<MadeTrack> &tracks, std::size_t offset)

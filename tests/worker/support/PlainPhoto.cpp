@@ -1,10 +1,11 @@
 #include "PlainPhoto.h"
 
+#include "HeifFile.h"
+#include "MagicBytes.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <jpeglib.h>
-#include <string>
-#include <string_view>
 
 namespace imageworker {
 
@@ -13,8 +14,7 @@ namespace {
 void writeMarker(jpeg_compress_struct &jpeg, std::string_view prefix, const Bytes &content)
 {
     if (!content.empty()) {
-        Bytes segment(prefix.begin(), prefix.end());
-        segment.insert(segment.end(), content.begin(), content.end());
+        const Bytes segment = joined({bytesOf(prefix), content});
         jpeg_write_marker(&jpeg, JPEG_APP0 + 1, segment.data(), static_cast<unsigned>(segment.size()));
     }
 }
@@ -23,8 +23,6 @@ void writeMarker(jpeg_compress_struct &jpeg, std::string_view prefix, const Byte
 
 Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, const JpegForm &form)
 {
-    constexpr std::string_view ExifPrefix("Exif\0\0", 6);
-    constexpr std::string_view XmpPrefix("http://ns.adobe.com/xap/1.0/\0", 29);
     jpeg_compress_struct jpeg = {};
     jpeg_error_mgr errors = {};
     jpeg.err = jpeg_std_error(&errors); // ends the process, which for a test will do
@@ -44,8 +42,8 @@ Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, const JpegF
         jpeg_simple_progression(&jpeg);
     }
     jpeg_start_compress(&jpeg, TRUE);
-    writeMarker(jpeg, ExifPrefix, metadata.exif);
-    writeMarker(jpeg, XmpPrefix, metadata.xmp);
+    writeMarker(jpeg, JpegExifStart, metadata.exif);
+    writeMarker(jpeg, JpegXmpStart, metadata.xmp);
     if (!metadata.iccProfile.empty()) {
         jpeg_write_icc_profile(&jpeg, metadata.iccProfile.data(),
                                static_cast<unsigned>(metadata.iccProfile.size()));
@@ -89,30 +87,30 @@ Bytes makePng(const Raster &picture, const PlainMetadata &metadata, const PngFor
         png_set_iCCP(png, info, "wide", PNG_COMPRESSION_TYPE_BASE, metadata.iccProfile.data(),
                      static_cast<png_uint_32>(metadata.iccProfile.size()));
     }
-    Bytes exif = metadata.exif;
-    if (!exif.empty()) {
-        png_set_eXIf_1(png, info, static_cast<png_uint_32>(exif.size()), exif.data());
+    if (!metadata.exif.empty()) {
+        png_set_eXIf_1(png, info, static_cast<png_uint_32>(metadata.exif.size()),
+                       const_cast<png_bytep>(metadata.exif.data()));
     }
-    std::string xmp(metadata.xmp.begin(), metadata.xmp.end());
-    std::string keyword = "XML:com.adobe.xmp";
+    Bytes xmp = joined({metadata.xmp, {0}});
+    char keyword[] = "XML:com.adobe.xmp";
     png_text text = {};
     text.compression = PNG_ITXT_COMPRESSION_NONE;
-    text.key = keyword.data();
-    text.text = xmp.data();
-    text.itxt_length = xmp.size();
-    if (!xmp.empty()) {
+    text.key = keyword;
+    text.text = reinterpret_cast<char *>(xmp.data());
+    text.itxt_length = metadata.xmp.size();
+    if (!metadata.xmp.empty()) {
         png_set_text(png, info, &text, 1);
     }
     png_write_info(png, info);
     if (!form.hasOpacity) {
         png_set_filler(png, 0, PNG_FILLER_AFTER);
     }
-    std::vector<png_bytep> rows;
-    rows.reserve(static_cast<std::size_t>(picture.size.height));
-    for (int y = 0; y < picture.size.height; ++y) {
-        rows.push_back(const_cast<png_bytep>(picture.row(y)));
+    const int passes = png_set_interlace_handling(png);
+    for (int pass = 0; pass < passes; ++pass) {
+        for (int y = 0; y < picture.size.height; ++y) {
+            png_write_row(png, picture.row(y));
+        }
     }
-    png_write_image(png, rows.data());
     png_write_end(png, info);
     png_destroy_write_struct(&png, &info);
     return file;

@@ -6,9 +6,9 @@
 namespace imageworker {
 
 /// What the first bytes of a file say it is; nothing for anything but a JPEG or PNG.
-std::optional<PlainFile::Kind> plainFileKind(const Source &source);
+std::optional<JpegOrPng::Kind> jpegOrPngKind(const Source &source);
 
 /// Size, orientation and metadata of a JPEG or PNG. Unreadable when its end is missing.
-Result<Photo> readPlainFile(const Source &source, PlainFile::Kind kind);
+Result<Photo> readJpegOrPng(const Source &source, JpegOrPng::Kind kind);
 
 } // namespace imageworker
