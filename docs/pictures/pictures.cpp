@@ -246,10 +246,12 @@ QList<Picture> mainWindowPictures(QSize size)
         scene.main->setShowingHistory(true);
     });
     for (const char *elapsed : {"0.0", "0.8", "1.5", "2.5"}) {
-        pictures.append({QStringLiteral("welcome-%1-%2").arg(QLatin1String(elapsed), sizeName), size,
-                         QByteArray("FirstLaunchView { anchors.fill: parent; backdrop: true; playing: false; "
-                                    "artworkSource: '" LUMAPORT_SIGNATURE_ARTWORK "'; elapsed: ") +
-                             elapsed + " }"});
+        pictures.append(
+            {QStringLiteral("welcome-%1-%2").arg(QLatin1String(elapsed), sizeName), size,
+             QByteArray("FirstLaunchView { anchors.fill: parent; backdrop: true; playing: false; "
+                        "artworkSource: '" LUMAPORT_SIGNATURE_ARTWORK "'; elapsed: ") +
+                 elapsed + " }",
+             [](PictureScene &scene) { scene.appearance.setMotion(SystemAppearance::Motion::Full); }});
     }
     return pictures;
 }
