@@ -8,8 +8,8 @@ import dbus.service
 from dbus.mainloop.glib import DBusGMainLoop
 
 from assistive import accessible, press, take_messages
-from support import (COPIES, DOWNLOADS, HOME, Application, Dunst, ended, entry, history, key, photo, ready, run, stored, wait_until,
-                     windows)
+from support import (COPIES, DOWNLOADS, HOME, Application, Dunst, ended, entry, history, key, photo, ready, run, stored, wait_stored,
+                     wait_until, windows)
 
 PROGRAM = sys.argv.pop()
 ELSEWHERE = HOME / "Elsewhere"
@@ -93,10 +93,10 @@ class PersonWalk(unittest.TestCase):
 
     def paused(self):
         press("Pause")
-        wait_until(lambda: stored("isWatching") == "false", "the pause")
+        wait_stored("isWatching", "false")
         photo(DOWNLOADS, "IMG_4.HEIC")
         press("Resume")
-        wait_until(lambda: stored("isWatching") == "true", "the end of the pause")
+        wait_stored("isWatching", "true")
         press("Conversion options")
         press("Convert existing HEIC photos")
         ready("IMG_4.HEIC")
@@ -104,7 +104,7 @@ class PersonWalk(unittest.TestCase):
     def options(self):
         press("Convert to JPEG", "radio button")
         press("Dark", "radio button")
-        wait_until(lambda: stored("appearanceMode") == "Dark", "the dark appearance")
+        wait_stored("appearanceMode", "Dark")
         photo(DOWNLOADS, "IMG_5.HEIC")
         self.assertEqual(ready("IMG_5.HEIC")["outputName"], "IMG_5.jpg")
 

@@ -11,7 +11,7 @@ import dbus
 
 from assistive import UsableChanges, accessible, press
 from support import (DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, everything_in, fresh, history, key, move, photo,
-                     run, stored, wait_until, windows)
+                     run, stored, wait_stored, wait_until, windows)
 
 PROGRAM = sys.argv.pop()
 ITEM = "org.kde.StatusNotifierItem"
@@ -50,10 +50,6 @@ def is_centred(window):
     x, y, width, height = frame(window)
     across, down = screen_size()
     return abs(2 * x + width - across) <= 1 and abs(2 * y + height - down) <= 1
-
-
-def wait_watching(value):
-    wait_until(lambda: stored("isWatching") == value, f"isWatching={value}")
 
 
 def arrived(name):
@@ -142,14 +138,13 @@ class ShellWalk(unittest.TestCase):
             wait_until(is_smallest, "the smallest size")
 
     def test_several_starts_make_one_process_and_one_window(self):
-        first, second = (subprocess.Popen([PROGRAM], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
-                         for _ in range(2))
-        wait_until(lambda: first.poll() is not None or second.poll() is not None, "the end of one of the two")
-        left, gone = (first, second) if first.poll() is None else (second, first)
+        both = [subprocess.Popen([PROGRAM], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True) for _ in range(2)]
+        gone = wait_until(lambda: next((each for each in both if each.poll() is not None), None), "the end of one of the two")
+        left = both[0] if gone is both[1] else both[1]
         self.assertEqual((gone.returncode, gone.communicate()[0]), (0, ""))
         one_window(MAIN)
-        (HOME / "IMG_1.HEIC").write_bytes(b"no photo")
-        (HOME / "IMG_2.heif").write_bytes(b"no photo")
+        for name in ("IMG_1.HEIC", "IMG_2.heif"):
+            (HOME / name).write_bytes(b"no photo")
         subprocess.run([PROGRAM, "IMG_1.HEIC"], check=True, timeout=PATIENCE, cwd=HOME)
         wait_until(lambda: arrived("IMG_1.HEIC"), "the file of a further start")
         dbus.SessionBus().get_object(NAME, "/io/lumaport/Lumaport").Open(
@@ -179,16 +174,16 @@ class ShellWalk(unittest.TestCase):
     def test_the_commands_keys_work_and_the_panel_closes_when_left(self):
         with Shell(PROGRAM) as shell:
             shell.key("ctrl+shift+p")
-            wait_watching("false")
+            wait_stored("isWatching", "false")
             key("ctrl+shift+p")
-            wait_watching("true")
+            wait_stored("isWatching", "true")
             (DOWNLOADS / "IMG_7.heif").write_bytes(b"no photo")
             key("ctrl+k")
             wait_until(lambda: arrived("IMG_7.heif"), "the photo of the folder")
             panel = shell.open_panel()
             self.assertEqual(client_area(panel)[2], 360)
             key("ctrl+shift+p")
-            wait_watching("false")
+            wait_stored("isWatching", "false")
             key("ctrl+shift+m")
             wait_closed(PANEL)
             shell.open_panel()
@@ -220,9 +215,9 @@ class ShellWalk(unittest.TestCase):
         with Shell(PROGRAM) as shell:
             shell.open_panel()
             press("Pause")
-            wait_watching("false")
+            wait_stored("isWatching", "false")
             press("Resume")
-            wait_watching("true")
+            wait_stored("isWatching", "true")
             key("Escape")
             wait_closed(PANEL)
             shell.close_window()
@@ -276,7 +271,7 @@ class ShellWalk(unittest.TestCase):
         names = [f"IMG_{number}.HEIC" for number in range(6)]
         with Shell(PROGRAM) as shell:
             shell.key("ctrl+shift+p")
-            wait_watching("false")
+            wait_stored("isWatching", "false")
             for name in names:
                 photo(DOWNLOADS, name, 1600, 1200)
             key("ctrl+k")
@@ -284,7 +279,7 @@ class ShellWalk(unittest.TestCase):
             shell.process.terminate()
             shell.process.wait(timeout=PATIENCE)
         self.assertEqual(stored("isWatching"), "false")
-        worker = os.path.join(os.path.dirname(PROGRAM), "lumaport-imageworker")
+        worker = os.path.dirname(os.path.dirname(PROGRAM)) + ".*/lumaport-imageworker"
         wait_until(lambda: run("pgrep", "-f", worker) == "", "the end of the last worker")  # the kernel ends them in its time
         copies = {f"Lumaport/{name.replace('.HEIC', '.png')}" for name in names}
         self.assertLessEqual(set(everything_in(DOWNLOADS)), {*names, "Lumaport", *copies})

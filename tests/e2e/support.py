@@ -99,6 +99,10 @@ def stored(name):
     return found and found.group(1).strip('"')
 
 
+def wait_stored(name, value):
+    wait_until(lambda: stored(name) == value, f"{name}={value}")
+
+
 def history():
     """The history as the program stores it, newest first."""
     found = re.fullmatch(r"@ByteArray\((.*)\)", stored("recentItems") or "")

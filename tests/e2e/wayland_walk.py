@@ -6,7 +6,7 @@ import sys
 import unittest
 
 from assistive import accessible, press
-from support import COPIES, DOWNLOADS, HOME, Application, Program, ended, key, photo, stored, wait_until, windows
+from support import COPIES, DOWNLOADS, HOME, Application, Program, ended, key, photo, stored, wait_stored, wait_until, windows
 
 PROGRAM = sys.argv.pop()
 SOCKET = "wayland-walk"
@@ -43,7 +43,7 @@ class WaylandWalk(unittest.TestCase):
                 ended("IMG_1.HEIC")
                 self.assertTrue((COPIES / "IMG_1.png").exists())
                 press("Pause")
-                wait_until(lambda: stored("isWatching") == "false", "the pause")
+                wait_stored("isWatching", "false")
                 compositor.key("ctrl+w")
                 wait_until(lambda: not application.windows(), "the end of the window")
                 application.start_again()

@@ -23,7 +23,7 @@ CHANCE = random.Random(20260314)
 
 def left_behind():
     """Workers that outlived the program, and files that are neither photo nor copy."""
-    return run("pgrep", "-f", "lumaport-imageworker").split() + list(DOWNLOADS.rglob(".*"))
+    return run("pgrep", "-f", f"({PROGRAM.parent}|{HOME}/installed)/lumaport-imageworker").split() + list(DOWNLOADS.rglob(".*"))
 
 
 def whole_copies():
