@@ -15,17 +15,17 @@
 
 namespace {
 
-/// The engine places copies beside or below the source. A passing folder with two links, the photo and its
-/// subfolder, makes `folder` the place where they go.
+/// The engine writes copies beside or below the source. In a temporary folder it finds a link to the source,
+/// and a link to `folder` in place of its own subfolder.
 ConversionOutcome convertInto(const QString &folder, const QString &source,
                               const ConversionSettings &settings)
 {
     const auto engine = ConversionEngine::create(ImageWorkerLauncher::create());
     engine->prepare();
-    const QTemporaryDir passing(QDir(folder).filePath(QStringLiteral(".convert-XXXXXX")));
-    const QString photo = passing.filePath(QFileInfo(source).fileName());
-    if (!passing.isValid() || !QFile::link(source, photo) ||
-        !QFile::link(folder, passing.filePath(QStringLiteral("Lumaport")))) {
+    const QTemporaryDir temporary(QDir(folder).filePath(QStringLiteral(".convert-XXXXXX")));
+    const QString photo = temporary.filePath(QFileInfo(source).fileName());
+    if (!temporary.isValid() || !QFile::link(source, photo) ||
+        !QFile::link(folder, temporary.filePath(QStringLiteral("Lumaport")))) {
         return tl::unexpected(ConversionError::cannotWriteImage);
     }
     ConversionOutcome result;

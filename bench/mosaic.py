@@ -1,4 +1,4 @@
-"""A photo of 200 megapixels for the bench, laid out of the tiles of a smaller one again and again, turned a quarter."""
+"""A photo of 200 megapixels for the bench, made of the tiles of a smaller one, repeated, and turned by a quarter."""
 import struct
 
 COLUMNS, ROWS, SIDE = 32, 24, 512

@@ -39,11 +39,8 @@ def take_messages():
         pass
 
 
-class UsableChanges:
+class UsableChanges(list):
     """What a screen reader hears of elements that can be pressed or no longer; use it in a with statement."""
-
-    def __init__(self):
-        self.changes = []
 
     def __enter__(self):
         pyatspi.Registry.registerEventListener(self.hear, "object:state-changed:enabled")
@@ -53,8 +50,8 @@ class UsableChanges:
         pyatspi.Registry.deregisterEventListener(self.hear, "object:state-changed:enabled")
 
     def hear(self, event):
-        self.changes.append((event.source.name, bool(event.detail1)))
+        self.append((event.source.name, bool(event.detail1)))
 
     def heard(self, name, usable):
         take_messages()
-        return (name, usable) in self.changes
+        return (name, usable) in self
