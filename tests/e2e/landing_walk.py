@@ -1,4 +1,4 @@
-"""The main window as a person meets it: the welcome, a photo dragged from another program, and rest when nothing happens."""
+"""The main window as a person meets it: the welcome, a photo dragged from another program, and that nothing is drawn when nothing happens."""
 
 import re
 import sys

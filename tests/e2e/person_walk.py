@@ -62,7 +62,7 @@ class PersonWalk(unittest.TestCase):
             self.the_next_start()
 
     def welcome(self, window):
-        # The button comes with the end of the animation: Return is pressed until it does something.
+        # The button appears at the end of the animation: Return is pressed until it has an effect.
         wait_until(lambda: key("Return", window) or stored("hasSeenSignatureWelcome"), "the end of the welcome")
 
     def first_photo(self, dunst):

@@ -73,7 +73,7 @@ class Shell(Application):
     def __enter__(self):
         super().__enter__()
         self.window = one_window(MAIN)
-        # The last of its start: from here on it hears keys.
+        # The status item is the last step of the start: from here on keys work.
         wait_until(lambda: dbus.SessionBus().name_has_owner(f"{ITEM}-{self.process.pid}-1"), "the status item")
         return self
 
@@ -127,11 +127,11 @@ class ShellWalk(unittest.TestCase):
             shell.start_again()
             shell.window = one_window(MAIN)
             wait_until(lambda: frame(shell.window) == moved, "the frame it had")
-        for _ in range(2):  # nor does it creep from launch to launch
+        for _ in range(2):  # and the frame stays the same from launch to launch
             with Shell(PROGRAM) as shell:
                 wait_until(lambda: frame(shell.window) == moved, "the frame of the launch before")
         with Shell(PROGRAM) as shell:  # the smallest size is the content's, not the window's
-            def is_smallest():  # again, should the start still have been placing it
+            def is_smallest():  # repeated, because the start may still be placing it
                 run("xdotool", "windowsize", shell.window, "300", "300")
                 return client_area(shell.window)[2:] == (800, 620 + menu_bar)
 
@@ -160,9 +160,9 @@ class ShellWalk(unittest.TestCase):
         (HOME / "IMG_3.HEIC").write_bytes(b"no photo")
         monitor = subprocess.Popen(["dbus-monitor", "--session", f"destination='{NAME}',member='Open'"], stdout=subprocess.PIPE, text=True)
         try:
-            next(line for line in monitor.stdout if "NameLost" in line)  # from here on it hears everything
+            next(line for line in monitor.stdout if "NameLost" in line)  # from here on it reports every call
             with Shell(PROGRAM) as shell:
-                os.kill(shell.process.pid, signal.SIGSTOP)  # it has the name and hears nothing any more
+                os.kill(shell.process.pid, signal.SIGSTOP)  # it still owns the name but answers nothing
                 with Application(PROGRAM, HOME / "IMG_3.HEIC"):
                     next(line for line in monitor.stdout if "member=Open" in line)
                     shell.kill()
@@ -190,7 +190,7 @@ class ShellWalk(unittest.TestCase):
             x, y, _, height = client_area(shell.window)
             move(x + 12, y + height - 12, "click", "1")
             wait_closed(PANEL)
-            shell.open_panel()  # the keys open it at once, as they are no click that has just closed it
+            shell.open_panel()  # the keys open it at once, unlike a click that has just closed it
             key("ctrl+shift+m")
             wait_closed(PANEL)
             shell.key("ctrl+q")
@@ -241,9 +241,9 @@ class ShellWalk(unittest.TestCase):
             wait_until(lambda: accessible(convert), "the options")
             shell.signal_workers(signal.SIGSTOP)
             photo(DOWNLOADS, "IMG_2.HEIC")
-            wait_until(lambda: changes.heard(convert, False), "the word that the button cannot be pressed")
+            wait_until(lambda: changes.heard(convert, False), "the news that the button cannot be pressed")
             shell.signal_workers(signal.SIGCONT)
-            wait_until(lambda: changes.heard(convert, True), "the word that it can be pressed again")
+            wait_until(lambda: changes.heard(convert, True), "the news that it can be pressed again")
 
     def test_a_desktop_panel_that_comes_later_gets_the_item(self):
         bus = dbus.SessionBus()

@@ -13,7 +13,7 @@ import threading
 import time
 import zlib
 
-PATIENCE = 60  # seconds; what comes at all comes far sooner, also under sanitizers
+PATIENCE = 60  # seconds; what happens at all happens far sooner, also under sanitizers
 
 HOME = pathlib.Path.home()
 DOWNLOADS = HOME / "Downloads"
@@ -56,7 +56,7 @@ def key(keys, window=None):
 
 
 def move(x, y, *further):
-    """Moves the pointer, for example to "click", "1" there."""
+    """Moves the pointer, and passes `further` on: "click", "1" clicks there."""
     run("xdotool", "mousemove", str(x), str(y), *further)
 
 
@@ -119,12 +119,12 @@ def entry(name):
 
 
 def ended(name):
-    """The same, waited for."""
+    """The same, once it is there."""
     return wait_until(lambda: entry(name), f"the end of {name}")
 
 
 def ready(name):
-    """The same, which must be a success."""
+    """The same, which must not have failed."""
     done = ended(name)
     assert done["status"] == "ready", done
     return done

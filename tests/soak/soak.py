@@ -1,4 +1,4 @@
-"""soak.py PROGRAM [THEME ...]: what goes wrong on real machines, done on purpose and often; in a session of its own, as root.
+"""soak.py PROGRAM [THEME ...]: faults of real machines, caused on purpose and often; in a session of its own, as root.
 
 For each theme it prints a line for docs/reliability.md: what was tried, how often, what was lost, and what the program held before and
 after. Ends with an error when a photo was harmed, a copy was not whole or something was left behind. Randomness has a fixed seed.
