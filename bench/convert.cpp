@@ -15,49 +15,22 @@
 
 namespace {
 
-struct Order
-{
-    QString source;
-    QString folder;
-    ConversionSettings settings;
-};
-
-std::optional<Order> readOrder(const QStringList &arguments)
-{
-    if (arguments.size() < 4 || arguments.size() > 5) {
-        return std::nullopt;
-    }
-    Order order{.source = QFileInfo(arguments[1]).absoluteFilePath(),
-                .folder = QFileInfo(arguments[2]).absoluteFilePath(),
-                .settings = {}};
-    const auto format = optionFromRawValue<OutputFormat>(arguments[3].toUpper());
-    bool isNumber = true;
-    if (arguments.size() == 5) {
-        order.settings.jpegQuality = arguments[4].toDouble(&isNumber);
-    }
-    if (!format || !isNumber) {
-        return std::nullopt;
-    }
-    order.settings.format = *format;
-    return order;
-}
-
-/// The engine places copies beside or below the source. A passing folder with two links, the photo and its
-/// subfolder, makes FOLDER the place where they go.
-ConversionOutcome convertInto(const Order &order)
+/// The engine writes copies beside or below the source. In a temporary folder it finds a link to the source,
+/// and a link to `folder` in place of its own subfolder.
+ConversionOutcome convertInto(const QString &folder, const QString &source,
+                              const ConversionSettings &settings)
 {
     const auto engine = ConversionEngine::create(ImageWorkerLauncher::create());
     engine->prepare();
-    const QTemporaryDir passing(QDir(order.folder).filePath(QStringLiteral(".convert-XXXXXX")));
-    const QDir links(passing.path());
-    const QString photo = links.filePath(QFileInfo(order.source).fileName());
-    if (!passing.isValid() || !QFile::link(order.source, photo) ||
-        !QFile::link(order.folder, links.filePath(QStringLiteral("Lumaport")))) {
+    const QTemporaryDir temporary(QDir(folder).filePath(QStringLiteral(".convert-XXXXXX")));
+    const QString photo = temporary.filePath(QFileInfo(source).fileName());
+    if (!temporary.isValid() || !QFile::link(source, photo) ||
+        !QFile::link(folder, temporary.filePath(QStringLiteral("Lumaport")))) {
         return tl::unexpected(ConversionError::cannotWriteImage);
     }
     ConversionOutcome result;
     QEventLoop loop;
-    engine->convert(QUrl::fromLocalFile(photo), order.settings, &loop, [&](const ConversionOutcome &outcome) {
+    engine->convert(QUrl::fromLocalFile(photo), settings, &loop, [&](const ConversionOutcome &outcome) {
         result = outcome;
         loop.quit();
     });
@@ -71,17 +44,25 @@ ConversionOutcome convertInto(const Order &order)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    QTextStream errors(stderr);
-    const auto order = readOrder(QCoreApplication::arguments());
-    if (!order) {
-        errors << "usage: convert SOURCE FOLDER png|jpeg [QUALITY]\n";
+    const QStringList arguments = QCoreApplication::arguments();
+    const auto format = optionFromRawValue<OutputFormat>(arguments.value(3).toUpper());
+    ConversionSettings settings;
+    bool isNumber = true;
+    if (arguments.size() > 4) {
+        settings.jpegQuality = arguments[4].toDouble(&isNumber);
+    }
+    if (!format || !isNumber || arguments.size() > 5) {
+        QTextStream(stderr) << "usage: convert SOURCE FOLDER png|jpeg [QUALITY]\n";
         return 2;
     }
-    const ConversionOutcome outcome = convertInto(*order);
+    settings.format = *format;
+    const QString folder = QFileInfo(arguments[2]).absoluteFilePath();
+    const ConversionOutcome outcome =
+        convertInto(folder, QFileInfo(arguments[1]).absoluteFilePath(), settings);
     if (!outcome) {
-        errors << description(outcome.error()) << '\n';
+        QTextStream(stderr) << description(outcome.error()) << '\n';
         return 1;
     }
-    QTextStream(stdout) << QDir(order->folder).filePath(outcome->outputURL.fileName()) << '\n';
+    QTextStream(stdout) << QDir(folder).filePath(outcome->outputURL.fileName()) << '\n';
     return 0;
 }

@@ -1,5 +1,5 @@
-// decode SOURCE [COUNT]: decodes every tile of a photo on all processors and throws the pictures away: the
-// floor under any conversion. COUNT times, one after another.
+// decode SOURCE [COUNT]: decodes every tile of a photo on all processors and throws the pictures away: no
+// conversion can be faster. COUNT times, one after another.
 
 #include "CodecConfiguration.h"
 #include "ItemData.h"

@@ -6,7 +6,7 @@ import time
 
 
 def measure(command, folder):
-    """Wall and processor seconds, peak memory in MB and the size in MB of what is in `folder` then; nothing when it fails."""
+    """Wall and processor seconds, peak memory in MB and the size in MB of what is in `folder` then; None when it fails."""
     for old in folder.iterdir():
         old.unlink()
     start = time.perf_counter()

@@ -1,4 +1,5 @@
-"""A photo of 200 megapixels for the bench, laid out of the tiles of a smaller one again and again, turned a quarter."""
+"""A photo of 200 megapixels for the bench, made of the tiles of a smaller one, repeated, and turned by a quarter."""
+import itertools
 import struct
 
 COLUMNS, ROWS, SIDE = 32, 24, 512
@@ -31,25 +32,12 @@ def child(data, *path):
 
 
 def tiles_of(photo):
-    """Data of the photo's tiles, by an item location box of version 1 with offsets and lengths of 4 bytes."""
+    """Data of the photo's tiles, by an item location box of version 1 with one extent for each item."""
     location = child(photo, b"meta", b"iloc")
-    if location[0] != 1 or location[4] != 0x44:
+    if location[0] != 1 or location[4:6] != b"\x44\x00":  # offsets and lengths of 4 bytes, no base offsets
         raise ValueError("not a photo this can be made of")
-    base = location[5] >> 4
-    count, = struct.unpack(">H", location[6:8])
-    position = 8
-    tiles = []
-    for _ in range(count):
-        method, = struct.unpack(">H", location[position + 2:position + 4])
-        position += 6 + base
-        extents, = struct.unpack(">H", location[position:position + 2])
-        position += 2
-        for _ in range(extents):
-            offset, length = struct.unpack(">II", location[position:position + 8])
-            position += 8
-            if method == 0:
-                tiles.append(photo[offset:offset + length])
-    return tiles
+    return [photo[offset:offset + length]
+            for _, method, _, _, offset, length in struct.iter_unpack(">HHHHII", location[8:]) if method == 0]
 
 
 def make_mosaic(photo, tile_count):
@@ -82,8 +70,6 @@ def make_mosaic(photo, tile_count):
             full_box(b"iloc", 1, b"\x44\x00", struct.pack(">H", grid), places))
 
     start = len(header) + len(meta([(0, 0)] * total)) + 8
-    places = []
-    for tile in tiles:
-        places.append((start, len(tile)))
-        start += len(tile)
-    return header + meta([places[index % len(places)] for index in range(total)]) + box(b"mdat", *tiles)
+    starts = itertools.accumulate(map(len, tiles), initial=start)
+    places = itertools.cycle(zip(starts, map(len, tiles)))
+    return header + meta(list(itertools.islice(places, total))) + box(b"mdat", *tiles)

@@ -3,14 +3,15 @@ program with a full stored history and of another Qt program that shows pictures
 """
 import json
 import pathlib
-import re
 import shutil
 import subprocess
 import sys
 import time
 import uuid
 
-HOME = pathlib.Path.home()
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests/e2e"))
+from support import HOME, fresh, resident, windows
+
 MINUTE = 60  # seconds
 STARTS = 3
 
@@ -21,21 +22,20 @@ def store_history():
     subprocess.run(["convert", "-size", "1200x900", "plasma:fractal", copy], check=True)
     entries = []
     for number in range(12):
-        shutil.copy(copy, HOME / f"IMG_{number}.png")
-        entries.append({"id": str(uuid.uuid4()).upper(), "sourceName": f"IMG_{number}.HEIC", "outputName": f"IMG_{number}.png",
-                        "status": "ready", "createdAt": 7.9e8 + number, "sourceURL": (HOME / f"IMG_{number}.HEIC").as_uri(),
-                        "outputURL": (HOME / f"IMG_{number}.png").as_uri()})
-    settings = HOME / ".config/lumaport/lumaport.conf"
-    settings.parent.mkdir(parents=True)
+        name = f"IMG_{number}"
+        shutil.copy(copy, HOME / f"{name}.png")
+        entries.append({"id": str(uuid.uuid4()).upper(), "sourceName": f"{name}.HEIC", "outputName": f"{name}.png",
+                        "status": "ready", "createdAt": 7.9e8 + number, "sourceURL": (HOME / f"{name}.HEIC").as_uri(),
+                        "outputURL": (HOME / f"{name}.png").as_uri()})
     history = json.dumps(entries).replace('"', '\\"')
-    settings.write_text(f'[General]\nhasSeenSignatureWelcome=true\nrecentItems="@ByteArray({history})"\n', encoding="utf-8")
+    fresh(f'[General]\nhasSeenSignatureWelcome=true\nrecentItems="@ByteArray({history})"\n')
 
 
 def start(command, window_class):
     """The started process and the seconds until its window was on the screen."""
     begun = time.perf_counter()
     process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    while subprocess.run(["xdotool", "search", "--onlyvisible", "--class", window_class], capture_output=True).returncode != 0:
+    while not windows(window_class, "--class"):
         if process.poll() is not None or time.perf_counter() - begun > MINUTE:
             sys.exit(f"{command[0]} shows no window")
     return process, time.perf_counter() - begun
@@ -44,12 +44,6 @@ def start(command, window_class):
 def end(process):
     process.terminate()
     process.wait()
-
-
-def resident(process):
-    """Megabytes."""
-    status = pathlib.Path(f"/proc/{process.pid}/status").read_text()
-    return int(re.search(r"VmRSS:\s+(\d+)", status).group(1)) / 1e3
 
 
 def main():

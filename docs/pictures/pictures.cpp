@@ -1,3 +1,5 @@
+#include "DefaultsStore.h"
+#include "MainViewController.h"
 #include "MenuBarViewController.h"
 #include "ModelScene.h"
 #include "Typeface.h"
@@ -8,31 +10,53 @@
 #include <cstdio>
 #include <functional>
 
-// Renders the views in their states, light and dark, with fixed data and without motion. Usage: pictures
-// FOLDER [TRANSLATION.qm]. The scale is that of the platform (QT_SCALE_FACTOR); it is part of the files'
-// names.
+// Renders the views and the main window in their states, light and dark, with fixed data and without motion.
+// Usage: pictures FOLDER [TRANSLATION.qm]. The scale is that of the platform (QT_SCALE_FACTOR); it is part of
+// the files' names, and any but 1 is for one size of the main window only.
 
 namespace {
+
+/// A model with a controller for each view that needs one.
+class PictureScene : public ModelScene
+{
+public:
+    PictureScene()
+    {
+        appearance.setMotion(SystemAppearance::Motion::Reduced);
+        fixture.defaults->store(QStringLiteral("hasSeenSignatureWelcome"), true);
+        main = std::make_unique<MainViewController>(model, fixture.defaults);
+    }
+    ~PictureScene() { close(); }
+    PictureScene(const PictureScene &) = delete;
+    PictureScene &operator=(const PictureScene &) = delete;
+
+    MenuBarViewController panel{model, {.openMain = [] {}, .quit = [] {}}};
+    std::unique_ptr<MainViewController> main;
+};
 
 struct Picture
 {
     QString name;
-    QByteArray content; ///< the view, with its size
-    std::function<void(ModelScene &)> prepare = [](ModelScene &) {};
+    QSize size;
+    QByteArray content;
+    std::function<void(PictureScene &)> prepare = [](PictureScene &) {};
 };
 
-QByteArray page(int width, int height, const QByteArray &content)
+QByteArray pageOf(const Picture &picture)
 {
-    return "import QtQuick\nimport Lumaport.Vocabulary\nimport Lumaport.Interaction\nimport Lumaport.Views\n"
-           "import Lumaport.Stage\nimport Lumaport.History\nimport Lumaport.Options\nimport "
-           "Lumaport.Controls\n"
-           "import Lumaport.StatusItem\n"
-           "Rectangle { id: page; property MenuBarViewController panelController; color: "
-           "LumaportPalette.night; width: " +
-           QByteArray::number(width) + "; height: " + QByteArray::number(height) + "\n" + content + "\n}";
+    QByteArray imports = "import QtQuick\n";
+    for (const char *module : {"Vocabulary", "Interaction", "Views", "Stage", "History", "Options",
+                               "Controls", "StatusItem", "Welcome"}) {
+        imports += QByteArray("import Lumaport.") + module + '\n';
+    }
+    return imports +
+           "Rectangle { id: page; required property MenuBarViewController panel; required property "
+           "MainViewController main; color: LumaportPalette.night; width: " +
+           QByteArray::number(picture.size.width()) +
+           "; height: " + QByteArray::number(picture.size.height()) + "\n" + picture.content + "\n}";
 }
 
-QByteArray symbolPage()
+Picture symbolPage()
 {
     QByteArray cells;
     const QStringList files = QDir(QStringLiteral(":/symbols")).entryList();
@@ -48,10 +72,11 @@ QByteArray symbolPage()
                  file.chopped(4).toLatin1() + "' } }\n";
     }
     const int rows = static_cast<int>(files.size() + 1) / 2;
-    return page(720, rows * 36 + 40, "Grid { x: 20; y: 20; columns: 2; " + cells + "}");
+    return {QStringLiteral("symbols"), QSize(720, rows * 36 + 40),
+            "Grid { x: 20; y: 20; columns: 2; " + cells + "}"};
 }
 
-void setSettings(ModelScene &scene, OutputFormat format, double quality)
+void setSettings(PictureScene &scene, OutputFormat format, double quality)
 {
     ConversionSettings settings = scene.model.settings();
     settings.format = format;
@@ -59,7 +84,7 @@ void setSettings(ModelScene &scene, OutputFormat format, double quality)
     scene.model.setSettings(settings);
 }
 
-QList<ConversionItem> oneOfEachState(ModelScene &scene)
+QList<ConversionItem> oneOfEachState(PictureScene &scene)
 {
     QList<ConversionItem> items{
         scene.item(QStringLiteral("IMG_2044.HEIC"), ConversionStatus::queued, "steelblue"),
@@ -74,14 +99,51 @@ QList<ConversionItem> oneOfEachState(ModelScene &scene)
     return items;
 }
 
-QList<Picture> pictures()
+void pause(PictureScene &scene)
 {
-    const QByteArray monitoring = page(480, 110, "MonitoringControl { x: 20; y: 20; width: 440 }");
-    const QByteArray arrivals = page(520, 520, "ArrivalsList { x: 20; y: 20; width: 480 }");
-    const QByteArray options = page(258, 660, "OptionsPanel { anchors.fill: parent }");
-    const QByteArray format = page(170, 70, "FormatControl { anchors.centerIn: parent }");
-    const QByteArray appearance = page(170, 70, "AppearanceControl { anchors.centerIn: parent }");
-    const QByteArray buttons = page(480, 150, R"(
+    scene.model.setIsWatching(false);
+}
+
+void loseFolder(PictureScene &scene)
+{
+    QDir(scene.fixture.home.path()).rmdir(QStringLiteral("Photos"));
+    scene.model.retryMonitoring();
+}
+
+QUrl photo(PictureScene &scene)
+{
+    return scene.item(QStringLiteral("IMG_2044.HEIC"), ConversionStatus::queued, "lightskyblue/steelblue")
+        .sourceURL;
+}
+
+void queueOne(PictureScene &scene)
+{
+    scene.model.convertManually({photo(scene)});
+}
+
+void convertOne(PictureScene &scene)
+{
+    queueOne(scene);
+    ModelFixture::turn();
+}
+
+void fillHistory(PictureScene &scene)
+{
+    scene.model.setItems(
+        {scene.item(QStringLiteral("IMG_2043.HEIC"), ConversionStatus::ready, "moccasin/seagreen"),
+         scene.item(QStringLiteral("IMG_2042.HEIC"), ConversionStatus::ready, "gold/tomato"),
+         scene.item(QStringLiteral("IMG_2041.HEIC"), ConversionStatus::failed, "?")});
+}
+
+QList<Picture> viewPictures()
+{
+    QList<Picture> pictures{symbolPage()};
+    const auto add = [&pictures](
+                         const char *name, const Picture &view,
+                         const std::function<void(PictureScene &)> &prepare = [](PictureScene &) {}) {
+        pictures.append({QLatin1String(name), view.size, view.content, prepare});
+    };
+    add("buttons", {.size = {480, 150}, .content = R"(
         Row {
             x: 20; y: 20; spacing: 14
             QuietButton { text: "Pause" }
@@ -97,74 +159,134 @@ QList<Picture> pictures()
             PhotoThumbnail { width: 52; height: 52; cornerRadius: 11; variant: 1 }
             TextButton { text: "Clear history" }
             SymbolLabel { symbol: "lock.shield"; text: "Private by design"; color: LumaportPalette.muted; font.pixelSize: 11 }
-        })");
-    const QByteArray panel = page(400, 480, R"(
+        })"});
+    const Picture monitoring{.size = {480, 110}, .content = "MonitoringControl { x: 20; y: 20; width: 440 }"};
+    add("monitoring-on", monitoring);
+    add("monitoring-paused", monitoring, pause);
+    add("monitoring-unavailable", monitoring, loseFolder);
+
+    const auto jpeg = [](double quality) {
+        return [quality](PictureScene &scene) { setSettings(scene, OutputFormat::jpeg, quality); };
+    };
+    const Picture format{.size = {170, 70}, .content = "FormatControl { anchors.centerIn: parent }"};
+    add("format-png", format);
+    add("format-jpeg", format, jpeg(0.9));
+    add("appearance", {.size = {170, 70}, .content = "AppearanceControl { anchors.centerIn: parent }"});
+
+    const auto arrivals = [](PictureScene &scene) { scene.model.setItems(oneOfEachState(scene)); };
+    const QByteArray wide = "ArrivalsList { x: 20; y: 20; width: 480 }";
+    add("arrivals-empty", {.size = {520, 150}, .content = wide});
+    add("arrivals", {.size = {520, 520}, .content = wide}, arrivals);
+    add("arrivals-narrow", {.size = {320, 620}, .content = "ArrivalsList { x: 20; y: 20; width: 280 }"},
+        arrivals);
+
+    const Picture options{.size = {258, 660}, .content = "OptionsPanel { anchors.fill: parent }"};
+    add("options-png", options, [](PictureScene &scene) { scene.watch(QStringLiteral("Downloads")); });
+    add("options-jpeg", options, [jpeg](PictureScene &scene) {
+        scene.watch(QStringLiteral("Downloads"));
+        jpeg(0.85)(scene);
+    });
+    add("options-busy-long-path", options, [](PictureScene &scene) {
+        scene.watch(QStringLiteral("Photos of the whole family/Every single one/2026 and before/Arrivals"));
+        scene.model.setItems({scene.item(QStringLiteral("a.heic"), ConversionStatus::converting)});
+    });
+
+    const Picture panel{.size = {400, 480}, .content = R"(
         MenuBarView {
             x: 20; y: 20; width: implicitWidth; height: implicitHeight
-            controller: page.panelController
-        })");
-    const auto panelWith = [](int newest) {
-        return [newest](ModelScene &scene) { scene.model.setItems({oneOfEachState(scene).at(newest)}); };
+            controller: page.panel
+        })"};
+    add("panel-empty", panel);
+    add("panel-paused", panel, pause);
+    int newest = 0;
+    for (const char *name : {"panel-queued", "panel-converting", "panel-ready", "panel-failed"}) {
+        add(name, panel, [state = newest++](PictureScene &scene) {
+            scene.model.setItems({oneOfEachState(scene).at(state)});
+        });
+    }
+    return pictures;
+}
+
+QList<Picture> mainWindowPictures(QSize size)
+{
+    QList<Picture> pictures;
+    const QString sizeName = QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
+    const auto add = [&](const char *state, const std::function<void(PictureScene &)> &prepare) {
+        pictures.append({QStringLiteral("main-%1-%2").arg(QLatin1String(state), sizeName), size,
+                         "MainView { anchors.fill: parent; controller: page.main }", prepare});
     };
-    return {
-        {QStringLiteral("symbols"), symbolPage()},
-        {QStringLiteral("buttons"), buttons},
-        {QStringLiteral("monitoring-on"), monitoring},
-        {QStringLiteral("monitoring-paused"), monitoring,
-         [](ModelScene &scene) { scene.model.setIsWatching(false); }},
-        {QStringLiteral("monitoring-unavailable"), monitoring,
-         [](ModelScene &scene) {
-             QDir(scene.fixture.home.path()).rmdir(QStringLiteral("Photos"));
-             scene.model.retryMonitoring();
-         }},
-        {QStringLiteral("format-png"), format},
-        {QStringLiteral("format-jpeg"), format,
-         [](ModelScene &scene) { setSettings(scene, OutputFormat::jpeg, 0.9); }},
-        {QStringLiteral("appearance"), appearance},
-        {QStringLiteral("arrivals-empty"), page(520, 150, "ArrivalsList { x: 20; y: 20; width: 480 }")},
-        {QStringLiteral("arrivals"), arrivals,
-         [](ModelScene &scene) { scene.model.setItems(oneOfEachState(scene)); }},
-        {QStringLiteral("arrivals-narrow"), page(320, 620, "ArrivalsList { x: 20; y: 20; width: 280 }"),
-         [](ModelScene &scene) { scene.model.setItems(oneOfEachState(scene)); }},
-        {QStringLiteral("options-png"), options,
-         [](ModelScene &scene) { scene.watch(QStringLiteral("Downloads")); }},
-        {QStringLiteral("options-jpeg"), options,
-         [](ModelScene &scene) {
-             scene.watch(QStringLiteral("Downloads"));
-             setSettings(scene, OutputFormat::jpeg, 0.85);
-         }},
-        {QStringLiteral("options-busy-long-path"), options,
-         [](ModelScene &scene) {
-             scene.watch(
-                 QStringLiteral("Photos of the whole family/Every single one/2026 and before/Arrivals"));
-             scene.model.setItems({scene.item(QStringLiteral("a.heic"), ConversionStatus::converting)});
-         }},
-        {QStringLiteral("panel-empty"), panel},
-        {QStringLiteral("panel-paused"), panel, [](ModelScene &scene) { scene.model.setIsWatching(false); }},
-        {QStringLiteral("panel-queued"), panel, panelWith(0)},
-        {QStringLiteral("panel-converting"), panel, panelWith(1)},
-        {QStringLiteral("panel-ready"), panel, panelWith(2)},
-        {QStringLiteral("panel-failed"), panel, panelWith(3)},
-    };
+    add("idle-empty", [](PictureScene &) {});
+    add("idle", fillHistory);
+    add("dragging", [](PictureScene &scene) {
+        fillHistory(scene);
+        scene.main->dragEntered({photo(scene)});
+    });
+    add("queued", queueOne);
+    add("converting", convertOne);
+    add("ready", [](PictureScene &scene) {
+        fillHistory(scene);
+        convertOne(scene);
+        const auto copy =
+            scene.item(QStringLiteral("IMG_2044.png"), ConversionStatus::ready, "lightskyblue/steelblue");
+        scene.fixture.engine->succeed(copy.sourceURL.fileName());
+    });
+    add("failed", [](PictureScene &scene) {
+        convertOne(scene);
+        scene.fixture.engine->fail(ConversionError::unreadableImage);
+    });
+    add("unavailable", loseFolder);
+    add("paused", pause);
+    add("options", [](PictureScene &scene) {
+        fillHistory(scene);
+        scene.watch(QStringLiteral("Downloads"));
+        scene.main->setOptionsVisible(true);
+    });
+    add("recent", [](PictureScene &scene) {
+        fillHistory(scene);
+        scene.main->setShowingHistory(true);
+    });
+    for (const char *elapsed : {"0.0", "0.8", "1.5", "2.5"}) {
+        pictures.append(
+            {QStringLiteral("welcome-%1-%2").arg(QLatin1String(elapsed), sizeName), size,
+             QByteArray("FirstLaunchView { anchors.fill: parent; backdrop: true; playing: false; "
+                        "artworkSource: '" LUMAPORT_SIGNATURE_ARTWORK "'; elapsed: ") +
+                 elapsed + " }",
+             [](PictureScene &scene) { scene.appearance.setMotion(SystemAppearance::Motion::Full); }});
+    }
+    return pictures;
 }
 
 QImage rendered(const Picture &picture, SystemAppearance::ColorScheme scheme)
 {
-    ModelScene scene;
-    scene.appearance.setMotion(SystemAppearance::Motion::Reduced);
+    PictureScene scene;
     scene.appearance.setSystemScheme(scheme);
     picture.prepare(scene);
-    MenuBarViewController panel(scene.model, [] {});
-    scene.show(picture.content.constData(),
-               {{QStringLiteral("panelController"), QVariant::fromValue(&panel)}});
+    scene.show(pageOf(picture).constData(),
+               {{QStringLiteral("panel"), QVariant::fromValue(&scene.panel)},
+                {QStringLiteral("main"), QVariant::fromValue(scene.main.get())}});
     const qsizetype thumbnails = scene.find(QStringLiteral("thumbnail")) ? scene.model.items().size() : 0;
     (void)QTest::qWaitFor([&] { return scene.photos->launched >= thumbnails && scene.photos->running == 0; });
     QCoreApplication::processEvents();
     QImage image = scene.window.grabWindow();
     image.setDevicePixelRatio(
         scene.window.effectiveDevicePixelRatio()); // the software renderer leaves it out
-    scene.close();
     return image;
+}
+
+bool drawInto(const QDir &folder, const Picture &picture)
+{
+    using Scheme = SystemAppearance::ColorScheme;
+    for (const auto &[look, scheme] : {std::pair("light", Scheme::Light), std::pair("dark", Scheme::Dark)}) {
+        const QImage image = rendered(picture, scheme);
+        const QString file = folder.filePath(QStringLiteral("%1-%2-%3x.png")
+                                                 .arg(picture.name, QLatin1String(look))
+                                                 .arg(image.devicePixelRatio()));
+        if (!image.save(file)) {
+            std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -184,22 +306,13 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "cannot load %s\n", qPrintable(arguments.at(2)));
         return 1;
     }
-    const QDir folder(arguments.at(1));
-    const auto all = pictures();
-    for (const Picture &picture : all) {
-        for (const auto scheme :
-             {SystemAppearance::ColorScheme::Light, SystemAppearance::ColorScheme::Dark}) {
-            const QImage image = rendered(picture, scheme);
-            const QString file = QStringLiteral("%1-%2-%3x.png")
-                                     .arg(picture.name, scheme == SystemAppearance::ColorScheme::Dark
-                                                            ? QStringLiteral("dark")
-                                                            : QStringLiteral("light"))
-                                     .arg(image.devicePixelRatio());
-            if (!image.save(folder.filePath(file))) {
-                std::fprintf(stderr, "cannot write %s\n", qPrintable(folder.filePath(file)));
-                return 1;
-            }
-        }
+    QList<Picture> pictures = viewPictures() + mainWindowPictures({900, 780});
+    if (qFuzzyCompare(application.devicePixelRatio(), 1.0)) {
+        pictures += mainWindowPictures({800, 620}) + mainWindowPictures({1400, 1000});
     }
-    return 0;
+    const QDir folder(arguments.at(1));
+    return std::all_of(pictures.cbegin(), pictures.cend(),
+                       [&folder](const Picture &picture) { return drawInto(folder, picture); })
+               ? 0
+               : 1;
 }

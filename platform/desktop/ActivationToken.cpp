@@ -4,7 +4,7 @@
 
 void useActivationToken(const QString &token)
 {
-    // Where Qt's Wayland plugin looks for one that it did not ask for itself; it takes it from there.
+    // Qt's Wayland plugin takes the token from here for the next window.
     if (!token.isEmpty()) {
         qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
     }

@@ -12,19 +12,12 @@
 
 namespace {
 
-QString service()
-{
-    return QStringLiteral("org.freedesktop.Notifications");
-}
-
-QString objectPath()
-{
-    return QStringLiteral("/org/freedesktop/Notifications");
-}
+constexpr QLatin1String service("org.freedesktop.Notifications");
+constexpr QLatin1String objectPath("/org/freedesktop/Notifications");
 
 QDBusMessage call(const QString &method)
 {
-    return QDBusMessage::createMethodCall(service(), objectPath(), service(), method);
+    return QDBusMessage::createMethodCall(service, objectPath, service, method);
 }
 
 } // namespace
@@ -42,14 +35,14 @@ DesktopNotificationCenter::DesktopNotificationCenter(const QDBusConnection &bus,
     , m_jobs(std::move(jobs))
     , m_chime(std::move(chime))
 {
-    m_bus.connect(service(), objectPath(), service(), QStringLiteral("ActionInvoked"), this,
+    m_bus.connect(service, objectPath, service, QStringLiteral("ActionInvoked"), this,
                   SLOT(actionInvoked(uint, QString)));
-    m_bus.connect(service(), objectPath(), service(), QStringLiteral("NotificationClosed"), this,
+    m_bus.connect(service, objectPath, service, QStringLiteral("NotificationClosed"), this,
                   SLOT(notificationClosed(uint, uint)));
-    m_bus.connect(service(), objectPath(), service(), QStringLiteral("ActivationToken"), this,
+    m_bus.connect(service, objectPath, service, QStringLiteral("ActivationToken"), this,
                   SLOT(activationToken(uint, QString)));
     const auto *watcher =
-        new QDBusServiceWatcher(service(), m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
+        new QDBusServiceWatcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             &DesktopNotificationCenter::forgetService);
 }

@@ -8,8 +8,8 @@
 
 namespace {
 
-/// Whether the answer says that nothing was shown. One that is missing does not: a slow file manager may
-/// still open its window, and a second window would be one too many.
+/// Whether the answer says that nothing was shown. A missing answer does not: a slow file manager may still
+/// open its window, and there would be two.
 bool isRefusal(const QDBusError &error)
 {
     const QList<QDBusError::ErrorType> missing{QDBusError::NoReply, QDBusError::Timeout,

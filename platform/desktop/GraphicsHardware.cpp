@@ -7,7 +7,7 @@
 
 bool GraphicsHardware::isPresent()
 {
-    // Drivers with an interface of their own: NVIDIA, Mali, Adreno, and Windows' behind Linux.
+    // Drivers with an interface of their own: NVIDIA, Mali, Adreno, and the Linux subsystem of Windows.
     const QStringList devices = {QStringLiteral("/dev/nvidiactl"), QStringLiteral("/dev/mali0"),
                                  QStringLiteral("/dev/kgsl-3d0"), QStringLiteral("/dev/dxg")};
     return !QDir(QStringLiteral("/dev/dri")).isEmpty(QDir::System | QDir::NoDotAndDotDot) ||

@@ -18,7 +18,7 @@ struct OpenPanelRequest
     Choice choice = Choice::photoFiles;
     QString title;
     QString prompt; ///< the text of the button that accepts
-    QUrl folder;    ///< where it opens; empty: where the desktop thinks best
+    QUrl folder;    ///< where it opens; empty: where the desktop chooses
 };
 
 /// Asks the user for files or for a folder.

@@ -6,15 +6,8 @@
 
 namespace {
 
-QString serviceName()
-{
-    return QStringLiteral("io.lumaport.Lumaport");
-}
-
-QString objectPath()
-{
-    return QStringLiteral("/io/lumaport/Lumaport");
-}
+constexpr QLatin1String serviceName("io.lumaport.Lumaport");
+constexpr QLatin1String objectPath("/io/lumaport/Lumaport");
 
 void useTokenOf(const QVariantMap &platformData)
 {
@@ -31,8 +24,8 @@ SingleInstance::SingleInstance(const QDBusConnection &bus, QObject *parent)
 SingleInstance::~SingleInstance()
 {
     if (m_isClaimed) {
-        m_bus.unregisterService(serviceName());
-        m_bus.unregisterObject(objectPath());
+        m_bus.unregisterService(serviceName);
+        m_bus.unregisterObject(objectPath);
     }
 }
 
@@ -42,10 +35,10 @@ bool SingleInstance::claim()
         return true;
     }
     // The object first: whoever sees the name may call at once.
-    m_bus.registerObject(objectPath(), this, QDBusConnection::ExportAllSlots);
-    m_isClaimed = m_bus.registerService(serviceName());
+    m_bus.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
+    m_isClaimed = m_bus.registerService(serviceName);
     if (!m_isClaimed) {
-        m_bus.unregisterObject(objectPath());
+        m_bus.unregisterObject(objectPath);
     }
     return m_isClaimed;
 }
@@ -54,7 +47,7 @@ bool SingleInstance::forward(const QList<QUrl> &files) const
 {
     const QString method = files.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open");
     QDBusMessage message = QDBusMessage::createMethodCall(
-        serviceName(), objectPath(), QStringLiteral("org.freedesktop.Application"), method);
+        serviceName, objectPath, QStringLiteral("org.freedesktop.Application"), method);
     if (!files.isEmpty()) {
         QStringList uris;
         for (const QUrl &file : files) {

@@ -21,7 +21,7 @@ public:
     bool claim();
 
     /// Asks the first process to show its window, with the files that this one was given, and waits until it
-    /// has. False when it did not: it may have been on its way out.
+    /// has. False when it did not: it may just be ending.
     bool forward(const QList<QUrl> &files) const;
 
     // NOLINTBEGIN(readability-identifier-naming): the names on the bus.

@@ -10,7 +10,7 @@ bool isDarkPalette(const QPalette &palette)
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
-// The desktop's own palette where it already has the wanted lightness, for it knows its accent and its
+// The desktop's own palette where it is as light or dark as wanted, because it has the desktop's accent and
 // contrast; else two colours from which Qt derives the rest.
 void applyWidgetPalette(SystemAppearance::ColorScheme scheme)
 {
@@ -56,7 +56,7 @@ void SystemAppearance::force(std::optional<ColorScheme> scheme)
 void SystemAppearance::update()
 {
     const ColorScheme effective = m_forced.value_or(m_system);
-    applyWidgetPalette(effective); // also when it stays: the desktop's own palette may be another
+    applyWidgetPalette(effective); // even if the scheme stays: the desktop's own palette may have changed
     if (m_effective != effective) {
         m_effective = effective;
         Q_EMIT darkChanged();

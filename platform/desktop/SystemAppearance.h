@@ -6,9 +6,9 @@
 
 /// How the program is to look and move at this moment: what the desktop asks for, unless a scheme is forced.
 ///
-/// It starts light and with full motion, which is also what holds where no desktop says anything. Whoever
-/// knows the desktop's wishes hands them in (see SettingsPortal); a forced scheme goes before them.
-/// The application's widget palette is set with it, so that file dialogs and menus follow.
+/// It starts light and with full motion, and stays so where the desktop says nothing. SettingsPortal sets
+/// what the desktop asks for; a forced scheme overrides its scheme. The application's widget palette is set
+/// too, so that file dialogs and menus follow.
 class SystemAppearance : public QObject
 {
     Q_OBJECT

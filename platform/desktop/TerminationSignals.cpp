@@ -10,7 +10,7 @@ namespace {
 
 constexpr int terminating[] = {SIGHUP, SIGINT, SIGTERM};
 
-// A handler may do next to nothing: it writes one byte, which wakes the event loop.
+// A signal handler may call few functions: this one writes one byte, which wakes the event loop.
 std::atomic<int> wakeUpEnd = -1;
 
 void wakeUp(int /*signal*/)

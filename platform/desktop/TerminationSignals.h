@@ -6,7 +6,7 @@
 #include <memory>
 
 /// Turns the signals by which a session ends its programs (hangup, interrupt, terminate) into a Qt signal, so
-/// that the application ends as when the user quits it. One at a time.
+/// that the application ends as when the user quits it. Only one such object may exist.
 class TerminationSignals : public QObject
 {
     Q_OBJECT

@@ -26,7 +26,7 @@ public:
 
     std::optional<bool> boolean(const QString &key) const override
     {
-        // The file holds words; anything but these two is nothing that was stored here.
+        // A Boolean is stored as one of these words.
         const QString word = m_settings.value(key).toString();
         if (word == QLatin1String("true")) {
             return true;

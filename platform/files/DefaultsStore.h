@@ -20,8 +20,8 @@ public:
     virtual void store(const QString &key, const QByteArray &data) = 0;
     virtual void store(const QString &key, bool value) = 0;
 
-    /// A store in one file, replaced as a whole at each change, so that an end at any moment leaves old or
-    /// new.
+    /// A store in one file, which each change replaces as a whole: it holds the old values or the new ones,
+    /// whenever the process ends.
     static std::unique_ptr<DefaultsStore> inFile(const QString &path);
     /// The user's own: `lumaport/lumaport.conf` in the configuration folder.
     static std::unique_ptr<DefaultsStore> standard();

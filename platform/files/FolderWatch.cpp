@@ -24,7 +24,7 @@ constexpr std::array<std::uint32_t, 11> servedFileSystems = {
     NFS_SUPER_MAGIC, SMB_SUPER_MAGIC, SMB2_SUPER_MAGIC, CIFS_SUPER_MAGIC, FUSE_SUPER_MAGIC, V9FS_MAGIC,
     AFS_SUPER_MAGIC, AFS_FS_MAGIC,    CODA_SUPER_MAGIC, CEPH_SUPER_MAGIC, virtualBoxShare};
 
-/// The last system call's error; one and the same for every limit that may be reached.
+/// The last system call's error; the same one for every limit on files and watches.
 std::error_code lastError()
 {
     const bool isLimit = errno == EMFILE || errno == ENFILE || errno == ENOSPC || errno == ENOMEM;

@@ -7,7 +7,7 @@
 #include <system_error>
 #include <tl/expected.hpp>
 
-/// A file that has no name until it is whole, so that no end of the process leaves a part of it behind.
+/// A file without a name until it is whole, so that a process that ends early leaves no part of it behind.
 class ScratchFile
 {
 public:
@@ -17,7 +17,7 @@ public:
     /// Open for reading and writing.
     const FileDescriptor &descriptor() const { return m_descriptor; }
 
-    /// Brings the content to the disk and gives it a name, on any file system. Never replaces anything:
+    /// Writes the content to the disk and gives it a name, on any file system. Never replaces anything:
     /// `std::errc::file_exists` when the name is taken, and another name may be tried.
     std::error_code placeAs(const QString &path) const;
 

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// The tray of old needs the X server; null without one.
+/// An XEmbed tray needs the X server; null without one.
 std::unique_ptr<StatusItem> trayIconItem()
 {
     return QGuiApplication::platformName() == QLatin1String("xcb") ? std::make_unique<TrayIconItem>()

@@ -11,20 +11,9 @@
 
 namespace {
 
-QString watcherService()
-{
-    return QStringLiteral("org.kde.StatusNotifierWatcher");
-}
-
-QString watcherPath()
-{
-    return QStringLiteral("/StatusNotifierWatcher");
-}
-
-QString itemPath()
-{
-    return QStringLiteral("/StatusNotifierItem");
-}
+constexpr QLatin1String watcherService("org.kde.StatusNotifierWatcher");
+constexpr QLatin1String watcherPath("/StatusNotifierWatcher");
+constexpr QLatin1String itemPath("/StatusNotifierItem");
 
 /// Hosts speak in the pixels of the screens; a screen's origin is the same in both.
 QPoint fromScreenPixels(const QPoint &position)
@@ -45,18 +34,18 @@ QPoint fromScreenPixels(const QPoint &position)
 StatusNotifierItem::StatusNotifierItem(const QDBusConnection &bus, QObject *parent)
     : StatusItem(parent)
     , m_bus(bus)
-    , m_watcher(watcherService(), bus, QDBusServiceWatcher::WatchForOwnerChange)
+    , m_watcher(watcherService, bus, QDBusServiceWatcher::WatchForOwnerChange)
     , m_menu(std::make_unique<StatusNotifierMenu>(bus))
     , m_serviceName(QStringLiteral("org.kde.StatusNotifierItem-%1-1").arg(QGuiApplication::applicationPid()))
 {
     registerStatusNotifierTypes();
-    m_bus.registerObject(itemPath(), this,
+    m_bus.registerObject(itemPath, this,
                          QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportScriptableSignals |
                              QDBusConnection::ExportAllProperties);
     m_bus.registerService(m_serviceName);
     for (const auto &signal :
          {QStringLiteral("StatusNotifierHostRegistered"), QStringLiteral("StatusNotifierHostUnregistered")}) {
-        m_bus.connect(watcherService(), watcherPath(), watcherService(), signal, this, SLOT(askForHost()));
+        m_bus.connect(watcherService, watcherPath, watcherService, signal, this, SLOT(askForHost()));
     }
     connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
             &StatusNotifierItem::registerWithWatcher);
@@ -67,12 +56,12 @@ StatusNotifierItem::~StatusNotifierItem()
 {
     // The watcher drops the item when its name goes.
     m_bus.unregisterService(m_serviceName);
-    m_bus.unregisterObject(itemPath());
+    m_bus.unregisterObject(itemPath);
 }
 
 void StatusNotifierItem::registerWithWatcher()
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(watcherService(), watcherPath(), watcherService(),
+    QDBusMessage message = QDBusMessage::createMethodCall(watcherService, watcherPath, watcherService,
                                                           QStringLiteral("RegisterStatusNotifierItem"));
     message << m_serviceName;
     m_bus.send(message); // without a watcher there is no answer to wait for
@@ -81,10 +70,10 @@ void StatusNotifierItem::registerWithWatcher()
 
 void StatusNotifierItem::askForHost()
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(watcherService(), watcherPath(),
+    QDBusMessage message = QDBusMessage::createMethodCall(watcherService, watcherPath,
                                                           QStringLiteral("org.freedesktop.DBus.Properties"),
                                                           QStringLiteral("Get"));
-    message << watcherService() << QStringLiteral("IsStatusNotifierHostRegistered");
+    message << watcherService << QStringLiteral("IsStatusNotifierHostRegistered");
     auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
         const QDBusPendingReply<QDBusVariant> answer = *reply;
@@ -138,7 +127,7 @@ void StatusNotifierItem::SecondaryActivate(int x, int y)
 
 void StatusNotifierItem::ContextMenu(int x, int y)
 {
-    Activate(x, y); // only asked of items whose menu the host cannot show
+    Activate(x, y); // hosts that can show the menu do not call this
 }
 
 void StatusNotifierItem::Scroll(int /*delta*/, const QString & /*orientation*/)

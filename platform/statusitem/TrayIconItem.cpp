@@ -15,7 +15,7 @@ TrayIconItem::TrayIconItem(QObject *parent)
     m_icon->setContextMenu(m_menu.get());
     connect(m_icon.get(), &QSystemTrayIcon::activated, this,
             [this](QSystemTrayIcon::ActivationReason reason) {
-                // The second of two quick clicks counts as much as the first.
+                // The second of two quick clicks is reported as a double click only.
                 if (reason == QSystemTrayIcon::Trigger || reason == QSystemTrayIcon::DoubleClick) {
                     Q_EMIT activated();
                 }
@@ -32,7 +32,7 @@ void TrayIconItem::setLook(const StatusItemLook &look)
     }
     m_icon->setIcon(icon);
     m_icon->setToolTip(look.toolTip);
-    m_icon->show(); // an icon without a picture is not taken
+    m_icon->show(); // trays refuse an icon without a picture
 }
 
 void TrayIconItem::setMenu(const QList<StatusMenuEntry> &entries)

@@ -7,7 +7,7 @@ class QActionGroup;
 class QMenu;
 class QSystemTrayIcon;
 
-/// A status item in an XEmbed tray. Shown without one, it waits for one to come. These trays show a picture
+/// A status item in an XEmbed tray. Without a tray it waits until one comes. These trays show a picture
 /// and a tooltip: there is no way to give the icon an accessibility label of its own.
 class TrayIconItem : public StatusItem
 {

@@ -11,7 +11,7 @@ public:
     virtual ~ScheduledJob() = default;
 };
 
-/// Runs jobs later, on the thread that scheduled them, by a clock that never jumps.
+/// Runs jobs later, on the thread that scheduled them, by the monotonic clock.
 class JobScheduler
 {
 public:
@@ -19,6 +19,6 @@ public:
     [[nodiscard]] virtual std::unique_ptr<ScheduledJob> after(std::chrono::milliseconds delay,
                                                               std::function<void()> job) = 0;
 
-    /// The one that needs a running event loop.
+    /// One that needs a running event loop.
     static std::unique_ptr<JobScheduler> create();
 };

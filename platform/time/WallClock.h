@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-/// The date of now; for stamps, never for measuring time.
+/// The present date and time; for time stamps, not for measuring how long something takes.
 class WallClock
 {
 public:

@@ -14,26 +14,33 @@ def accessible(name, role="push button"):
     """The program's element of this name and role that shows on the screen; None without one."""
 
     def search(element):
-        for child in element:
-            if child is None:
-                continue
+        for child in filter(None, element):
             if child.name == name and child.getRoleName() == role and child.getState().contains(pyatspi.STATE_SHOWING):
                 return child
             if found := search(child):
                 return found
         return None
 
-    for application in pyatspi.Registry.getDesktop(0):
-        if application is not None and application.name.lower() == "lumaport":
-            return search(application)
-    return None
+    programs = filter(None, pyatspi.Registry.getDesktop(0))
+    program = next((each for each in programs if each.name.lower() == "lumaport"), None)
+    return program and search(program)
 
 
-class UsableChanges:
+def press(name, role="push button"):
+    """Presses a button as a screen reader does."""
+    actions = wait_until(lambda: accessible(name, role), f"the {role} {name}").queryAction()
+    names = [actions.getName(number) for number in range(actions.nActions)]
+    actions.doAction(names.index("Press"))
+
+
+def take_messages():
+    """Hands what has come over the message bus to those who wait for it."""
+    while GLib.MainContext.default().iteration(False):
+        pass
+
+
+class UsableChanges(list):
     """What a screen reader hears of elements that can be pressed or no longer; use it in a with statement."""
-
-    def __init__(self):
-        self.changes = []
 
     def __enter__(self):
         pyatspi.Registry.registerEventListener(self.hear, "object:state-changed:enabled")
@@ -43,16 +50,8 @@ class UsableChanges:
         pyatspi.Registry.deregisterEventListener(self.hear, "object:state-changed:enabled")
 
     def hear(self, event):
-        self.changes.append((event.source.name, bool(event.detail1)))
+        self.append((event.source.name, bool(event.detail1)))
 
     def heard(self, name, usable):
-        while GLib.MainContext.default().iteration(False):
-            pass
-        return (name, usable) in self.changes
-
-
-def press(name, role="push button"):
-    """Presses a button as a screen reader does."""
-    actions = wait_until(lambda: accessible(name, role), f"the {role} {name}").queryAction()
-    names = [actions.getName(number) for number in range(actions.nActions)]
-    actions.doAction(names.index("Press"))
+        take_messages()
+        return (name, usable) in self

@@ -1,12 +1,12 @@
-"""The main window as a person meets it: the welcome, a photo dragged from another program, and rest when nothing happens."""
+"""The main window as a person meets it: the welcome, a photo dragged from another program, and that nothing is drawn when nothing happens."""
 
 import re
-import subprocess
 import sys
 import time
 import unittest
 
-from support import COPIES, DOWNLOADS, HOME, PATIENCE, SETTINGS, Application, client_area, entry, photo, run, wait_until, windows
+from support import (COPIES, DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, fresh, key, move, photo, ready, run,
+                     stored, wait_until, windows)
 
 DRAG_SOURCE = sys.argv.pop()
 PROGRAM = sys.argv.pop()
@@ -27,19 +27,13 @@ def stacking():
 def approach(target):
     """Moves the pointer from the drag source to `target`, step by step, as a hand would."""
     for step in range(13):
-        run("xdotool", "mousemove", *(str(start + (end - start) * step // 12) for start, end in zip((44, 34), target)))
+        move(*(start + (end - start) * step // 12 for start, end in zip((44, 34), target)))
         time.sleep(0.02)
     return True
 
 
 def welcome_seen():
-    return SETTINGS.exists() and "hasSeenSignatureWelcome=true" in SETTINGS.read_text(encoding="utf-8")
-
-
-def press_return(window):
-    """Return does nothing before the button is there: it is pressed until it does."""
-    run("xdotool", "windowfocus", "--sync", window, "key", "Return")
-    return True
+    return stored("hasSeenSignatureWelcome") == "true"
 
 
 class Lumaport(Application):
@@ -53,6 +47,7 @@ class Lumaport(Application):
     def __enter__(self):
         super().__enter__()
         self.window = wait_until(lambda: windows("^Lumaport$"), "the main window")[0]
+        self.rest()
         return self
 
     def is_expected(self, line):
@@ -66,94 +61,66 @@ class Lumaport(Application):
 
 
 class LandingWalk(unittest.TestCase):
-    def setUp(self):
-        subprocess.run(["rm", "-rf", DOWNLOADS, SETTINGS], check=True)
-        DOWNLOADS.mkdir()
-
-    @staticmethod
-    def skip_the_welcome():
-        SETTINGS.parent.mkdir(parents=True, exist_ok=True)
-        SETTINGS.write_text("[General]\nhasSeenSignatureWelcome=true\n", encoding="utf-8")
-
     def test_a_photo_dragged_from_another_program_is_converted(self):
-        self.skip_the_welcome()
+        fresh()
         elsewhere = HOME / "Pictures"
         elsewhere.mkdir(exist_ok=True)
-        photo(elsewhere, "IMG 7.HEIC")
-        with Lumaport() as lumaport:
+        dragged = photo(elsewhere, "IMG 7.HEIC")
+        with Lumaport() as lumaport, Program(DRAG_SOURCE, dragged, ready=lambda: windows("^Drag source$")):
+            x, y, width, height = client_area(lumaport.window)
+            move(40, 30, "mousedown", "1")
+            drawn = len(lumaport.frames)
+            wait_until(lambda: approach((x + width // 2, y + height // 2)) and len(lumaport.frames) > drawn, "the cards fanning out")
             lumaport.rest()
-            source = subprocess.Popen([DRAG_SOURCE, elsewhere / "IMG 7.HEIC"])
-            try:
-                wait_until(lambda: windows("^Drag source$"), "the drag source")
-                x, y, width, height = client_area(lumaport.window)
-                target = (x + width // 2, y + height // 2)
-                run("xdotool", "mousemove", "40", "30", "mousedown", "1")
-                drawn = len(lumaport.frames)
-                wait_until(lambda: approach(target) and len(lumaport.frames) > drawn, "the cards fanning out")
-                lumaport.rest()
-                run("xdotool", "mouseup", "1")
-                done = wait_until(lambda: entry("IMG 7.HEIC"), "the end of the conversion")
-                self.assertEqual(done["status"], "ready")
-                self.assertTrue((elsewhere / "Lumaport" / "IMG 7.png").exists())
-            finally:
-                source.terminate()
-                source.wait(timeout=PATIENCE)
+            run("xdotool", "mouseup", "1")
+            ready("IMG 7.HEIC")
+        self.assertTrue((elsewhere / "Lumaport" / "IMG 7.png").exists())
         self.assertFalse(COPIES.exists())
 
     def test_nothing_is_drawn_when_nothing_moves_or_nobody_can_see(self):
-        self.skip_the_welcome()
+        fresh()
         with Lumaport() as lumaport:
-            lumaport.rest()
             run("xdotool", "windowminimize", "--sync", lumaport.window)
             lumaport.rest()
             drawn = len(lumaport.frames)
             photo(DOWNLOADS, "IMG 8.HEIC")
-            wait_until(lambda: entry("IMG 8.HEIC"), "the end of the conversion")
+            ended("IMG 8.HEIC")
             lumaport.rest()
             self.assertEqual(len(lumaport.frames), drawn)
 
-    def test_the_welcome_is_inside_the_window_without_a_compositor(self):
-        with Lumaport() as lumaport:
-            lumaport.rest()
-            self.assertEqual(windows(WELCOME), [])
-            self.assertFalse(welcome_seen())
-            wait_until(lambda: press_return(lumaport.window) and welcome_seen(), "the end of the welcome")
-            lumaport.rest()
-
-    def test_quitting_during_the_welcome_ends_well(self):
-        for keys in ("ctrl+q", None):
+    def test_the_welcome_is_inside_the_window_without_a_compositor_and_bears_quitting(self):
+        fresh("")
+        for keys in ("ctrl+q", None, "Return"):
             with Lumaport() as lumaport:
-                lumaport.rest()
+                self.assertEqual(windows(WELCOME), [])
                 self.assertFalse(welcome_seen())
                 x, y, width, height = client_area(lumaport.window)
-                run("xdotool", "mousemove", str(x + width // 2), str(y + height - 52))  # on the button
+                move(x + width // 2, y + height - 52)  # on the button
                 lumaport.rest()
                 if keys:
-                    run("xdotool", "windowfocus", "--sync", lumaport.window, "key", keys)
+                    key(keys, lumaport.window)
+                if keys == "ctrl+q":
                     lumaport.process.wait(timeout=PATIENCE)
+                if keys == "Return":
+                    wait_until(welcome_seen, "the end of the welcome")
+                    lumaport.rest()
 
     def test_the_welcome_has_a_panel_over_the_window_with_a_compositor(self):
-        compositor = subprocess.Popen(["picom", "--backend", "xrender", "--config", "/dev/null"],
-                                      stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        try:
-            wait_until(lambda: "picom" in run("xwininfo", "-root", "-tree"), "the compositor")
-            with Lumaport() as lumaport:
-                panel = wait_until(lambda: windows(WELCOME), "the panel")[0]
-                self.assertEqual(opacity(lumaport.window), 0.0)
-                lumaport.rest()
-                # A second start brings the main window forward, which cannot be seen now.
-                subprocess.run([PROGRAM], check=True, timeout=PATIENCE)
-                lumaport.rest()
-                self.assertEqual(run("xdotool", "getwindowfocus").strip(), panel)
-                self.assertLess(*(stacking().index(int(window)) for window in (lumaport.window, panel)))
-                run("xdotool", "key", "Return")
-                wait_until(welcome_seen, "the end of the welcome")
-                wait_until(lambda: not windows(WELCOME), "the end of the panel")
-                wait_until(lambda: opacity(lumaport.window) == 1.0, "the main window")
-        finally:
-            compositor.terminate()
-            compositor.wait(timeout=PATIENCE)
+        fresh("")
+        compositor = ("picom", "--backend", "xrender", "--config", "/dev/null")
+        with Program(*compositor, ready=lambda: "picom" in run("xwininfo", "-root", "-tree")), Lumaport() as lumaport:
+            panel = wait_until(lambda: windows(WELCOME), "the panel")[0]
+            self.assertEqual(opacity(lumaport.window), 0.0)
+            # A second start brings the main window forward, which cannot be seen now.
+            lumaport.start_again()
+            lumaport.rest()
+            self.assertEqual(run("xdotool", "getwindowfocus").strip(), panel)
+            self.assertLess(*(stacking().index(int(window)) for window in (lumaport.window, panel)))
+            key("Return")
+            wait_until(welcome_seen, "the end of the welcome")
+            wait_until(lambda: not windows(WELCOME), "the end of the panel")
+            wait_until(lambda: opacity(lumaport.window) == 1.0, "the main window")
 
 
 if __name__ == "__main__":
-    unittest.main(verbosity=2)
+    unittest.main()

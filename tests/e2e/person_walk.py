@@ -4,46 +4,55 @@ import sys
 import unittest
 
 import dbus
+import dbus.service
+from dbus.mainloop.glib import DBusGMainLoop
 
-from assistive import accessible, press
-from support import COPIES, DOWNLOADS, HOME, Application, Desktop, Dunst, entry, history, photo, run, stored, wait_until
+from assistive import accessible, press, take_messages
+from support import (COPIES, DOWNLOADS, HOME, Application, Dunst, ended, entry, history, key, photo, ready, run, stored, wait_stored,
+                     wait_until, windows)
 
 PROGRAM = sys.argv.pop()
+ELSEWHERE = HOME / "Elsewhere"
 OTHER = HOME / "Camera"
 
 
-def ready(name):
-    done = wait_until(lambda: entry(name), f"the end of {name}")
-    assert done["status"] == "ready", done
-    return done
+class FileManager(dbus.service.Object):
+    """Keeps what it was asked to show."""
 
+    def __init__(self):
+        bus = dbus.SessionBus(mainloop=DBusGMainLoop())
+        super().__init__(bus, "/org/freedesktop/FileManager1")
+        self.kept_name = dbus.service.BusName("org.freedesktop.FileManager1", bus)
+        self.shown = []
 
-def key(window, keys):
-    run("xdotool", "windowfocus", "--sync", window, "key", keys)
+    @dbus.service.method("org.freedesktop.FileManager1", in_signature="ass")
+    def ShowItems(self, uris, _startup):
+        self.shown.extend(str(uri) for uri in uris)
+
+    def has_shown(self):
+        take_messages()
+        return self.shown
 
 
 def answer_dialog(path):
     """Types a path into the file dialog that stands open."""
 
     def dialog():
-        main = run("xdotool", "search", "--onlyvisible", "--name", "^Lumaport").split()
-        others = run("xdotool", "search", "--onlyvisible", "--class", "lumaport").split()
-        return next((window for window in others if window not in main), None)
+        main = windows("^Lumaport")
+        return next((window for window in windows("lumaport", "--class") if window not in main), None)
 
-    window = wait_until(dialog, "the file dialog")
-    run("xdotool", "windowfocus", "--sync", window)
-    run("xdotool", "type", "--delay", "5", str(path))
-    run("xdotool", "key", "Return")
+    run("xdotool", "windowfocus", "--sync", wait_until(dialog, "the file dialog"), "type", "--delay", "5", str(path))
+    key("Return")
     wait_until(lambda: not dialog(), "the end of the file dialog")
 
 
 class PersonWalk(unittest.TestCase):
     def test_a_day(self):
-        with Desktop() as desktop, Dunst() as dunst:
+        with Dunst() as dunst:
             with Application(PROGRAM) as application:
                 window = application.windows()[0]
                 self.welcome(window)
-                self.first_photo(desktop, dunst)
+                self.first_photo(dunst)
                 self.one_that_was_still_arriving()
                 self.chosen_by_hand()
                 self.paused()
@@ -53,20 +62,22 @@ class PersonWalk(unittest.TestCase):
             self.the_next_start()
 
     def welcome(self, window):
-        # The button comes with the end of the animation: Return is pressed until it does something.
-        wait_until(lambda: key(window, "Return") or stored("hasSeenSignatureWelcome"), "the end of the welcome")
+        # The button appears at the end of the animation: Return is pressed until it has an effect.
+        wait_until(lambda: key("Return", window) or stored("hasSeenSignatureWelcome"), "the end of the welcome")
 
-    def first_photo(self, desktop, dunst):
+    def first_photo(self, dunst):
+        file_manager = FileManager()
         photo(DOWNLOADS, "IMG_1.HEIC")
         self.assertEqual(ready("IMG_1.HEIC")["outputName"], "IMG_1.png")
         wait_until(lambda: dunst.displayed() == 1, "the notification")
-        dunst.click()
-        wait_until(lambda: desktop.file_manager.shown == [(COPIES / "IMG_1.png").as_uri()], "the file manager's call")
+        run("dunstctl", "action", "0")  # a click on the notification itself
+        wait_until(file_manager.has_shown, "the file manager's call")
+        self.assertEqual(file_manager.shown, [(COPIES / "IMG_1.png").as_uri()])
 
     def one_that_was_still_arriving(self):
         whole = photo(HOME, "whole.heic", 640, 480).read_bytes()
         (DOWNLOADS / "IMG_2.HEIC").write_bytes(whole[: len(whole) // 2])
-        self.assertEqual(wait_until(lambda: entry("IMG_2.HEIC"), "the cut photo")["status"], "failed")
+        self.assertEqual(ended("IMG_2.HEIC")["status"], "failed")
         (DOWNLOADS / "IMG_2.HEIC").write_bytes(whole)
         press("Recent photos", "page tab")
         press("Try again")
@@ -74,20 +85,18 @@ class PersonWalk(unittest.TestCase):
         press("AirDrop", "page tab")
 
     def chosen_by_hand(self):
-        elsewhere = HOME / "Elsewhere"
-        elsewhere.mkdir()
-        photo(elsewhere, "IMG_3.HEIC")
+        ELSEWHERE.mkdir()
         press("Choose HEIC photos")
-        answer_dialog(elsewhere / "IMG_3.HEIC")
+        answer_dialog(photo(ELSEWHERE, "IMG_3.HEIC"))
         ready("IMG_3.HEIC")
-        self.assertTrue((elsewhere / "Lumaport" / "IMG_3.png").exists())
+        self.assertTrue((ELSEWHERE / "Lumaport" / "IMG_3.png").exists())
 
     def paused(self):
         press("Pause")
-        wait_until(lambda: stored("isWatching") == "false", "the pause")
+        wait_stored("isWatching", "false")
         photo(DOWNLOADS, "IMG_4.HEIC")
         press("Resume")
-        wait_until(lambda: stored("isWatching") == "true", "the end of the pause")
+        wait_stored("isWatching", "true")
         press("Conversion options")
         press("Convert existing HEIC photos")
         ready("IMG_4.HEIC")
@@ -95,7 +104,7 @@ class PersonWalk(unittest.TestCase):
     def options(self):
         press("Convert to JPEG", "radio button")
         press("Dark", "radio button")
-        wait_until(lambda: stored("appearanceMode") == "Dark", "the dark appearance")
+        wait_stored("appearanceMode", "Dark")
         photo(DOWNLOADS, "IMG_5.HEIC")
         self.assertEqual(ready("IMG_5.HEIC")["outputName"], "IMG_5.jpg")
 
@@ -113,14 +122,7 @@ class PersonWalk(unittest.TestCase):
         press("Recent photos", "page tab")
         press("Clear history")
         wait_until(lambda: history() == [], "the empty history")
-        key(window, "ctrl+w")
-        wait_until(lambda: not application.windows(), "the closed window")
-        item = f"org.kde.StatusNotifierItem-{application.process.pid}-1"
-        dbus.SessionBus().get_object(item, "/StatusNotifierItem").Activate(
-            700, 2, dbus_interface="org.kde.StatusNotifierItem")
-        press("Open Lumaport")
-        again = wait_until(lambda: run("xdotool", "search", "--onlyvisible", "--name", "^Lumaport$").split(), "the window")[0]
-        wait_until(lambda: key(again, "ctrl+q") or application.process.poll() is not None, "the end of the program")
+        wait_until(lambda: key("ctrl+q", window) or application.process.poll() is not None, "the end of the program")
 
     def the_next_start(self):
         with Application(PROGRAM):

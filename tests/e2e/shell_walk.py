@@ -9,9 +9,9 @@ import unittest
 
 import dbus
 
-import support
 from assistive import UsableChanges, accessible, press
-from support import DOWNLOADS, HOME, SETTINGS, Application, client_area, everything_in, history, run, stored, wait_until, windows
+from support import (DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, everything_in, fresh, history, key, move, photo,
+                     run, stored, wait_stored, wait_until, windows)
 
 PROGRAM = sys.argv.pop()
 ITEM = "org.kde.StatusNotifierItem"
@@ -34,21 +34,6 @@ def has_focus(window):
     return run("xdotool", "getwindowfocus").strip() == window
 
 
-def focused(window):
-    """Gives the window the keyboard's focus."""
-    run("xdotool", "windowfocus", "--sync", window)
-    wait_until(lambda: has_focus(window), "the focus")
-    return window
-
-
-def key(keys):
-    run("xdotool", "key", keys)
-
-
-def click(x, y):
-    run("xdotool", "mousemove", str(x), str(y), "click", "1")
-
-
 def screen_size():
     return tuple(int(number) for number in run("xdotool", "getdisplaygeometry").split())
 
@@ -67,10 +52,6 @@ def is_centred(window):
     return abs(2 * x + width - across) <= 1 and abs(2 * y + height - down) <= 1
 
 
-def wait_stored(name, value):
-    wait_until(lambda: stored(name) == value, f"{name}={value}")
-
-
 def arrived(name):
     return any(item["sourceName"] == name for item in history())
 
@@ -78,12 +59,11 @@ def arrived(name):
 def tray_icon():
     """Place and size of the program's icon once it is inside the XEmbed tray at the top of the screen."""
     for tray in run("xdotool", "search", "--class", "trayer").split():
-        for line in run("xwininfo", "-id", tray, "-tree").splitlines():
-            found = re.search(r'\("lumaport" "[Ll]umaport"\)\s+(\d+)x(\d+)\S+\s+\+(\d+)\+(\d+)', line)
-            if found:
-                width, height, x, y = map(int, found.groups())
-                if 12 <= width <= 64 and 12 <= height <= 64 and y < 40:
-                    return x, y, width, height
+        tree = run("xwininfo", "-id", tray, "-tree")
+        for found in re.findall(r'\("lumaport" "[Ll]umaport"\)\s+(\d+)x(\d+)\S+\s+\+(\d+)\+(\d+)', tree):
+            width, height, x, y = map(int, found)
+            if 12 <= width <= 64 and 12 <= height <= 64 and y < 40:
+                return x, y, width, height
     return None
 
 
@@ -93,22 +73,22 @@ class Shell(Application):
     def __enter__(self):
         super().__enter__()
         self.window = one_window(MAIN)
-        # The last of its start: from here on it hears keys.
+        # The status item is the last step of the start: from here on keys work.
         wait_until(lambda: dbus.SessionBus().name_has_owner(f"{ITEM}-{self.process.pid}-1"), "the status item")
         return self
 
-    def start_again(self, *arguments):
-        """A further start, which hands over to this one."""
-        ended = subprocess.run([PROGRAM, *arguments], capture_output=True, text=True, timeout=support.PATIENCE, cwd=HOME)
-        assert (ended.returncode, ended.stdout + ended.stderr) == (0, ""), ended
+    def key(self, keys):
+        """Types into the main window."""
+        run("xdotool", "windowfocus", "--sync", self.window)
+        wait_until(lambda: has_focus(self.window), "the focus")
+        key(keys)
 
     def close_window(self):
-        key("ctrl+w")
+        self.key("ctrl+w")
         wait_closed(MAIN)
 
     def open_panel(self):
-        focused(self.window)
-        key("ctrl+shift+m")
+        self.key("ctrl+shift+m")
         panel = one_window(PANEL)
         wait_until(lambda: has_focus(panel), "the panel's focus")
         return panel
@@ -117,36 +97,17 @@ class Shell(Application):
         for program in wait_until(self.worker_programs, "the worker programs"):
             os.kill(int(program), number)
 
-    def item(self):
-        bus = dbus.SessionBus()
-        return bus.get_object(f"{ITEM}-{self.process.pid}-1", "/StatusNotifierItem")
+    def item(self, interface):
+        item = dbus.SessionBus().get_object(f"{ITEM}-{self.process.pid}-1", "/StatusNotifierItem")
+        return dbus.Interface(item, interface)
 
-    def item_property(self, name):
-        return self.item().Get(ITEM, name, dbus_interface=PROPERTIES)
-
-
-class Host:
-    """A program that shows status items; use it in a with statement."""
-
-    def __init__(self, *command, ready):
-        self.command = command
-        self.ready = ready
-
-    def __enter__(self):
-        self.process = subprocess.Popen(self.command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until(self.ready, self.command[0])
-
-    def __exit__(self, *_):
-        self.process.terminate()
-        self.process.wait(timeout=support.PATIENCE)
+    def tool_tip(self):
+        return self.item(PROPERTIES).Get(ITEM, "ToolTip")[2]
 
 
 class ShellWalk(unittest.TestCase):
     def setUp(self):
-        subprocess.run(["rm", "-rf", DOWNLOADS, SETTINGS], check=True)
-        DOWNLOADS.mkdir()
-        SETTINGS.parent.mkdir(parents=True, exist_ok=True)
-        SETTINGS.write_text("[General]\nhasSeenSignatureWelcome=true\n", encoding="utf-8")
+        fresh()
 
     def test_the_window_keeps_its_size_and_place(self):
         with Shell(PROGRAM) as shell:
@@ -159,7 +120,6 @@ class ShellWalk(unittest.TestCase):
             run("xdotool", "windowmove", "--sync", shell.window, "100", "120")
             wait_until(lambda: client_area(shell.window)[2:] == (850, 660 + menu_bar), "the new size")
             moved = frame(shell.window)
-            focused(shell.window)
             shell.close_window()
             self.assertIsNone(shell.process.poll())
             self.assertEqual(stored("LumaportMainWindow"), f"{moved[0]} {moved[1]} 850 660")
@@ -167,26 +127,25 @@ class ShellWalk(unittest.TestCase):
             shell.start_again()
             shell.window = one_window(MAIN)
             wait_until(lambda: frame(shell.window) == moved, "the frame it had")
-        for _ in range(2):  # nor does it creep from launch to launch
+        for _ in range(2):  # and the frame stays the same from launch to launch
             with Shell(PROGRAM) as shell:
                 wait_until(lambda: frame(shell.window) == moved, "the frame of the launch before")
         with Shell(PROGRAM) as shell:  # the smallest size is the content's, not the window's
-            def is_smallest():  # again, should the start still have been placing it
+            def is_smallest():  # repeated, because the start may still be placing it
                 run("xdotool", "windowsize", shell.window, "300", "300")
                 return client_area(shell.window)[2:] == (800, 620 + menu_bar)
 
             wait_until(is_smallest, "the smallest size")
 
     def test_several_starts_make_one_process_and_one_window(self):
-        first, second = (subprocess.Popen([PROGRAM], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
-                         for _ in range(2))
-        wait_until(lambda: first.poll() is not None or second.poll() is not None, "the end of one of the two")
-        left, ended = (first, second) if first.poll() is None else (second, first)
-        self.assertEqual((ended.returncode, ended.communicate()[0]), (0, ""))
+        both = [subprocess.Popen([PROGRAM], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True) for _ in range(2)]
+        gone = wait_until(lambda: next((each for each in both if each.poll() is not None), None), "the end of one of the two")
+        left = both[0] if gone is both[1] else both[1]
+        self.assertEqual((gone.returncode, gone.communicate()[0]), (0, ""))
         one_window(MAIN)
-        (HOME / "IMG_1.HEIC").write_bytes(b"no photo")
-        (HOME / "IMG_2.heif").write_bytes(b"no photo")
-        subprocess.run([PROGRAM, "IMG_1.HEIC"], check=True, timeout=support.PATIENCE, cwd=HOME)
+        for name in ("IMG_1.HEIC", "IMG_2.heif"):
+            (HOME / name).write_bytes(b"no photo")
+        subprocess.run([PROGRAM, "IMG_1.HEIC"], check=True, timeout=PATIENCE, cwd=HOME)
         wait_until(lambda: arrived("IMG_1.HEIC"), "the file of a further start")
         dbus.SessionBus().get_object(NAME, "/io/lumaport/Lumaport").Open(
             [(HOME / "IMG_2.heif").as_uri()], dbus.Dictionary(signature="sv"),
@@ -194,29 +153,27 @@ class ShellWalk(unittest.TestCase):
         wait_until(lambda: arrived("IMG_2.heif"), "the file of a file manager")
         one_window(MAIN)
         left.terminate()
-        self.assertEqual((left.communicate(timeout=support.PATIENCE)[0], left.returncode), ("", 0))
+        self.assertEqual((left.communicate(timeout=PATIENCE)[0], left.returncode), ("", 0))
         self.assertFalse(dbus.SessionBus().name_has_owner(NAME))
 
     def test_a_file_for_a_process_that_ends_is_taken_by_the_next(self):
         (HOME / "IMG_3.HEIC").write_bytes(b"no photo")
         monitor = subprocess.Popen(["dbus-monitor", "--session", f"destination='{NAME}',member='Open'"], stdout=subprocess.PIPE, text=True)
         try:
-            next(line for line in monitor.stdout if "NameLost" in line)  # from here on it hears everything
+            next(line for line in monitor.stdout if "NameLost" in line)  # from here on it reports every call
             with Shell(PROGRAM) as shell:
-                os.kill(shell.process.pid, signal.SIGSTOP)  # it has the name and hears nothing any more
-                successor = Application(PROGRAM, HOME / "IMG_3.HEIC")
-                with successor:
+                os.kill(shell.process.pid, signal.SIGSTOP)  # it still owns the name but answers nothing
+                with Application(PROGRAM, HOME / "IMG_3.HEIC"):
                     next(line for line in monitor.stdout if "member=Open" in line)
                     shell.kill()
                     wait_until(lambda: arrived("IMG_3.HEIC"), "the file, in the next process")
         finally:
             monitor.terminate()
-            monitor.communicate(timeout=support.PATIENCE)
+            monitor.communicate(timeout=PATIENCE)
 
     def test_the_commands_keys_work_and_the_panel_closes_when_left(self):
         with Shell(PROGRAM) as shell:
-            focused(shell.window)
-            key("ctrl+shift+p")
+            shell.key("ctrl+shift+p")
             wait_stored("isWatching", "false")
             key("ctrl+shift+p")
             wait_stored("isWatching", "true")
@@ -231,25 +188,24 @@ class ShellWalk(unittest.TestCase):
             wait_closed(PANEL)
             shell.open_panel()
             x, y, _, height = client_area(shell.window)
-            click(x + 12, y + height - 12)
+            move(x + 12, y + height - 12, "click", "1")
             wait_closed(PANEL)
-            shell.open_panel()  # the keys open it at once, as they are no click that has just closed it
+            shell.open_panel()  # the keys open it at once, unlike a click that has just closed it
             key("ctrl+shift+m")
             wait_closed(PANEL)
-            focused(shell.window)
-            key("ctrl+q")
-            shell.process.wait(timeout=support.PATIENCE)
+            shell.key("ctrl+q")
+            shell.process.wait(timeout=PATIENCE)
 
     def test_the_menus_open_by_the_keyboard_and_the_assistive_interface(self):
         with Shell(PROGRAM) as shell:
-            focused(shell.window)
-            for opening in (("F10", "Right"), ("alt+c",)):
+            for opening, steps in (("F10", ["Right"]), ("alt+c", [])):
                 before = stored("isWatching")
-                for keys in (*opening, "Down", "Down", "Down", "Down", "Return"):  # to the last of "Convert"
+                shell.key(opening)
+                for keys in (*steps, *["Down"] * 4, "Return"):  # to the last of "Convert"
                     key(keys)
                 wait_until(lambda: stored("isWatching") not in (None, before), "the end of watching, and watching again")
             x, y, width, _ = frame(shell.window)
-            run("xdotool", "mousemove", str(x + width // 2), str(y + 8), "click", "--repeat", "2", "1")  # on its title
+            move(x + width // 2, y + 8, "click", "--repeat", "2", "1")  # on its title
             wait_until(lambda: client_area(shell.window)[2] > 1400, "the maximised window")
             press("Window", "menu bar")
             press("Use Recommended Window Size", "menu item")
@@ -264,10 +220,9 @@ class ShellWalk(unittest.TestCase):
             wait_stored("isWatching", "true")
             key("Escape")
             wait_closed(PANEL)
-            focused(shell.window)
             shell.close_window()
 
-            shell.item().Activate(700, 2, dbus_interface=ITEM)  # as a host says that it was clicked there
+            shell.item(ITEM).Activate(700, 2)  # as a host says that it was clicked there
             x, y, width, _ = client_area(one_window(PANEL))
             self.assertTrue(abs(x + width // 2 - 700) <= 1 and 2 < y < 20, (x, y))
             press("Open Lumaport")
@@ -275,62 +230,56 @@ class ShellWalk(unittest.TestCase):
             wait_closed(PANEL)
             shell.open_panel()
             press("Quit Lumaport")
-            shell.process.wait(timeout=support.PATIENCE)
+            shell.process.wait(timeout=PATIENCE)
 
     def test_a_screen_reader_hears_what_cannot_be_pressed_while_photos_are_converted(self):
         convert = "Convert existing HEIC photos"
         with Shell(PROGRAM) as shell, UsableChanges() as changes:
-            support.photo(DOWNLOADS, "IMG_1.HEIC")  # the first starts the worker programs
-            wait_until(lambda: support.entry("IMG_1.HEIC"), "the first copy")
+            photo(DOWNLOADS, "IMG_1.HEIC")  # the first starts the worker programs
+            ended("IMG_1.HEIC")
             press("Conversion options")
             wait_until(lambda: accessible(convert), "the options")
             shell.signal_workers(signal.SIGSTOP)
-            support.photo(DOWNLOADS, "IMG_2.HEIC")
-            wait_until(lambda: changes.heard(convert, False), "the word that the button cannot be pressed")
+            photo(DOWNLOADS, "IMG_2.HEIC")
+            wait_until(lambda: changes.heard(convert, False), "the news that the button cannot be pressed")
             shell.signal_workers(signal.SIGCONT)
-            wait_until(lambda: changes.heard(convert, True), "the word that it can be pressed again")
+            wait_until(lambda: changes.heard(convert, True), "the news that it can be pressed again")
 
     def test_a_desktop_panel_that_comes_later_gets_the_item(self):
         bus = dbus.SessionBus()
         with Shell(PROGRAM) as shell:
-            self.assertEqual(shell.item_property("ToolTip")[2], "Lumaport: Auto-convert: On")
-            with Host("xfce4-panel", "--disable-wm-check", ready=lambda: bus.name_has_owner(WATCHER)):
+            self.assertEqual(shell.tool_tip(), "Lumaport: Auto-convert: On")
+            with Program("xfce4-panel", "--disable-wm-check", ready=lambda: bus.name_has_owner(WATCHER)):
                 watcher = bus.get_object(WATCHER, "/StatusNotifierWatcher")
                 wait_until(lambda: any(f"-{shell.process.pid}-1" in item for item in watcher.Get(
                     WATCHER, "RegisteredStatusNotifierItems", dbus_interface=PROPERTIES)), "the item's registration")
-                focused(shell.window)
-                key("ctrl+shift+p")
-                wait_until(lambda: shell.item_property("ToolTip")[2] == "Lumaport: Auto-convert: Paused", "the tooltip")
-                self.assertEqual(shell.item_property("IconAccessibleDesc"), "Lumaport, Auto-convert: Paused")
-            focused(shell.window)
-            shell.close_window()  # no tray is left, and still the window can be had again
-            shell.start_again()
-            one_window(MAIN)
+                shell.key("ctrl+shift+p")
+                wait_until(lambda: shell.tool_tip() == "Lumaport: Auto-convert: Paused", "the tooltip")
 
     def test_an_older_tray_that_comes_later_gets_the_icon(self):
-        with Shell(PROGRAM), Host("trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24",
-                                  ready=lambda: run("xdotool", "search", "--class", "trayer").split()):
+        with Shell(PROGRAM), Program("trayer", "--edge", "top", "--align", "right", "--widthtype", "request", "--height", "24",
+                                     ready=lambda: run("xdotool", "search", "--class", "trayer")):
             x, y, width, height = wait_until(tray_icon, "the icon in the tray")
-            click(x + width // 2, y + height // 2)
+            click = (x + width // 2, y + height // 2, "click", "1")
+            move(*click)
             panel = client_area(one_window(PANEL))
             self.assertTrue(panel[1] >= y + height and panel[0] + panel[2] <= screen_size()[0], panel)
-            click(x + width // 2, y + height // 2)
+            move(*click)
             wait_closed(PANEL)
 
     def test_the_sessions_end_leaves_no_worker_no_file_and_every_setting(self):
         names = [f"IMG_{number}.HEIC" for number in range(6)]
         with Shell(PROGRAM) as shell:
-            focused(shell.window)
-            key("ctrl+shift+p")
+            shell.key("ctrl+shift+p")
             wait_stored("isWatching", "false")
             for name in names:
-                support.photo(DOWNLOADS, name, 1600, 1200)
+                photo(DOWNLOADS, name, 1600, 1200)
             key("ctrl+k")
             wait_until(lambda: arrived(names[-1]), "the photos in the history")
-            os.kill(shell.process.pid, 15)
-            shell.process.wait(timeout=support.PATIENCE)
+            shell.process.terminate()
+            shell.process.wait(timeout=PATIENCE)
         self.assertEqual(stored("isWatching"), "false")
-        worker = os.path.join(os.path.dirname(PROGRAM), "lumaport-imageworker")
+        worker = os.path.dirname(os.path.dirname(PROGRAM)) + ".*/lumaport-imageworker"
         wait_until(lambda: run("pgrep", "-f", worker) == "", "the end of the last worker")  # the kernel ends them in its time
         copies = {f"Lumaport/{name.replace('.HEIC', '.png')}" for name in names}
         self.assertLessEqual(set(everything_in(DOWNLOADS)), {*names, "Lumaport", *copies})

@@ -1,4 +1,4 @@
-"""What the walks share: the program, photos made on the spot, and what the desktop around it saw."""
+"""What every run of the real program in a session shares: the program, photos made on the spot, and the desktop around it."""
 
 import json
 import os
@@ -13,12 +13,7 @@ import threading
 import time
 import zlib
 
-import dbus
-import dbus.service
-from dbus.mainloop.glib import DBusGMainLoop
-from gi.repository import GLib
-
-PATIENCE = 60  # seconds; what comes at all comes far sooner, also under sanitizers
+PATIENCE = 60  # seconds; what happens at all happens far sooner, also under sanitizers
 
 HOME = pathlib.Path.home()
 DOWNLOADS = HOME / "Downloads"
@@ -26,16 +21,22 @@ COPIES = DOWNLOADS / "Lumaport"
 SETTINGS = HOME / ".config/lumaport/lumaport.conf"
 
 
+def fresh(settings="[General]\nhasSeenSignatureWelcome=true\n"):
+    """Empties the watched folder and replaces the settings."""
+    for folder in (DOWNLOADS, SETTINGS.parent):
+        shutil.rmtree(folder, ignore_errors=True)
+        folder.mkdir(parents=True)
+    SETTINGS.write_text(settings, encoding="utf-8")
+
+
 def wait_until(condition, what):
     """Waits for a truthy answer and gives it back."""
     limit = time.monotonic() + PATIENCE
-    while True:
-        answer = condition()
-        if answer:
-            return answer
+    while not (answer := condition()):
         if time.monotonic() > limit:
             raise AssertionError(f"{what} did not come within {PATIENCE} s")
         time.sleep(0.02)
+    return answer
 
 
 def run(*command):
@@ -43,9 +44,20 @@ def run(*command):
     return subprocess.run(command, capture_output=True, text=True, check=False).stdout
 
 
-def windows(name):
-    """The visible windows whose title fits."""
-    return run("xdotool", "search", "--onlyvisible", "--name", name).split()
+def windows(pattern, by="--name"):
+    """The visible windows whose title, or what else is asked for, fits."""
+    return run("xdotool", "search", "--onlyvisible", by, pattern).split()
+
+
+def key(keys, window=None):
+    """Types on the keyboard, into the window if one is given."""
+    focus = ("windowfocus", "--sync", window) if window else ()
+    run("xdotool", *focus, "key", keys)
+
+
+def move(x, y, *further):
+    """Moves the pointer, and passes `further` on: "click", "1" clicks there."""
+    run("xdotool", "mousemove", str(x), str(y), *further)
 
 
 def client_area(window):
@@ -55,16 +67,17 @@ def client_area(window):
                  ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
 
-def picture(path, width=64, height=48):
-    """A PNG whose left half is red and whose right half is blue."""
+def picture(path, width, height):
+    """A sky over a sea, as PNG."""
 
     def chunk(kind, data):
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
 
-    row = b"\0" + b"\xe0\x20\x20" * (width // 2) + b"\x20\x20\xe0" * (width - width // 2)
+    rows = b"".join(b"\0" + bytes((255 - 180 * y // height, 190 - 90 * y // height, 150 + 100 * y // height)) * width
+                    for y in range(height))
     header = struct.pack(">IIBBBBB", width, height, 8, 2, 0, 0, 0)
     path.write_bytes(
-        b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(row * height)) + chunk(b"IEND", b"")
+        b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b"")
     )
 
 
@@ -79,36 +92,52 @@ def photo(folder, name, width=64, height=48):
     return (folder / ".arriving").rename(folder / name)
 
 
-def history():
-    """The history as the program stores it, newest first."""
-    try:
-        text = SETTINGS.read_text(encoding="utf-8", errors="replace")
-    except FileNotFoundError:
-        return []
-    found = re.search(r'^recentItems="?@ByteArray\((.*)\)"?$', text, re.MULTILINE)
-    if not found:
-        return []
-    stored = found.group(1).encode("latin-1", "replace").decode("unicode_escape")  # as the settings file escapes bytes
-    return json.loads(stored.encode("latin-1").decode("utf-8"))
-
-
-def entry(name):
-    """The newest history entry of a source file, once it is ready or failed."""
-    for item in history():
-        if item["sourceName"] == name:
-            return item if item["status"] in ("ready", "failed") else None
-    return None
-
-
 def stored(name):
     """A plain value of the settings, as it stands in their file; None without one."""
-    text = SETTINGS.read_text(encoding="utf-8") if SETTINGS.exists() else ""
+    text = SETTINGS.read_text(encoding="utf-8", errors="replace") if SETTINGS.exists() else ""
     found = re.search(rf"^{name}=(.*)$", text, re.MULTILINE)
     return found and found.group(1).strip('"')
 
 
+def wait_stored(name, value):
+    wait_until(lambda: stored(name) == value, f"{name}={value}")
+
+
+def history():
+    """The history as the program stores it, newest first."""
+    found = re.fullmatch(r"@ByteArray\((.*)\)", stored("recentItems") or "")
+    if not found:
+        return []
+    text = found.group(1).encode("latin-1", "replace").decode("unicode_escape")  # as the settings file escapes bytes
+    return json.loads(text.encode("latin-1").decode("utf-8"))
+
+
+def entry(name):
+    """The newest history entry of a source file, once it is ready or failed."""
+    newest = next((item for item in history() if item["sourceName"] == name), None)
+    return newest if newest and newest["status"] in ("ready", "failed") else None
+
+
+def ended(name):
+    """The same, once it is there."""
+    return wait_until(lambda: entry(name), f"the end of {name}")
+
+
+def ready(name):
+    """The same, which must not have failed."""
+    done = ended(name)
+    assert done["status"] == "ready", done
+    return done
+
+
 def everything_in(folder):
     return sorted(str(path.relative_to(folder)) for path in folder.rglob("*"))
+
+
+def resident(process):
+    """Megabytes of memory that the process holds."""
+    status = pathlib.Path(f"/proc/{process.pid}/status").read_text(encoding="utf-8")
+    return int(re.search(r"VmRSS:\s+(\d+)", status).group(1)) / 1e3
 
 
 class Application:
@@ -153,74 +182,50 @@ class Application:
         """Whether the program was asked to print this."""
         return False
 
+    def start_again(self, *arguments):
+        """A further start, which hands over to this one."""
+        again = subprocess.run([*self.command, *arguments], capture_output=True, text=True, timeout=PATIENCE, cwd=HOME)
+        assert (again.returncode, again.stdout + again.stderr) == (0, ""), again
+
     @staticmethod
     def windows():
         return windows("^Lumaport")
 
     def worker_programs(self):
         """Process numbers of the running worker programs: the conversions' and the previews'."""
-        found = subprocess.run(["pgrep", "-P", str(self.process.pid)], capture_output=True, text=True)
-        return found.stdout.split()
+        return run("pgrep", "-P", str(self.process.pid)).split()
 
     def workers(self):
-        """Process numbers of the workers that these have raised, those that have ended but were not reaped included."""
+        """Process numbers of their workers, those that have ended but were not reaped included."""
         programs = self.worker_programs()
-        if not programs:
-            return []
-        found = subprocess.run(["pgrep", "-P", ",".join(programs)], capture_output=True, text=True)
-        return found.stdout.split()
+        return run("pgrep", "-P", ",".join(programs)).split() if programs else []
 
 
-class FileManager(dbus.service.Object):
-    """Owns the file manager's name and keeps what it was asked to show."""
+class Program:
+    """Another program of the desktop, ended with a with statement."""
 
-    def __init__(self, bus):
-        super().__init__(bus, "/org/freedesktop/FileManager1")
-        self.kept_name = dbus.service.BusName("org.freedesktop.FileManager1", bus)
-        self.shown = []
-
-    @dbus.service.method("org.freedesktop.FileManager1", in_signature="ass")
-    def ShowItems(self, uris, _startup):
-        self.shown.extend(str(uri) for uri in uris)
-
-
-class Desktop:
-    """A message bus served in the background; use it in a with statement."""
+    def __init__(self, *command, ready):
+        self.command = command
+        self.ready = ready
 
     def __enter__(self):
-        DBusGMainLoop(set_as_default=True)
-        self.bus = dbus.SessionBus()
-        self.file_manager = FileManager(self.bus)
-        self.loop = GLib.MainLoop()
-        self.thread = threading.Thread(target=self.loop.run, daemon=True)
-        self.thread.start()
-        return self
-
-    def __exit__(self, *_):
-        self.loop.quit()
-        self.thread.join()
-
-
-class Dunst:
-    """A real notification service that shows each notification by itself; use it in a with statement."""
-
-    def __enter__(self):
-        settings = HOME / "dunstrc"
-        settings.write_text("[global]\nstack_duplicates = false\nmonitor = 0\n", encoding="utf-8")
-        self.process = subprocess.Popen(["dunst", "-config", settings], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        wait_until(lambda: subprocess.run(["dunstctl", "count"], capture_output=True).returncode == 0, "dunst")
+        self.process = subprocess.Popen(self.command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_until(self.ready, self.command[0])
         return self
 
     def __exit__(self, *_):
         self.process.terminate()
         self.process.wait(timeout=PATIENCE)
 
-    @staticmethod
-    def displayed():
-        found = subprocess.run(["dunstctl", "count", "displayed"], capture_output=True, text=True)
-        return int(found.stdout or 0)
+
+class Dunst(Program):
+    """A real notification service that shows each notification by itself."""
+
+    def __init__(self):
+        settings = HOME / "dunstrc"
+        settings.write_text("[global]\nstack_duplicates = false\nmonitor = 0\n", encoding="utf-8")
+        super().__init__("dunst", "-config", settings, ready=lambda: run("dunstctl", "count"))
 
     @staticmethod
-    def click():
-        """Clicks the newest notification itself, not one of its buttons."""
-        subprocess.run(["dunstctl", "action", "0"], check=True)
+    def displayed():
+        return int(run("dunstctl", "count", "displayed") or 0)

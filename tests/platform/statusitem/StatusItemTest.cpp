@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDBusPendingCallWatcher>
 #include <QMenu>
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -57,13 +58,6 @@ namespace {
 /// Stands for the icon in an XEmbed tray.
 struct RecordingItem : StatusItem
 {
-    static inline int shown = 0;
-
-    RecordingItem() { ++shown; }
-    ~RecordingItem() override { --shown; }
-    RecordingItem(const RecordingItem &) = delete;
-    RecordingItem &operator=(const RecordingItem &) = delete;
-
     void setLook(const StatusItemLook &newLook) override { look = newLook; }
     void setMenu(const QList<StatusMenuEntry> &newEntries) override { entries = newEntries; }
     std::optional<QRect> place() const override { return QRect(5, 6, 22, 22); }
@@ -110,21 +104,19 @@ private Q_SLOTS:
     {
         QVERIFY(m_watcher->items.last().startsWith("org.kde.StatusNotifierItem-"));
         const QSignalSpy presence(m_item.get(), &StatusNotifierItem::hostPresenceChanged);
-        QTRY_VERIFY(!presence.isEmpty() && presence.last().first().toBool());
         m_watcher->leave();
-        QTRY_VERIFY(!presence.last().first().toBool());
+        QTRY_VERIFY(!presence.isEmpty() && !presence.last().first().toBool());
         m_watcher->come();
-        QTRY_COMPARE(m_watcher->items.size(), 2);
+        QTRY_VERIFY(presence.last().first().toBool());
+        QCOMPARE(m_watcher->items.size(), 2);
     }
 
     void shouldShowItsLookOnTheBus()
     {
         m_item->setLook(someLook());
-        const auto properties =
-            qdbus_cast<QVariantMap>(m_watcher
-                                        ->call("/StatusNotifierItem", "org.freedesktop.DBus.Properties",
-                                               "GetAll", {"org.kde.StatusNotifierItem"})
-                                        .value(0));
+        const QVariantList all = m_watcher->call("/StatusNotifierItem", "org.freedesktop.DBus.Properties",
+                                                 "GetAll", {"org.kde.StatusNotifierItem"});
+        const auto properties = qdbus_cast<QVariantMap>(all.value(0));
         QCOMPARE(properties.value("Id").toString(), "io.lumaport.Lumaport");
         QCOMPARE(properties.value("Status").toString(), "Active");
         QCOMPARE(properties.value("ItemIsMenu"), QVariant(false));
@@ -156,28 +148,25 @@ private Q_SLOTS:
     void shouldOfferItsMenuOnTheBus()
     {
         int opened = 0;
-        int forbidden = 0;
-        m_item->setMenu(
-            {{.title = "Open _it", .isChecked = {}, .action = [&opened] { ++opened; }},
-             {.kind = StatusMenuEntry::Kind::separator, .title = {}, .isChecked = {}, .action = {}},
-             {.title = "PNG", .isChecked = true, .action = {}},
-             {.title = "Reveal", .isEnabled = false, .isChecked = {}, .action = [&forbidden] {
-                  ++forbidden;
-              }}});
+        const auto open = [&opened] { ++opened; };
+        m_item->setMenu({{.title = "Open _it", .action = open},
+                         {.kind = StatusMenuEntry::Kind::separator},
+                         {.title = "PNG", .isChecked = true},
+                         {.title = "Reveal", .isEnabled = false, .action = open}});
 
         const QVariantList layout = m_watcher->menu("GetLayout", {0, -1, QStringList()});
         QCOMPARE(layout.size(), 2);
         QVERIFY(layout.at(0).toUInt() > 1); // it changed since the start
         const auto root = qdbus_cast<StatusNotifierMenuNode>(layout.at(1));
-        QCOMPARE(root.children.size(), 4);
-        const auto property = [&root](int child, const QString &name) {
-            return root.children.at(child).properties.value(name);
-        };
-        QCOMPARE(property(0, "label").toString(), "Open __it");
-        QCOMPARE(property(1, "type").toString(), "separator");
-        QCOMPARE(property(2, "toggle-type").toString(), "radio");
-        QCOMPARE(property(2, "toggle-state").toInt(), 1);
-        QCOMPARE(property(3, "enabled"), QVariant(false));
+        const QList<QVariantMap> lines{
+            {{"label", "Open __it"}, {"enabled", true}},
+            {{"type", "separator"}},
+            {{"label", "PNG"}, {"enabled", true}, {"toggle-type", "radio"}, {"toggle-state", 1}},
+            {{"label", "Reveal"}, {"enabled", false}}};
+        QCOMPARE(root.children.size(), lines.size());
+        for (qsizetype line = 0; line < lines.size(); ++line) {
+            QCOMPARE(root.children.at(line).properties, lines.at(line));
+        }
 
         const auto answered = [this](const QList<int> &ids) {
             const QVariantList properties =
@@ -194,26 +183,24 @@ private Q_SLOTS:
         QCOMPARE(opened, 0);
         event(root.children.at(0).id, "clicked");
         QCOMPARE(opened, 1);
-        event(root.children.at(3).id, "clicked");
-        QCOMPARE(forbidden, 0);
+        event(root.children.at(3).id, "clicked"); // is not enabled
         event(99, "clicked");
+        QCOMPARE(opened, 1);
     }
 
     void shouldChangeTheOldTraysMenuInPlace()
     {
         TrayIconItem item;
         int chosen = 0;
-        int opened = 0;
+        const auto choose = [&chosen] { ++chosen; };
         const auto entries = [&](const QString &title, bool isPng) {
-            return QList<StatusMenuEntry>{
-                {.title = title, .isChecked = {}, .action = [&opened] { ++opened; }},
-                {.kind = StatusMenuEntry::Kind::separator, .title = {}, .isChecked = {}, .action = {}},
-                {.title = "PNG", .isChecked = isPng, .action = [&chosen] { ++chosen; }},
-                {.title = "JPEG", .isChecked = !isPng, .action = [&chosen] { ++chosen; }}};
+            return QList<StatusMenuEntry>{{.title = title, .action = choose},
+                                          {.kind = StatusMenuEntry::Kind::separator},
+                                          {.title = "PNG", .isChecked = isPng, .action = choose},
+                                          {.title = "JPEG", .isChecked = !isPng, .action = choose}};
         };
         item.setMenu(entries("Pause", true));
-        const QWidgetList widgets = QApplication::topLevelWidgets();
-        const auto *menu = qobject_cast<QMenu *>(widgets.constFirst());
+        const auto *menu = qobject_cast<QMenu *>(QApplication::topLevelWidgets().constFirst());
         QVERIFY(menu);
         const QList<QAction *> lines = menu->actions();
         QCOMPARE(lines.size(), 4);
@@ -227,7 +214,7 @@ private Q_SLOTS:
         QCOMPARE(lines.at(0)->text(), "Resume");
         QVERIFY(lines.at(3)->isChecked() && !lines.at(2)->isChecked());
         lines.at(0)->trigger();
-        QCOMPARE(opened, 1);
+        QCOMPARE(chosen, 2);
         item.setMenu(entries("Resume", false).mid(0, 2));
         QCOMPARE(menu->actions().size(), 2);
     }
@@ -235,18 +222,18 @@ private Q_SLOTS:
     void shouldUseTheOldTrayOnlyWhileNoHostShowsTheItem()
     {
         m_watcher->hasHost = false;
-        RecordingItem *fallback = nullptr;
-        DesktopStatusItem item(std::move(m_item), [&fallback] {
-            auto made = std::make_unique<RecordingItem>();
-            fallback = made.get();
-            return made;
-        });
+        m_item.reset();
+        QPointer<RecordingItem> fallback; // null when it is gone
+        DesktopStatusItem item(std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus()),
+                               [&fallback] {
+                                   auto made = std::make_unique<RecordingItem>();
+                                   fallback = made.get();
+                                   return made;
+                               });
         item.setLook(someLook());
-        item.setMenu({{.title = "Open", .isChecked = {}, .action = {}}});
+        item.setMenu({{.title = "Open"}});
         QSignalSpy activated(&item, &StatusItem::activated);
-        const QString hostCame = "StatusNotifierHostRegistered";
-        m_watcher->emitSignal(hostCame);
-        QTRY_COMPARE(RecordingItem::shown, 1);
+        QTRY_VERIFY(fallback);
         QCOMPARE(fallback->look.toolTip, someLook().toolTip); // also what was set before it came
         QCOMPARE(fallback->entries.size(), 1);
         QCOMPARE(item.place(), std::optional(QRect(5, 6, 22, 22)));
@@ -254,12 +241,12 @@ private Q_SLOTS:
         QCOMPARE(activated.size(), 1);
 
         m_watcher->hasHost = true;
-        m_watcher->emitSignal(hostCame);
-        QTRY_COMPARE(RecordingItem::shown, 0);
+        m_watcher->emitSignal("StatusNotifierHostRegistered");
+        QTRY_VERIFY(!fallback);
         m_watcher->activate(1, 1);
         QCOMPARE(activated.size(), 2);
         m_watcher->leave();
-        QTRY_COMPARE(RecordingItem::shown, 1);
+        QTRY_VERIFY(fallback);
     }
 };
 
