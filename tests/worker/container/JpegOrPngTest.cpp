@@ -17,7 +17,7 @@ const Bytes EndOfImage = {0xFF, 0xD9};
 
 bool hasEnd(const Bytes &file)
 {
-    return !std::ranges::search(file, EndOfImage).empty();
+    return contains(file, EndOfImage);
 }
 
 Bytes firstPart(const Bytes &file)
@@ -87,7 +87,8 @@ TEST(JpegOrPngFiles, ShouldBeRefusedWhenPixelsOfAJpegAreMissing)
     Bytes coarse = makeJpeg(picture, {.exif = exif}, {.isProgressive = true});
     EXPECT_TRUE(shown(coarse));
     const Bytes startOfScan = {0xFF, 0xDA};
-    coarse.erase(std::ranges::find_end(coarse, startOfScan).begin(), coarse.end());
+    coarse.erase(std::find_end(coarse.begin(), coarse.end(), startOfScan.begin(), startOfScan.end()),
+                 coarse.end());
     EXPECT_TRUE(hasEnd(coarse));
     EXPECT_FALSE(shown(coarse)) << "the last scan is missing";
     const HeifFile::Properties extents = {spatialExtents(96, 64)};
