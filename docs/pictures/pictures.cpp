@@ -30,7 +30,7 @@ public:
     PictureScene(const PictureScene &) = delete;
     PictureScene &operator=(const PictureScene &) = delete;
 
-    MenuBarViewController panel{model, {.openMain = [] {}, .quit = [] {}}};
+    MenuBarViewController panel{model, [] {}};
     std::unique_ptr<MainViewController> main;
 };
 
@@ -239,11 +239,11 @@ QList<Picture> mainWindowPictures(QSize size)
     add("options", [](PictureScene &scene) {
         fillHistory(scene);
         scene.watch(QStringLiteral("Downloads"));
-        scene.main->setOptionsVisible(true);
+        scene.main->setProperty("optionsVisible", true);
     });
     add("recent", [](PictureScene &scene) {
         fillHistory(scene);
-        scene.main->setShowingHistory(true);
+        scene.main->setProperty("showingHistory", true);
     });
     for (const char *elapsed : {"0.0", "0.8", "1.5", "2.5"}) {
         pictures.append(

@@ -49,7 +49,7 @@ Result<Photo> readJpegOrPng(const Source &source, JpegOrPng::Kind kind)
     }
     // A cut file still has its header, so the end must be there, too. Cameras may append more after it.
     constexpr std::array<std::uint8_t, 2> End = {0xFF, 0xD9};
-    if (std::ranges::find_end(*file, End).empty()) {
+    if (std::find_end(file->begin(), file->end(), End.begin(), End.end()) == file->end()) {
         return unreadable();
     }
     return photoOf(kind, readJpegHeader(*file));

@@ -13,11 +13,11 @@ namespace imageworker {
 
 namespace {
 
-const Bytes EndOfImage = {0xFF, 0xD9};
+const Bytes endOfImage = {0xFF, 0xD9};
 
 bool hasEnd(const Bytes &file)
 {
-    return !std::ranges::search(file, EndOfImage).empty();
+    return contains(file, endOfImage);
 }
 
 Bytes firstPart(const Bytes &file)
@@ -78,16 +78,17 @@ TEST(JpegOrPngFiles, ShouldBeRefusedWhenPixelsOfAJpegAreMissing)
     // An end stands in each file, so only the decoding can tell that it is not that of the pixels.
     const Raster picture = cornerColours({96, 64}, false);
     const Bytes whole = makeJpeg(picture, {});
-    EXPECT_FALSE(shown(joined({firstPart(whole), EndOfImage}))) << "an end too early";
+    EXPECT_FALSE(shown(joined({firstPart(whole), endOfImage}))) << "an end too early";
     Bytes exif = makeExif({.previewLength = 100});
-    std::ranges::copy(EndOfImage, std::ranges::find(exif, 'P'));
+    std::ranges::copy(endOfImage, std::ranges::find(exif, 'P'));
     const Bytes cut = firstPart(makeJpeg(picture, {.exif = exif}));
     EXPECT_TRUE(hasEnd(cut));
     EXPECT_FALSE(shown(cut)) << "only the preview has its end";
     Bytes coarse = makeJpeg(picture, {.exif = exif}, {.isProgressive = true});
     EXPECT_TRUE(shown(coarse));
     const Bytes startOfScan = {0xFF, 0xDA};
-    coarse.erase(std::ranges::find_end(coarse, startOfScan).begin(), coarse.end());
+    coarse.erase(std::find_end(coarse.begin(), coarse.end(), startOfScan.begin(), startOfScan.end()),
+                 coarse.end());
     EXPECT_TRUE(hasEnd(coarse));
     EXPECT_FALSE(shown(coarse)) << "the last scan is missing";
     const HeifFile::Properties extents = {spatialExtents(96, 64)};

@@ -16,7 +16,7 @@ namespace {
 
 bool contains(const Bytes &bytes, const std::string &text)
 {
-    return !std::ranges::search(bytes, text).empty();
+    return imageworker::contains(bytes, bytesOf(text));
 }
 
 std::uint32_t detail(Bytes &bytes, TiffTag tag, std::size_t index = 0)

@@ -94,7 +94,8 @@ CodedItem encode(const Raster &picture, AVPixelFormat format, int hiddenColumns)
         } else {
             constexpr int NoColour = 128;
             std::memset(frame->data[plane], NoColour,
-                        static_cast<std::size_t>(frame->linesize[plane] * ((height + 1) / 2)));
+                        static_cast<std::size_t>(frame->linesize[plane]) *
+                            static_cast<std::size_t>((height + 1) / 2));
         }
     }
     const std::unique_ptr<AVPacket, Freed<av_packet_free>> packet(av_packet_alloc());

@@ -123,10 +123,15 @@ CodedItem codedItemOf(const Bytes &file)
         const Bytes type = part(properties, start + 4, start + 8);
         item.properties.push_back({{type.begin(), type.end()}, part(properties, start + 8, end)});
     }
-    std::ranges::stable_partition(item.properties,
-                                  [](const auto &property) { return property.type == "hvcC"; });
+    std::stable_partition(item.properties.begin(), item.properties.end(),
+                          [](const auto &property) { return property.type == "hvcC"; });
     item.data = payloadOf(file, "mdat");
     return item;
+}
+
+bool contains(const Bytes &bytes, const Bytes &sought)
+{
+    return std::search(bytes.begin(), bytes.end(), sought.begin(), sought.end()) != bytes.end();
 }
 
 Bytes photoOf(const CodedItem &item, const HeifFile::Properties &more)

@@ -91,6 +91,7 @@ Bytes bytesOf(std::string_view text);
 Bytes joined(const std::vector<Bytes> &parts);
 /// Bytes from @p first up to, without, @p last.
 Bytes part(const Bytes &bytes, std::size_t first, std::size_t last);
+bool contains(const Bytes &bytes, const Bytes &sought);
 /// The number of four bytes there.
 std::size_t numberAt(const Bytes &bytes, std::size_t position);
 
