@@ -1,9 +1,9 @@
-#include "CodeConversion.h"
 #include "ExactColour.h"
 #include "PlainPhoto.h"
 #include "PngDecoder.h"
-#include "SrgbStage.h"
+#include "SrgbTransform.h"
 #include "TransferCurve.h"
+#include "YcbcrToRgb.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,11 +14,11 @@ namespace imageworker {
 
 namespace {
 
-CodeRow randomCodes(int maximum)
+RgbRow randomCodes(int maximum)
 {
     std::minstd_rand random(7);
     std::uniform_int_distribution<int> code(0, maximum);
-    CodeRow codes(4000);
+    RgbRow codes(4000);
     for (auto *channel : {&codes.red, &codes.green, &codes.blue}) {
         std::ranges::generate(*channel, [&] { return static_cast<std::uint16_t>(code(random)); });
     }
@@ -28,10 +28,10 @@ CodeRow randomCodes(int maximum)
 /// Largest distance from what lcms2 gives in double precision, in codes.
 double errorAgainstLcms(cmsHPROFILE profile, int maximum)
 {
-    const CodeRow codes = randomCodes(maximum);
+    const RgbRow codes = randomCodes(maximum);
     const Bytes saved = savedProfile(profile);
     Bytes rgba(codes.red.size() * 4);
-    makeSrgbStage(saved, {}, maximum, false)->convert(codes, rgba.data());
+    makeSrgbTransform(saved, {}, maximum, false)->convert(codes, rgba.data());
     const ExactSrgb exact(saved);
     double worst = 0;
     for (std::size_t x = 0; x < codes.red.size(); ++x) {
@@ -65,17 +65,17 @@ TEST(Colour, ShouldFollowAGreyProfileInGreyPicturesOnly)
         cmsBuildGamma(nullptr, 1.0); // linear light: far from what sRGB would make of the codes
     const Profile profile(cmsCreateGrayProfile(cmsD50_xyY(), curve));
     cmsFreeToneCurve(curve);
-    CodeRow codes(256);
+    RgbRow codes(256);
     for (std::uint16_t code = 0; code < 256; ++code) {
         codes.red[code] = codes.green[code] = codes.blue[code] = code;
     }
     Bytes rgba(256UL * 4);
-    makeSrgbStage(savedProfile(profile.get()), {}, 255, true)->convert(codes, rgba.data());
+    makeSrgbTransform(savedProfile(profile.get()), {}, 255, true)->convert(codes, rgba.data());
     for (std::size_t code = 0; code < 256; ++code) {
         ASSERT_NEAR(rgba[4 * code], 255 * srgbOfLinear(static_cast<double>(code) / 255), 1);
         ASSERT_EQ(rgba[4 * code], rgba[4 * code + 2]);
     }
-    makeSrgbStage(savedProfile(profile.get()), {}, 255, false)->convert(codes, rgba.data());
+    makeSrgbTransform(savedProfile(profile.get()), {}, 255, false)->convert(codes, rgba.data());
     EXPECT_EQ(rgba[4UL * 64], 64);
 }
 
@@ -83,9 +83,9 @@ TEST(Colour, ShouldTakeABrokenProfileForAbsent)
 {
     Bytes broken = savedProfile(displayP3().get());
     broken.resize(100);
-    const CodeRow codes = randomCodes(255);
+    const RgbRow codes = randomCodes(255);
     Bytes rgba(codes.red.size() * 4);
-    makeSrgbStage(broken, {}, 255, false)->convert(codes, rgba.data());
+    makeSrgbTransform(broken, {}, 255, false)->convert(codes, rgba.data());
     for (std::size_t x = 0; x < codes.red.size(); ++x) {
         ASSERT_EQ(rgba[4 * x], codes.red[x]);
         ASSERT_EQ(rgba[4 * x + 1], codes.green[x]);
@@ -95,11 +95,11 @@ TEST(Colour, ShouldTakeABrokenProfileForAbsent)
 
 TEST(Colour, ShouldTreatPrimariesOfCodePointsLikeTheProfileOfTheSameSpace)
 {
-    const CodeRow codes = randomCodes(255);
+    const RgbRow codes = randomCodes(255);
     Bytes byProfile(codes.red.size() * 4);
     Bytes byCodePoints(byProfile.size());
-    makeSrgbStage(savedProfile(displayP3().get()), {}, 255, false)->convert(codes, byProfile.data());
-    makeSrgbStage({}, {.primaries = 12, .transfer = 13}, 255, false)->convert(codes, byCodePoints.data());
+    makeSrgbTransform(savedProfile(displayP3().get()), {}, 255, false)->convert(codes, byProfile.data());
+    makeSrgbTransform({}, {.primaries = 12, .transfer = 13}, 255, false)->convert(codes, byCodePoints.data());
     for (std::size_t index = 0; index < byProfile.size(); ++index) {
         ASSERT_NEAR(byProfile[index], byCodePoints[index], 1);
     }
@@ -119,11 +119,11 @@ TEST(Colour, ShouldTurnSamplesIntoCodesAsExactArithmeticDoes)
                 SCOPED_TRACE(testing::Message() << "matrix " << by.matrix << " depth " << depth);
                 SampleFormat format;
                 format.depth = depth;
-                const CodeConversion conversion(format, {.matrix = by.matrix, .fullRange = fullRange});
-                const CodeRow random = randomCodes((1 << depth) - 1);
+                const YcbcrToRgb conversion(format, {.matrix = by.matrix, .fullRange = fullRange});
+                const RgbRow random = randomCodes((1 << depth) - 1);
                 std::array<Bytes, 3> planes;
                 std::size_t plane = 0;
-                SampleRow row;
+                SampleRow samples = {};
                 for (const auto *channel : {&random.red, &random.green, &random.blue}) {
                     for (const std::uint16_t sample : *channel) {
                         planes[plane].push_back(static_cast<std::uint8_t>(sample));
@@ -131,11 +131,11 @@ TEST(Colour, ShouldTurnSamplesIntoCodesAsExactArithmeticDoes)
                             planes[plane].push_back(static_cast<std::uint8_t>(sample >> 8));
                         }
                     }
-                    row.planes[plane] = planes[plane].data();
+                    samples[plane] = planes[plane].data();
                     ++plane;
                 }
-                CodeRow codes(random.width());
-                conversion.convert(row, codes);
+                RgbRow codes(random.width());
+                conversion.convert(samples, codes);
                 const int maximum = conversion.maximumCode();
                 for (std::size_t x = 0; x < codes.red.size(); ++x) {
                     const Pixel exact = exactRgb(random.red[x], random.green[x], random.blue[x], by.kr, by.kb,

@@ -1,4 +1,4 @@
-#include "SrgbStage.h"
+#include "SrgbTransform.h"
 #include "TransferCurve.h"
 
 #include <algorithm>
@@ -26,12 +26,12 @@ std::uint16_t codeOf(unsigned transfer, double linear)
 /// What a stage of 12 bits and the primaries of sRGB makes of one pixel, as linear light.
 std::array<double, 3> shownLight(unsigned transfer, const std::array<std::uint16_t, 3> &codes)
 {
-    CodeRow row(1);
+    RgbRow row(1);
     row.red[0] = codes[0];
     row.green[0] = codes[1];
     row.blue[0] = codes[2];
     std::array<std::uint8_t, 4> rgba = {};
-    makeSrgbStage({}, {.primaries = 1, .transfer = transfer}, 4095, false)->convert(row, rgba.data());
+    makeSrgbTransform({}, {.primaries = 1, .transfer = transfer}, 4095, false)->convert(row, rgba.data());
     std::array<double, 3> light = {};
     std::ranges::transform(rgba.begin(), rgba.begin() + 3, light.begin(),
                            [](std::uint8_t code) { return linearOfSrgb(code / 255.0); });
@@ -42,12 +42,13 @@ TEST(ToneMapping, ShouldLookRight)
 {
     for (const unsigned transfer : {TransferPq, TransferHlg}) {
         SCOPED_TRACE(transfer);
-        CodeRow ramp(256);
+        RgbRow ramp(256);
         for (std::uint16_t code = 0; code < 256; ++code) {
             ramp.red[code] = ramp.green[code] = ramp.blue[code] = static_cast<std::uint16_t>(code * 16);
         }
         Bytes rgba(256UL * 4);
-        makeSrgbStage({}, {.primaries = 9, .transfer = transfer}, 4095, false)->convert(ramp, rgba.data());
+        makeSrgbTransform({}, {.primaries = 9, .transfer = transfer}, 4095, false)
+            ->convert(ramp, rgba.data());
         for (std::size_t x = 1; x < 256; ++x) {
             EXPECT_GE(rgba[4 * x], rgba[4 * (x - 1)]) << "brighter light must not become darker";
             EXPECT_NEAR(rgba[4 * x], rgba[4 * x + 2], 1) << "grey must stay grey";

@@ -45,7 +45,7 @@ public:
 
     PixelSize size() const override { return m_picture.size; }
     const std::vector<Strip> &strips() const override { return m_strips; }
-    void hold(int strips) override { m_held.resize(static_cast<std::size_t>(strips)); }
+    void reserveStrips(int strips) override { m_held.resize(static_cast<std::size_t>(strips)); }
     Result<void> decodeTile(int, int index, int tile) override
     {
         const Strip &strip = m_strips[static_cast<std::size_t>(index)];
