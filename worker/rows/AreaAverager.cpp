@@ -21,7 +21,7 @@ void forEachShare(int index, int original, int result, const auto &add)
     const double start = index * scale;
     const double end = (index + 1) * scale;
     const int first = static_cast<int>(start);
-    const int last = std::min(static_cast<int>(std::ceil(end)), result) - 1;
+    const int last = std::min(static_cast<int>(end), result - 1);
     for (int target = first; target <= last; ++target) {
         const double share = std::min(end, target + 1.0) - std::max(start, static_cast<double>(target));
         if (share > 0) {
