@@ -7,59 +7,31 @@ namespace imageworker {
 namespace {
 
 /// Primaries as columns of XYZ, adapted to D50 as profiles give them.
-std::optional<ColourMatrix> colorantsOf(cmsHPROFILE profile)
+std::optional<cmsMAT3> colorantsOf(cmsHPROFILE profile)
 {
     constexpr std::array Tags = {cmsSigRedColorantTag, cmsSigGreenColorantTag, cmsSigBlueColorantTag};
-    ColourMatrix colorants = {};
+    cmsMAT3 colorants = {};
     for (std::size_t column = 0; column < Tags.size(); ++column) {
         const auto *value = static_cast<const cmsCIEXYZ *>(cmsReadTag(profile, Tags[column]));
         if (value == nullptr) {
             return std::nullopt;
         }
-        colorants[0][column] = value->X;
-        colorants[1][column] = value->Y;
-        colorants[2][column] = value->Z;
+        colorants.v[0].n[column] = value->X;
+        colorants.v[1].n[column] = value->Y;
+        colorants.v[2].n[column] = value->Z;
     }
     return colorants;
 }
 
-/// By cofactors; the matrix is that of sRGB, which has an inverse.
-ColourMatrix inverted(const ColourMatrix &m)
-{
-    ColourMatrix inverse = {};
-    double determinant = 0;
-    for (std::size_t row = 0; row < 3; ++row) {
-        for (std::size_t column = 0; column < 3; ++column) {
-            const std::size_t r1 = (column + 1) % 3;
-            const std::size_t r2 = (column + 2) % 3;
-            const std::size_t c1 = (row + 1) % 3;
-            const std::size_t c2 = (row + 2) % 3;
-            inverse[row][column] = m[r1][c1] * m[r2][c2] - m[r1][c2] * m[r2][c1];
-        }
-    }
-    for (std::size_t index = 0; index < 3; ++index) {
-        determinant += m[0][index] * inverse[index][0];
-    }
-    for (auto &row : inverse) {
-        for (double &value : row) {
-            value /= determinant;
-        }
-    }
-    return inverse;
-}
-
-ColourMatrix toSrgb(const ColourMatrix &colorants)
+/// The matrix from @p colorants to linear sRGB.
+cmsMAT3 toSrgb(const cmsMAT3 &colorants)
 {
     const Profile srgb(cmsCreate_sRGBProfile());
-    const ColourMatrix fromXyz = inverted(*colorantsOf(srgb.get()));
-    ColourMatrix product = {};
-    for (std::size_t row = 0; row < 3; ++row) {
-        for (std::size_t column = 0; column < 3; ++column) {
-            for (std::size_t index = 0; index < 3; ++index) {
-                product[row][column] += fromXyz[row][index] * colorants[index][column];
-            }
-        }
-    }
+    const auto ofSrgb = colorantsOf(srgb.get());
+    cmsMAT3 fromXyz = {};
+    cmsMAT3 product = {};
+    _cmsMAT3inverse(&*ofSrgb, &fromXyz);
+    _cmsMAT3per(&product, &fromXyz, &colorants);
     return product;
 }
 
@@ -142,7 +114,11 @@ MatrixSpace matrixSpaceOf(unsigned primaries, unsigned transfer, int maximumCode
     std::array<cmsToneCurve *, 3> curves = {linear.get(), linear.get(), linear.get()};
     const Profile profile(cmsCreateRGBProfile(&colours.white, &colours.colours, curves.data()));
     const auto colorants = profile ? colorantsOf(profile.get()) : std::nullopt;
-    space.toSrgb = colorants ? toSrgb(*colorants) : ColourMatrix{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}};
+    if (colorants) {
+        space.toSrgb = toSrgb(*colorants);
+    } else {
+        _cmsMAT3identity(&space.toSrgb);
+    }
     for (int code = 0; code <= maximumCode; ++code) {
         space.linear[0].push_back(linearOf(transfer, static_cast<double>(code) / maximumCode));
     }

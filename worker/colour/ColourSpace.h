@@ -4,6 +4,7 @@
 
 #include <array>
 #include <lcms2.h>
+#include <lcms2_plugin.h>
 #include <memory>
 #include <optional>
 
@@ -15,25 +16,20 @@ struct ProfileDeleter
 };
 using Profile = std::unique_ptr<void, ProfileDeleter>;
 
-/// Rows take linear red, green and blue of one space to a channel of another.
-using ColourMatrix = std::array<std::array<double, 3>, 3>;
-
-/// A space of three primaries: what a code of each channel means, and how the channels mix to linear sRGB.
+/// A colour space given by a transfer curve for each channel and three primaries.
 struct MatrixSpace
 {
     std::array<std::vector<double>, 3> linear; ///< for each channel, the linear value of each code
-    ColourMatrix toSrgb = {};
+    cmsMAT3 toSrgb = {};                       ///< from its linear red, green and blue to those of sRGB
 };
 
 /// The profile in @p bytes; null when there is none or it is broken.
 Profile openProfile(const Bytes &bytes);
 
-/// The space of a profile made of curves and primaries alone; nothing for any other, which takes the general
-/// way.
+/// The space of a matrix profile, for codes from 0 to @p maximumCode; nothing for a profile of another kind.
 std::optional<MatrixSpace> matrixSpaceOf(cmsHPROFILE profile, int maximumCode);
 
-/// The space of H.273's primaries, with the codes' linear values by its transfer; those of HDR not yet
-/// tone-mapped.
+/// The space of primaries and transfer by the code points of ITU-T H.273; HDR is not tone-mapped here.
 MatrixSpace matrixSpaceOf(unsigned primaries, unsigned transfer, int maximumCode);
 
 } // namespace imageworker

@@ -6,8 +6,8 @@ namespace imageworker {
 inline constexpr unsigned TransferPq = 16;
 inline constexpr unsigned TransferHlg = 18;
 
-/// Whether pictures with this transfer are shown as sRGB is: not said, sRGB itself, or a broadcast camera's
-/// curve, which is meant for a display like that.
+/// Whether codes with this transfer are shown as if they were sRGB: sRGB itself, unspecified, or a camera
+/// curve that is meant for such a display.
 bool isShownLikeSrgb(unsigned transfer);
 
 /// Linear light, 0 to 1, of a code from 0 to 1 (ITU-T H.273, table 3, inverted). For PQ 1 is 10,000 cd/m2;

@@ -9,7 +9,7 @@ namespace imageworker {
 namespace {
 
 /// Open bitstream units (AV1 bitstream format, 5.3 and 4.10.5). The data of a picture ends with a set bit
-/// (8.2.4), so a run of zeros at the end never arrived.
+/// (8.2.4), so a run of zeros at the end was never transferred.
 bool hasCompleteAv1Units(std::span<const std::uint8_t> bytes)
 {
     constexpr unsigned HasExtension = 4;
@@ -53,7 +53,7 @@ bool hasCompleteUnits(const CodedPicture &picture, std::span<const std::uint8_t>
             return false;
         }
         const auto unit = reader.take(length);
-        // No unit ends with a zero (ITU-T H.265 and H.264, 7.4.1): such a byte never arrived.
+        // No unit ends with a zero (ITU-T H.265 and H.264, 7.4.1): such a byte was never transferred.
         if (unit.empty() || unit.back() == 0) {
             return false;
         }

@@ -1,7 +1,7 @@
 #include "JpegDecoder.h"
 
 #include "MagicBytes.h"
-#include "SrgbStage.h"
+#include "SrgbTransform.h"
 
 #include <algorithm>
 #include <csetjmp>
@@ -14,7 +14,8 @@ namespace imageworker {
 
 namespace {
 
-/// The library reports faults by a jump: a function that sets its goal owns nothing that needs destroying.
+/// The library reports faults with longjmp(): no function that calls setjmp() owns an object with a
+/// destructor.
 class JpegReader
 {
 public:
@@ -44,13 +45,13 @@ public:
                (m_jpeg.num_components == 1 || m_jpeg.num_components == 3);
     }
 
-    bool start(unsigned reduction)
+    bool start(int reduction)
     {
         if (setjmp(m_fault) != 0) {
             return false;
         }
         m_jpeg.scale_num = 1;
-        m_jpeg.scale_denom = reduction;
+        m_jpeg.scale_denom = static_cast<unsigned>(reduction);
         m_jpeg.out_color_space = JCS_EXT_RGBX;
         return jpeg_start_decompress(&m_jpeg) == TRUE;
     }
@@ -101,7 +102,7 @@ public:
 private:
     static JpegReader &owner(j_common_ptr jpeg) { return *static_cast<JpegReader *>(jpeg->client_data); }
 
-    /// The library goes on after these and leaves holes.
+    /// The library goes on after these warnings; what is missing stays grey.
     void noteWarning()
     {
         const int code = m_errors.msg_code;
@@ -128,21 +129,21 @@ Result<JpegHeader> readJpegHeader(std::span<const std::uint8_t> file)
                       reader.segments(JPEG_APP0 + 1, JpegXmpStart, 0)};
 }
 
-Result<Raster> decodeJpeg(std::span<const std::uint8_t> file, unsigned reduction)
+Result<Raster> decodeJpeg(std::span<const std::uint8_t> file, int reduction)
 {
     JpegReader reader(file);
     if (!reader.readHeader() || !reader.start(reduction)) {
         return unreadable();
     }
     Raster raster(reader.decodedSize());
-    const Bytes profile =
-        reader.segments(JPEG_APP0 + 2, JpegIccStart, 2); // number and count of the parts, which come in order
-    const auto stage = makeSrgbStage(profile, {}, 255, reader.isGrey());
+    constexpr std::size_t NumberAndCount = 2; // of the parts, which come in order
+    const Bytes profile = reader.segments(JPEG_APP0 + 2, JpegIccStart, NumberAndCount);
+    const auto transform = makeSrgbTransform(profile, {}, 255, reader.isGrey());
     for (int y = 0; y < raster.size.height; ++y) {
         if (!reader.readRow(raster.row(y))) {
             return unreadable();
         }
-        convertInPlace(*stage, raster.row(y), raster.size.width);
+        convertInPlace(*transform, raster.row(y), raster.size.width);
     }
     if (!reader.finish()) {
         return unreadable();

@@ -14,11 +14,11 @@ struct JpegHeader
     Bytes xmp;
 };
 
-/// Unreadable for what is no JPEG or one in inks rather than lights.
+/// Unreadable for other files and for a JPEG in CMYK.
 Result<JpegHeader> readJpegHeader(std::span<const std::uint8_t> file);
 
 /// The picture as it is stored, in sRGB by its profile; reduced by @p reduction, 1, 2, 4 or 8, on each side.
 /// Unreadable when it is damaged or cut.
-Result<Raster> decodeJpeg(std::span<const std::uint8_t> file, unsigned reduction);
+Result<Raster> decodeJpeg(std::span<const std::uint8_t> file, int reduction);
 
 } // namespace imageworker

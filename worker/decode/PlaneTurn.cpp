@@ -20,8 +20,7 @@ void copyBytes(const PlaneView &source, Turn turn, const PlaneView &target)
                  from.height);
     };
     if (turn.transposed) {
-        // A quarter turn clockwise reads the source's rows backwards; turning it upside down first undoes
-        // that.
+        // A quarter turn clockwise reads the rows backwards; a source upside down undoes that.
         call(libyuv::RotatePlane90, turn.mirroredY ? source : upsideDown(source),
              turn.mirroredX ? upsideDown(target) : target);
     } else {

@@ -1,11 +1,13 @@
 #include "PngDecoder.h"
 
+#include "AreaAverager.h"
 #include "ByteReader.h"
 #include "MagicBytes.h"
 #include "PngScanlines.h"
-#include "SrgbStage.h"
+#include "SrgbTransform.h"
 
 #include <algorithm>
+#include <cstring>
 #include <isa-l.h>
 #include <png.h>
 
@@ -20,7 +22,7 @@ void readImageHeader(ByteReader reader, PngHeader &header)
     const std::int64_t height = reader.u32();
     const unsigned depth = reader.u8();
     const unsigned colourType = reader.u8();
-    reader.take(2); // methods of packing and filtering, of which there is one each
+    reader.take(2); // methods of compression and filtering; only one of each exists
     const unsigned interlacing = reader.u8();
     if (reader.failed() || !isAcceptable(width, height)) {
         return;
@@ -105,84 +107,29 @@ Result<PngHeader> readPngHeader(std::span<const std::uint8_t> file)
 
 namespace {
 
-/// Sums of squares of pixels, colours weighted by their opacity.
-class SquareSums
-{
-public:
-    SquareSums(int width, int side)
-        : m_side(side)
-        , m_sums(static_cast<std::size_t>((width + side - 1) / side))
-        , m_width(width)
-    {}
-
-    template<int Channels>
-    void add(const std::uint8_t *row)
-    {
-        int x = 0;
-        for (Sum &sum : m_sums) {
-            for (const int end = std::min(x + m_side, m_width); x < end; ++x, row += Channels) {
-                const std::uint32_t opacity = Channels == 4 ? row[3] : 255;
-                sum.red += row[0] * opacity;
-                sum.green += row[1] * opacity;
-                sum.blue += row[2] * opacity;
-                sum.opacity += opacity;
-                ++sum.count;
-            }
-        }
-    }
-
-    /// Writes the means and starts anew.
-    void take(std::uint8_t *rgba)
-    {
-        const auto mean = [](std::uint32_t sum, std::uint32_t count) {
-            return static_cast<std::uint8_t>(count == 0 ? 0 : (sum + count / 2) / count);
-        };
-        for (Sum &sum : m_sums) {
-            *rgba++ = mean(sum.red, sum.opacity);
-            *rgba++ = mean(sum.green, sum.opacity);
-            *rgba++ = mean(sum.blue, sum.opacity);
-            *rgba++ = mean(sum.opacity, sum.count);
-            sum = {};
-        }
-    }
-
-private:
-    struct Sum
-    {
-        std::uint32_t red = 0;
-        std::uint32_t green = 0;
-        std::uint32_t blue = 0;
-        std::uint32_t opacity = 0;
-        std::uint32_t count = 0;
-    };
-
-    int m_side;
-    std::vector<Sum> m_sums;
-    int m_width;
-};
-
 Result<Raster> decodeReduced(const PngHeader &header, int reduction)
 {
+    const auto width = static_cast<std::size_t>(header.size.width);
     const auto channels = static_cast<std::size_t>(header.channels);
-    PngScanlines rows(header.data, static_cast<std::size_t>(header.size.width) * channels, channels);
-    SquareSums sums(header.size.width, reduction);
-    Raster raster(
-        {(header.size.width + reduction - 1) / reduction, (header.size.height + reduction - 1) / reduction});
+    PngScanlines rows(header.data, width * channels, channels);
+    AreaAverager averager(header.size, {std::max(header.size.width / reduction, 1),
+                                        std::max(header.size.height / reduction, 1)});
+    Bytes opaque(width * 4, 255);
     for (int y = 0; y < header.size.height; ++y) {
         const std::uint8_t *row = rows.next();
         if (row == nullptr) {
             return unreadable();
         }
         if (header.channels == 4) {
-            sums.add<4>(row);
-        } else {
-            sums.add<3>(row);
+            averager.addRow(y, row);
+            continue;
         }
-        if ((y + 1) % reduction == 0 || y + 1 == header.size.height) {
-            sums.take(raster.row(y / reduction));
+        for (std::size_t x = 0; x < width; ++x) {
+            std::memcpy(&opaque[4 * x], row + 3 * x, 3);
         }
+        averager.addRow(y, opaque.data());
     }
-    return rows.hasEnded() ? Result<Raster>(std::move(raster)) : unreadable();
+    return rows.hasEnded() ? Result<Raster>(averager.take()) : unreadable();
 }
 
 Result<Raster> decodeWhole(std::span<const std::uint8_t> file)
@@ -205,18 +152,18 @@ Result<Raster> decodeWhole(std::span<const std::uint8_t> file)
 
 } // namespace
 
-Result<Raster> decodePng(std::span<const std::uint8_t> file, unsigned reduction)
+Result<Raster> decodePng(std::span<const std::uint8_t> file, int reduction)
 {
     const auto header = readPngHeader(file);
     if (!header) {
         return unreadable();
     }
-    auto raster = reduction > 1 && !header->data.empty() ? decodeReduced(*header, static_cast<int>(reduction))
-                                                         : decodeWhole(file);
+    auto raster =
+        reduction > 1 && !header->data.empty() ? decodeReduced(*header, reduction) : decodeWhole(file);
     if (raster && !header->iccProfile.empty()) {
-        const auto stage = makeSrgbStage(header->iccProfile, {}, 255, header->isGrey);
+        const auto transform = makeSrgbTransform(header->iccProfile, {}, 255, header->isGrey);
         for (int y = 0; y < raster->size.height; ++y) {
-            convertInPlace(*stage, raster->row(y), raster->size.width);
+            convertInPlace(*transform, raster->row(y), raster->size.width);
         }
     }
     return raster;

@@ -12,17 +12,17 @@ struct PngHeader
     Bytes exif; ///< from the TIFF header on
     Bytes xmp;
     Bytes iccProfile;
-    /// Of a picture of 8 bits in sRGB or with a profile, not interlaced, with an opacity for each pixel or
-    /// none: its packed data, which lie in the file. Empty for other kinds.
+    /// The compressed data, which lie in the file, of a picture that PngScanlines can read: 8 bits, RGB or
+    /// RGBA, in sRGB or with a profile, not interlaced. Empty for others.
     std::vector<std::span<const std::uint8_t>> data;
     bool isGrey = false;
-    int channels = 0; ///< of such a picture, 3 or 4
+    int channels = 0; ///< 3 or 4 where there are such data
 };
 
 /// Size, metadata and profile of a PNG; unreadable unless its end is there.
 Result<PngHeader> readPngHeader(std::span<const std::uint8_t> file);
 
-/// The picture in sRGB. A @p reduction of more than 1 allows to make it so many times smaller on each side.
-Result<Raster> decodePng(std::span<const std::uint8_t> file, unsigned reduction);
+/// The picture in sRGB. It may be made smaller by @p reduction on each side, or have its full size.
+Result<Raster> decodePng(std::span<const std::uint8_t> file, int reduction);
 
 } // namespace imageworker

@@ -11,7 +11,7 @@ namespace {
 
 enum class Filter : std::uint8_t { None, Sub, Up, Average, Paeth };
 
-/// The channels of a pixel side by side, so that each step takes a whole pixel; the fourth may be idle.
+/// The channels of a pixel, processed at once; the fourth may be unused.
 typedef std::int32_t Pixel __attribute__((vector_size(16)));
 typedef std::uint8_t PixelBytes __attribute__((vector_size(4)));
 

@@ -32,8 +32,8 @@ AVCodecID identifierOf(Codec codec)
 const AVCodec *decoderOf(Codec codec)
 {
     if (codec == Codec::Av1) {
-        return avcodec_find_decoder_by_name(
-            "libdav1d"); // the one of the same name as the codec needs a graphics card
+        // The decoder with the codec's own name needs a graphics card.
+        return avcodec_find_decoder_by_name("libdav1d");
     }
     return avcodec_find_decoder(identifierOf(codec));
 }
@@ -73,14 +73,15 @@ bool describeSamples(const AVFrame &frame, SampleFormat &format)
     }
     format.depth = depth;
     format.planeCount = descriptor->nb_components;
-    format.chromaShiftX = descriptor->nb_components == 3 ? descriptor->log2_chroma_w : 0;
-    format.chromaShiftY = descriptor->nb_components == 3 ? descriptor->log2_chroma_h : 0;
+    if (descriptor->nb_components == 3) {
+        format.chroma = {descriptor->log2_chroma_w, descriptor->log2_chroma_h};
+    }
     format.isRgb = isRgb;
     format.codePoints.primaries = numberOf(frame.color_primaries);
     format.codePoints.transfer = numberOf(frame.color_trc);
     format.codePoints.matrix = numberOf(frame.colorspace);
     format.codePoints.fullRange = numberOf(frame.color_range) == AVCOL_RANGE_JPEG;
-    return depth >= 8 && depth <= 16 && format.chromaShiftX <= 1 && format.chromaShiftY <= 1;
+    return depth >= 8 && depth <= 16 && format.chroma.shiftX <= 1 && format.chroma.shiftY <= 1;
 }
 
 } // namespace
@@ -127,7 +128,7 @@ std::unique_ptr<TileDecoder> TileDecoder::create(const CodedPicture &picture)
         return nullptr;
     }
     context->thread_count = 1;
-    context->flags |= AV_CODEC_FLAG_UNALIGNED; // else the conformance window is rounded to what suits vectors
+    context->flags |= AV_CODEC_FLAG_UNALIGNED; // else the crop is rounded for the sake of vector code
     context->err_recognition = AV_EF_EXPLODE;
     context->max_pixels = ImageWorkerLimits::maximumPixels;
     const bool isRecord = picture.codec != Codec::Jpeg; // a JPEG's tables are put before its data
@@ -188,14 +189,11 @@ Result<DecodedPicture> TileDecoder::decode(const Bytes &bytes, PixelSize size)
         !describeSamples(*m_frame, picture.format)) {
         return unreadable();
     }
-    for (int index = 0; index < picture.format.planeCount; ++index) {
-        const int shiftX = index == 0 ? 0 : picture.format.chromaShiftX;
-        const int shiftY = index == 0 ? 0 : picture.format.chromaShiftY;
-        PlaneView &plane = picture.planes[static_cast<std::size_t>(index)];
-        plane.data = m_frame->data[index];
-        plane.stride = m_frame->linesize[index];
-        plane.width = (size.width + (1 << shiftX) - 1) >> shiftX;
-        plane.height = (size.height + (1 << shiftY) - 1) >> shiftY;
+    for (std::size_t plane = 0; plane < picture.format.planes(); ++plane) {
+        const PixelRectangle samples =
+            picture.format.layoutOf(plane).samplesOf({0, 0, size.width, size.height});
+        picture.planes[plane] = {m_frame->data[plane], m_frame->linesize[plane], samples.width,
+                                 samples.height};
     }
     return picture;
 }

@@ -33,9 +33,9 @@ void layOverWhite(std::uint8_t *rgba, std::size_t width)
 
 } // namespace
 
-JpegChunkEncoder::JpegChunkEncoder(const JpegForm &form)
-    : m_form(form)
-    , m_row(static_cast<std::size_t>(form.size.width) * 4)
+JpegChunkEncoder::JpegChunkEncoder(const JpegParameters &parameters)
+    : m_parameters(parameters)
+    , m_row(static_cast<std::size_t>(parameters.size.width) * 4)
 {
     m_jpeg.err = jpeg_std_error(&m_errors);
     m_jpeg.client_data = this;
@@ -101,12 +101,12 @@ bool JpegChunkEncoder::start(int height)
         m_jpeg.dest = &m_destination;
         m_jpeg.input_components = 4;
         m_jpeg.in_color_space = JCS_EXT_RGBX;
-        m_jpeg.image_width = static_cast<JDIMENSION>(m_form.size.width);
+        m_jpeg.image_width = static_cast<JDIMENSION>(m_parameters.size.width);
         jpeg_set_defaults(&m_jpeg);
-        jpeg_set_quality(&m_jpeg, m_form.quality, TRUE);
-        m_jpeg.comp_info[0].h_samp_factor = m_form.colourSampling;
-        m_jpeg.comp_info[0].v_samp_factor = m_form.colourSampling;
-        m_jpeg.restart_in_rows = ChunkHeight / (DCTSIZE * m_form.colourSampling);
+        jpeg_set_quality(&m_jpeg, m_parameters.quality, TRUE);
+        m_jpeg.comp_info[0].h_samp_factor = m_parameters.colourSampling;
+        m_jpeg.comp_info[0].v_samp_factor = m_parameters.colourSampling;
+        m_jpeg.restart_in_rows = ChunkHeight / (DCTSIZE * m_parameters.colourSampling);
     }
     m_jpeg.image_height = static_cast<JDIMENSION>(height);
     jpeg_start_compress(&m_jpeg, TRUE);

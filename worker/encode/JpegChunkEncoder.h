@@ -11,34 +11,33 @@
 
 namespace imageworker {
 
-struct JpegForm
+struct JpegParameters
 {
     PixelSize size;
     int quality = 0;        ///< the library's, 0 to 100
-    int colourSampling = 1; ///< pixels of brightness for one of colour, along each axis
+    int colourSampling = 1; ///< luma samples for one chroma sample, on each axis
 };
 
-/// What is put into a file behind a marker.
+/// A marker and the bytes that follow it.
 struct JpegSegment
 {
     int marker = 0;
     Bytes bytes;
 };
 
-/// Encodes chunks of a picture, each as a stream of its own with a restart interval of just its length.
+/// Encodes each chunk of a picture as a JPEG of its own whose restart interval is the whole chunk.
 class JpegChunkEncoder
 {
 public:
-    /// Rows; those of the widest picture fit into a restart interval, 65,535 blocks (ITU-T T.81, B.2.4.4).
+    /// In rows. A restart interval holds 65,535 blocks (ITU-T T.81, B.2.4.4), enough for the widest picture.
     static constexpr int ChunkHeight = 32;
 
-    explicit JpegChunkEncoder(const JpegForm &form);
+    explicit JpegChunkEncoder(const JpegParameters &parameters);
     ~JpegChunkEncoder();
     JpegChunkEncoder(const JpegChunkEncoder &) = delete;
     JpegChunkEncoder &operator=(const JpegChunkEncoder &) = delete;
 
-    /// The stream of rows @p top to @p top + @p height, laid over white, with @p segments; empty after a
-    /// fault.
+    /// The JPEG of rows @p top to @p top + @p height, laid over white, with @p segments; empty after a fault.
     Bytes encode(int top, int height, const RowReader &readRow, std::span<const JpegSegment> segments);
 
 private:
@@ -48,13 +47,14 @@ private:
     void emptyBuffer();
     void keep(std::size_t length);
 
-    // The library reports faults by a jump: a function that sets its goal owns nothing that needs destroying.
+    // The library reports faults with longjmp(): no function that calls setjmp() owns an object with a
+    // destructor.
     bool start(int height);
     bool writeSegment(const JpegSegment &segment);
     bool encodeRow();
     bool end();
 
-    const JpegForm m_form;
+    const JpegParameters m_parameters;
     std::vector<std::uint8_t> m_row;
     std::array<std::uint8_t, BufferLength> m_buffer = {};
     Bytes m_stream;

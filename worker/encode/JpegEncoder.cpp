@@ -3,9 +3,8 @@
 #include "ColourSpace.h"
 #include "Exif.h"
 #include "JpegChunkEncoder.h"
-#include "MagicBytes.h"
-#include "OrderedPieces.h"
-#include "Spares.h"
+#include "ObjectPool.h"
+#include "ReorderBuffer.h"
 #include "Xmp.h"
 
 #include <algorithm>
@@ -51,7 +50,7 @@ std::vector<JpegSegment> segmentsOf(const CopyMetadata &metadata)
     for (Bytes &part : xmpSegments(metadata.xmp, LongestSegment)) {
         segments.push_back({JPEG_APP0 + 1, std::move(part)});
     }
-    // The first of one part.
+    // Number and count of the parts.
     segments.push_back({JPEG_APP0 + 2, segment(std::string(JpegIccStart) + "\1\1", profileOfSrgb())});
     return segments;
 }
@@ -66,15 +65,15 @@ std::size_t findSegment(const Bytes &stream, std::uint8_t marker)
     return position;
 }
 
-/// Chunks are encoded on all processors, each as a small picture. What follows the first one's headers are
-/// then restart intervals of one large picture, with a restart marker between them (ITU-T T.81, B.2.1).
+/// Each chunk is encoded as a small picture of its own, on any thread. The file has the headers of the first
+/// one; the coded data of each chunk become a restart interval of the whole picture (ITU-T T.81, B.2.1).
 class JpegEncoder : public RowEncoder
 {
 public:
     JpegEncoder(OutputFile &output, PixelSize size, double quality, const CopyMetadata &metadata)
         : m_output(output)
-        , m_form{size, static_cast<int>(std::lround(std::clamp(quality, 0.0, 1.0) * 100)),
-                 quality < FinestColoursFrom ? 2 : 1}
+        , m_parameters{size, static_cast<int>(std::lround(std::clamp(quality, 0.0, 1.0) * 100)),
+                       quality < FinestColoursFrom ? 2 : 1}
         , m_segments(segmentsOf(metadata))
     {}
 
@@ -84,16 +83,17 @@ public:
     Result<void> begin() override
     {
         // The library looks at the size of a chunk alone, and the frame's header has two bytes for a side.
-        const bool fits = std::max(m_form.size.width, m_form.size.height) <= JPEG_MAX_DIMENSION;
+        const bool fits = std::max(m_parameters.size.width, m_parameters.size.height) <= JPEG_MAX_DIMENSION;
         return fits ? Result<void>() : tl::unexpected(ImageWorkerFault::CannotWrite);
     }
 
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
     {
-        auto encoder = m_encoders.take([this] { return std::make_unique<JpegChunkEncoder>(m_form); });
+        auto encoder =
+            m_encoders.acquire([this] { return std::make_unique<JpegChunkEncoder>(m_parameters); });
         const std::span<const JpegSegment> all = m_segments;
         Bytes stream = encoder->encode(top, height, readRow, chunk == 0 ? all : all.first(0));
-        m_encoders.giveBack(std::move(encoder));
+        m_encoders.release(std::move(encoder));
         if (stream.empty()) {
             return tl::unexpected(ImageWorkerFault::CannotWrite);
         }
@@ -118,8 +118,8 @@ private:
     Bytes beginning(Bytes stream) const
     {
         const std::size_t frame = findSegment(stream, FrameMarker);
-        stream[frame + 5] = static_cast<std::uint8_t>(m_form.size.height >> 8);
-        stream[frame + 6] = static_cast<std::uint8_t>(m_form.size.height);
+        stream[frame + 5] = static_cast<std::uint8_t>(m_parameters.size.height >> 8);
+        stream[frame + 6] = static_cast<std::uint8_t>(m_parameters.size.height);
         stream.erase(stream.end() - EndOfImage.size(), stream.end());
         return stream;
     }
@@ -136,10 +136,10 @@ private:
     }
 
     OutputFile &m_output;
-    const JpegForm m_form;
+    const JpegParameters m_parameters;
     const std::vector<JpegSegment> m_segments;
-    Spares<JpegChunkEncoder> m_encoders;
-    OrderedPieces<Bytes> m_pieces;
+    ObjectPool<JpegChunkEncoder> m_encoders;
+    ReorderBuffer<Bytes> m_pieces;
 };
 
 } // namespace

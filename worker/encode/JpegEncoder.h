@@ -8,9 +8,8 @@
 
 namespace imageworker {
 
-/// Writes a baseline JPEG, transparent pixels laid over white, marked as sRGB. @p quality is a fraction, 1
-/// being the best; it becomes the library's 0 to 100. Colours are halved in both directions except for the
-/// best qualities.
+/// Writes a baseline JPEG in sRGB, transparent pixels laid over white. @p quality is a fraction from 0 to 1,
+/// the best. Chroma is 4:2:0, or 4:4:4 from a quality of 0.95.
 std::unique_ptr<RowEncoder> makeJpegEncoder(OutputFile &output, PixelSize size, double quality,
                                             const CopyMetadata &metadata);
 

@@ -1,23 +1,23 @@
 #include "PngEncoder.h"
 
 #include "MagicBytes.h"
-#include "OrderedPieces.h"
+#include "ObjectPool.h"
 #include "PngFilter.h"
-#include "Spares.h"
+#include "ReorderBuffer.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <isa-l.h>
 #include <string_view>
+#include <zlib.h>
 
 namespace imageworker {
 
 namespace {
 
 constexpr std::size_t ChunkMemory = std::size_t{1} << 20U; // of unfiltered pixels
-constexpr int TallestChunk = 64; // rows; a power of two, which a tile's height is a multiple of
-constexpr std::uint32_t AdlerModulus = 65'521;
+constexpr int TallestChunk = 64;                           // rows; tile heights are multiples of it
 
 void appendNumber(Bytes &bytes, std::uint32_t value)
 {
@@ -26,21 +26,7 @@ void appendNumber(Bytes &bytes, std::uint32_t value)
     }
 }
 
-/// The checksum of two pieces of data joined, the second being @p length bytes (RFC 1950, 8.2).
-std::uint32_t joinedAdler(std::uint32_t first, std::uint32_t second, std::uint64_t length)
-{
-    const std::uint64_t a1 = first & 0xFFFF;
-    const std::uint64_t b1 = first >> 16;
-    const std::uint64_t a2 = second & 0xFFFF;
-    const std::uint64_t b2 = second >> 16;
-    const std::uint64_t a = (a1 + a2 + AdlerModulus - 1) % AdlerModulus;
-    const std::uint64_t b =
-        (b1 + b2 + (length % AdlerModulus) * ((a1 + AdlerModulus - 1) % AdlerModulus)) % AdlerModulus;
-    return static_cast<std::uint32_t>(b << 16 | a);
-}
-
-/// Filters and compresses one chunk. What it holds is large enough to be worth keeping from one chunk to the
-/// next.
+/// Filters and compresses one chunk. Its buffers are large, so it is used again for other chunks.
 class ChunkCompressor
 {
 public:
@@ -68,7 +54,7 @@ public:
         m_length = (m_rowLength + 1) * static_cast<std::size_t>(height);
     }
 
-    /// Appends the compressed rows to @p output; a stream is closed only by its last chunk.
+    /// Appends the compressed rows to @p output; the last chunk ends the deflate stream.
     void compress(bool isLast, Bytes &output)
     {
         isal_zstream stream;
@@ -122,11 +108,11 @@ public:
         Bytes header;
         appendNumber(header, static_cast<std::uint32_t>(m_size.width));
         appendNumber(header, static_cast<std::uint32_t>(m_size.height));
-        header.insert(header.end(),
-                      {8, 6, 0, 0, 0}); // bits, colour with opacity, the only methods, not interlaced
+        // Bits, RGBA, the only methods of compression and filtering, not interlaced.
+        header.insert(header.end(), {8, 6, 0, 0, 0});
         writePart("IHDR", header);
         writePart("sRGB", {0});                      // perceptual
-        writePart("gAMA", {0x00, 0x00, 0xB1, 0x8F}); // 1 / 2.2, for readers that know nothing better
+        writePart("gAMA", {0x00, 0x00, 0xB1, 0x8F}); // 1 / 2.2, for readers that do not know sRGB
         if (!m_metadata.exif.empty()) {
             writePart("eXIf", m_metadata.exif);
         }
@@ -140,18 +126,18 @@ public:
 
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override
     {
-        auto compressor =
-            m_compressors.take([this] { return std::make_unique<ChunkCompressor>(m_size, m_chunkHeight); });
+        auto compressor = m_compressors.acquire(
+            [this] { return std::make_unique<ChunkCompressor>(m_size, m_chunkHeight); });
         compressor->filter(top, height, readRow);
         Piece piece;
         if (chunk == 0) {
-            piece.data = {0x78, 0x5E}; // a stream of 32 KiB windows, compressed fast (RFC 1950, 2.2)
+            piece.data = {0x78, 0x5E}; // windows of 32 KiB, fast compression (RFC 1950, 2.2)
         }
         piece.isLast = top + height == m_size.height;
         compressor->compress(piece.isLast, piece.data);
         piece.adler = compressor->adler();
         piece.length = compressor->length();
-        m_compressors.giveBack(std::move(compressor));
+        m_compressors.release(std::move(compressor));
         m_pieces.add(chunk, std::move(piece), [this](Piece &next) { writePiece(next); });
         return m_output.outcome();
     }
@@ -173,9 +159,9 @@ private:
 
     void writePiece(Piece &piece)
     {
-        m_adler = joinedAdler(m_adler, piece.adler, piece.length);
+        m_adler = adler32_combine(m_adler, piece.adler, static_cast<z_off_t>(piece.length));
         if (piece.isLast) {
-            appendNumber(piece.data, m_adler);
+            appendNumber(piece.data, static_cast<std::uint32_t>(m_adler));
         }
         writePart("IDAT", piece.data);
     }
@@ -199,9 +185,9 @@ private:
     const PixelSize m_size;
     const CopyMetadata m_metadata;
     const int m_chunkHeight;
-    Spares<ChunkCompressor> m_compressors;
-    OrderedPieces<Piece> m_pieces;
-    std::uint32_t m_adler = 1; ///< of what is written
+    ObjectPool<ChunkCompressor> m_compressors;
+    ReorderBuffer<Piece> m_pieces;
+    uLong m_adler = 1; ///< of the rows written so far
 };
 
 } // namespace

@@ -8,8 +8,8 @@
 
 namespace imageworker {
 
-/// Writes a PNG of 8 bits with opacity, marked as sRGB. Chunks of rows are filtered and compressed on their
-/// own, so that all threads can share the work, and joined to one stream.
+/// Writes a PNG of 8-bit RGBA in sRGB. Threads filter and compress chunks of rows independently; the results
+/// are joined to one zlib stream.
 std::unique_ptr<RowEncoder> makePngEncoder(OutputFile &output, PixelSize size, const CopyMetadata &metadata);
 
 } // namespace imageworker

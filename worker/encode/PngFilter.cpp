@@ -51,8 +51,8 @@ void filterPaeth(const std::uint8_t *row, const std::uint8_t *above, std::size_t
 {
     *filtered++ = PaethNumber;
     for (std::size_t index = 0; index < std::min(length, PixelLength); ++index) {
-        filtered[index] =
-            static_cast<std::uint8_t>(row[index] - above[index]); // nothing to the left: the one above
+        // Without pixels to the left the prediction is the pixel above.
+        filtered[index] = static_cast<std::uint8_t>(row[index] - above[index]);
     }
     subtractPaeth(row, above, length, filtered);
 }

@@ -2,7 +2,7 @@
 
 #include "Exif.h"
 #include "JpegEncoder.h"
-#include "PhotoRows.h"
+#include "PhotoDecoder.h"
 #include "Pipeline.h"
 #include "PngEncoder.h"
 #include "Xmp.h"
@@ -13,7 +13,7 @@ Result<void> writeCopy(const Source &source, const Photo &photo, int output, Out
                        double jpegQuality)
 {
     const int workers = availableWorkers();
-    const auto rows = openRows(source, photo, workers);
+    const auto rows = openPhoto(source, photo, workers);
     if (!rows) {
         return tl::unexpected(rows.error());
     }

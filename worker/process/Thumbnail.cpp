@@ -1,7 +1,7 @@
 #include "Thumbnail.h"
 
 #include "AreaAverager.h"
-#include "PhotoRows.h"
+#include "PhotoDecoder.h"
 #include "Pipeline.h"
 #include "PngEncoder.h"
 
@@ -33,7 +33,7 @@ Result<void> writeThumbnail(const Source &source, const Photo &photo, int output
         return unreadable();
     }
     const int workers = availableWorkers();
-    const auto rows = openReducedRows(source, photo, workers, 2 * maximumSide);
+    const auto rows = openPhoto(source, photo, workers, 2 * maximumSide);
     if (!rows) {
         return unreadable();
     }
@@ -44,7 +44,7 @@ Result<void> writeThumbnail(const Source &source, const Photo &photo, int output
     }
     OutputFile file(output);
     const auto encoder = makePngEncoder(file, size, CopyMetadata());
-    RasterRows small(averager.take(), Upright(size));
+    RasterSource small(averager.take(), Upright(size));
     return runPipeline(small, *encoder, 1);
 }
 

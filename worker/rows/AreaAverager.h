@@ -9,23 +9,27 @@ namespace imageworker {
 class AreaAverager : public RowEncoder
 {
 public:
+    /// @p result is no larger than @p original on either side.
     AreaAverager(PixelSize original, PixelSize result);
 
     Order order() const override { return Order::OneAfterAnother; }
     int chunkHeight() const override { return 16; }
-    Result<void> begin() override { return {}; }
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override;
-    Result<void> finish() override { return {}; }
 
-    /// The result, once all rows have been taken.
-    Raster take() const;
-
-private:
+    /// Adds row @p y of the original, as red, green, blue and opacity.
     void addRow(int y, const std::uint8_t *rgba);
 
+    /// The result, once all rows have been added.
+    Raster take();
+
+private:
+    /// Writes row m_row of the result from the sums, which start anew.
+    void finishRow();
+
     PixelSize m_original;
-    PixelSize m_result;
-    std::vector<float> m_sums; ///< red, green, blue times opacity, and opacity, for each pixel of the result
+    Raster m_result;
+    int m_row = 0;                ///< of the result, being summed up
+    std::vector<float> m_columns; ///< for each column: sums of red, green, blue times opacity, and of opacity
 };
 
 } // namespace imageworker

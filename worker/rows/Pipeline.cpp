@@ -11,7 +11,7 @@ namespace imageworker {
 
 namespace {
 
-constexpr int MaximumWorkers = 16; // beyond, two strips have too few tiles for all
+constexpr int MaximumWorkers = 16; // two strips have too few tiles for more
 
 class Schedule
 {
@@ -25,8 +25,8 @@ public:
         }
         // One strip more than a chunk may need: the next can be decoded while the last is read.
         m_capacity = layOutChunks() + 1;
-        source.hold(static_cast<int>(m_capacity));
-        passWhatIsDecoded();
+        source.reserveStrips(static_cast<int>(m_capacity));
+        skipDecoded();
     }
 
     /// Works until nothing is left to take, as thread number @p worker.
@@ -61,7 +61,7 @@ private:
         std::size_t lastStrip = 0;
     };
 
-    /// Gives the largest number of strips that one chunk has rows in.
+    /// Gives the largest number of strips that a chunk has rows in.
     std::size_t layOutChunks()
     {
         const std::vector<Strip> &strips = m_source.strips();
@@ -137,11 +137,11 @@ private:
         const auto result = m_source.decodeTile(worker, static_cast<int>(stripIndex), tile);
         lock.lock();
         --progress.tilesLeft;
-        passWhatIsDecoded();
+        skipDecoded();
         finishStep(result);
     }
 
-    void passWhatIsDecoded()
+    void skipDecoded()
     {
         while (m_decoded < m_progress.size() && m_progress[m_decoded].tilesLeft == 0) {
             ++m_decoded;
@@ -163,7 +163,7 @@ private:
     std::condition_variable m_changed;
     std::vector<Progress> m_progress; ///< by strip
     std::vector<Chunk> m_chunks;
-    std::size_t m_capacity = 0;  ///< strips that are held at once
+    std::size_t m_capacity = 0;  ///< strips in memory at once
     std::size_t m_tileStrip = 0; ///< strip of the next tile to decode
     std::size_t m_decoded = 0;   ///< strips before this one are decoded
     std::size_t m_released = 0;  ///< strips before this one are no longer needed
@@ -191,7 +191,7 @@ Result<void> runPipeline(RowSource &source, RowEncoder &encoder, int workers)
             for (int worker = 1; worker < workers; ++worker) {
                 threads.emplace_back([&schedule, worker] { schedule.work(worker); });
             }
-        } catch (const std::system_error &) { // no more threads to be had: those there are do the work
+        } catch (const std::system_error &) { // no more threads: the existing ones do the work
         }
         schedule.work(0);
     }

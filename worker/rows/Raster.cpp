@@ -12,13 +12,13 @@ Result<void> RasterWriter::encodeChunk(int, int top, int height, const RowReader
     return {};
 }
 
-RasterRows::RasterRows(Raster raster, const Upright &upright)
+RasterSource::RasterSource(Raster raster, const Upright &upright)
     : m_raster(std::move(raster))
     , m_upright(upright)
     , m_strips{{0, upright.size().height, 0}}
 {}
 
-void RasterRows::readRow(int, int y, std::uint8_t *rgba) const
+void RasterSource::readRow(int, int y, std::uint8_t *rgba) const
 {
     const PixelRectangle crop = m_upright.crop();
     const Turn turn = m_upright.turn();

@@ -22,7 +22,7 @@ struct Raster
     Bytes rgba;
 };
 
-/// Fills a raster with what would else be encoded.
+/// Keeps the rows in a raster.
 class RasterWriter : public RowEncoder
 {
 public:
@@ -32,9 +32,7 @@ public:
 
     Order order() const override { return Order::AtOnce; }
     int chunkHeight() const override { return 64; }
-    Result<void> begin() override { return {}; }
     Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) override;
-    Result<void> finish() override { return {}; }
 
     Raster take() { return std::move(m_raster); }
 
@@ -43,15 +41,13 @@ private:
 };
 
 /// The rows of a raster, turned upright.
-class RasterRows : public RowSource
+class RasterSource : public RowSource
 {
 public:
-    RasterRows(Raster raster, const Upright &upright);
+    RasterSource(Raster raster, const Upright &upright);
 
     PixelSize size() const override { return m_upright.size(); }
     const std::vector<Strip> &strips() const override { return m_strips; }
-    void hold(int) override {}
-    Result<void> decodeTile(int, int, int) override { return {}; }
     void readRow(int strip, int y, std::uint8_t *rgba) const override;
 
 private:

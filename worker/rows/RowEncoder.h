@@ -26,13 +26,13 @@ public:
     virtual int chunkHeight() const = 0;
 
     /// Called once before the first chunk.
-    virtual Result<void> begin() = 0;
+    virtual Result<void> begin() { return {}; }
 
     /// Encodes rows @p top to @p top + @p height as chunk @p chunk, the first being 0.
     virtual Result<void> encodeChunk(int chunk, int top, int height, const RowReader &readRow) = 0;
 
     /// Called once after the last chunk.
-    virtual Result<void> finish() = 0;
+    virtual Result<void> finish() { return {}; }
 };
 
 } // namespace imageworker

@@ -47,17 +47,6 @@ Bytes fileOf(const CodedItem &coded, const HeifFile::Properties &more)
     return file.bytes(file.add("avc1", coded.data, properties));
 }
 
-TEST(ItemColour, ShouldFollowTheProfileThatAnotherProgramWrote)
-{
-    const Bytes profile = savedProfile(displayP3().get());
-    const Bytes photo = makePhoto({.iccProfile = profile});
-    const auto codes = decodeIndependently(photo); // which leaves profiles to others
-    const auto copy = shown(photo);
-    ASSERT_TRUE(copy && codes);
-    constexpr int RoundingSpreadByTheProfile = 4;
-    EXPECT_LE(largestDifference(*copy, through(profile, *codes)), RoundingSpreadByTheProfile);
-}
-
 TEST(ItemColour, ShouldFollowTheGreyProfileOfAGreyPicture)
 {
     constexpr double Gamma = 1.4;

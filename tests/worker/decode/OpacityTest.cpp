@@ -40,6 +40,28 @@ int brightnessAt(int x, int width)
     return 250 - 200 * x / width;
 }
 
+/// Calls @p check with the places of @p size that are @p step pixels apart, from the middle of the first.
+void forEachPlace(PixelSize size, int step, const std::function<void(int, int)> &check)
+{
+    for (int y = step / 2; y < size.height; y += step) {
+        for (int x = step / 2; x < size.width; x += step) {
+            SCOPED_TRACE(testing::Message() << x << ", " << y);
+            check(x, y);
+        }
+    }
+}
+
+int valueAt(const Raster &raster, int x, int y, int channel = 0)
+{
+    return raster.row(y)[4L * x + channel];
+}
+
+/// What rounding of a multiplied colour may change once it is divided by @p opacity.
+int halfAStored(int opacity)
+{
+    return 255 / (2 * opacity) + 1;
+}
+
 unsigned addWithOpacity(HeifFile &file, const Raster &grey, const Raster &opacity, Stored stored)
 {
     const CodedItem master = makeAvcItem(grey);
@@ -70,16 +92,12 @@ TEST(Opacity, ShouldDivideColoursThatWereMultipliedByIt)
     const auto divided = shown(photoWithOpacity(multiplied, opacity, Stored::MultipliedByOpacity));
     const auto plain = shown(photoWithOpacity(multiplied, opacity));
     ASSERT_TRUE(divided && plain);
-    for (int y = 0; y < Size.height; ++y) {
-        for (int x = 0; x < Size.width; ++x) {
-            const std::ptrdiff_t at = std::ptrdiff_t{4} * x;
-            const int expected = 255 - 5 * y;
-            const int halfAStored = 255 / (2 * expected) + 1;
-            ASSERT_NEAR(divided->row(y)[at], brightnessAt(x, Size.width), halfAStored);
-            ASSERT_EQ(divided->row(y)[at + 3], expected);
-            ASSERT_EQ(plain->row(y)[at], multiplied.row(y)[at]);
-        }
-    }
+    forEachPlace(Size, 1, [&](int x, int y) {
+        const int expected = valueAt(opacity, x, y);
+        ASSERT_NEAR(valueAt(*divided, x, y), brightnessAt(x, Size.width), halfAStored(expected));
+        ASSERT_EQ(valueAt(*divided, x, y, 3), expected);
+        ASSERT_EQ(valueAt(*plain, x, y), valueAt(multiplied, x, y));
+    });
 }
 
 TEST(Opacity, ShouldBeStretchedOverALargerPicture)
@@ -88,11 +106,8 @@ TEST(Opacity, ShouldBeStretchedOverALargerPicture)
     const Raster large = blocks(20);
     const auto copy = shown(photoWithOpacity(large, small));
     ASSERT_TRUE(copy);
-    for (int y = 10; y < large.size.height; y += 20) { // the middle of each block
-        for (int x = 10; x < large.size.width; x += 20) {
-            ASSERT_EQ(copy->row(y)[4L * x + 3], large.row(y)[4L * x]) << x << ", " << y;
-        }
-    }
+    forEachPlace(large.size, 20,
+                 [&](int x, int y) { ASSERT_EQ(valueAt(*copy, x, y, 3), valueAt(large, x, y)); });
 }
 
 TEST(Opacity, ShouldBeLaidOverWhiteInAJpeg)
@@ -103,15 +118,10 @@ TEST(Opacity, ShouldBeLaidOverWhiteInAJpeg)
     ASSERT_TRUE(jpeg);
     const auto copy = shown(*jpeg);
     ASSERT_TRUE(copy);
-    const Raster expected = drawn(opacity.size, [&](int x, int y) {
-        const int share = opacity.row(y)[4L * x];
-        return (grey.row(y)[4L * x] * share + 255 * (255 - share)) / 255;
+    forEachPlace(opacity.size, 16, [&](int x, int y) {
+        const int share = valueAt(opacity, x, y);
+        ASSERT_NEAR(valueAt(*copy, x, y), (valueAt(grey, x, y) * share + 255 * (255 - share)) / 255, 4);
     });
-    for (int y = 8; y < expected.size.height; y += 16) {
-        for (int x = 8; x < expected.size.width; x += 16) {
-            ASSERT_NEAR(copy->row(y)[4L * x], expected.row(y)[4L * x], 4) << x << ", " << y;
-        }
-    }
 }
 
 TEST(Opacity, ShouldShowInThumbnails)
@@ -124,14 +134,11 @@ TEST(Opacity, ShouldShowInThumbnails)
     const auto thumbnail = thumbnailOf(photo, 30);
     ASSERT_TRUE(thumbnail);
     ASSERT_EQ(thumbnail->size, (PixelSize{30, 20}));
-    for (int y = 2; y < 20; y += 5) {
-        for (int x = 2; x < 30; x += 5) {
-            const int expected = opacity.row(8 * y)[4L * 8 * x];
-            ASSERT_EQ(thumbnail->row(y)[4L * x + 3], expected) << x << ", " << y;
-            const int halfAStored = 255 / (2 * expected) + 1;
-            ASSERT_NEAR(thumbnail->row(y)[4L * x], 200, halfAStored) << x << ", " << y;
-        }
-    }
+    forEachPlace(thumbnail->size, 5, [&](int x, int y) {
+        const int expected = valueAt(opacity, 8 * x, 8 * y);
+        ASSERT_EQ(valueAt(*thumbnail, x, y, 3), expected);
+        ASSERT_NEAR(valueAt(*thumbnail, x, y), 200, halfAStored(expected));
+    });
 }
 
 TEST(Opacity, ShouldMixTheLayersOfAnOverlay)
@@ -149,18 +156,15 @@ TEST(Opacity, ShouldMixTheLayersOfAnOverlay)
     file.refer(overlay, "dimg", {below, above});
     const auto copy = shown(file.bytes(overlay));
     ASSERT_TRUE(copy);
-    for (int y = 0; y < 48; ++y) {
-        for (int x = 0; x < 64; ++x) {
-            const std::ptrdiff_t at = std::ptrdiff_t{4} * x;
-            // Porter and Duff, "Compositing Digital Images", 1984: "over".
-            const double upperShare = upperOpacity.row(y)[at] / 255.0;
-            const double lowerShare = lowerOpacity.row(y)[at] / 255.0 * (1 - upperShare);
-            const double share = upperShare + lowerShare;
-            const double mixed = (upper.row(y)[at] * upperShare + lower.row(y)[at] * lowerShare) / share;
-            ASSERT_NEAR(copy->row(y)[at + 3], 255 * share, 1.5) << x << ", " << y;
-            ASSERT_NEAR(copy->row(y)[at], mixed, 2 + 1 / share) << x << ", " << y;
-        }
-    }
+    forEachPlace(copy->size, 1, [&](int x, int y) {
+        // Porter and Duff, "Compositing Digital Images", 1984: "over".
+        const double upperShare = valueAt(upperOpacity, x, y) / 255.0;
+        const double lowerShare = valueAt(lowerOpacity, x, y) / 255.0 * (1 - upperShare);
+        const double share = upperShare + lowerShare;
+        const double mixed = (valueAt(upper, x, y) * upperShare + valueAt(lower, x, y) * lowerShare) / share;
+        ASSERT_NEAR(valueAt(*copy, x, y, 3), 255 * share, 1.5);
+        ASSERT_NEAR(valueAt(*copy, x, y), mixed, 2 + 1 / share);
+    });
 }
 
 } // namespace

@@ -1,8 +1,8 @@
-#include "SrgbStage.h"
+#include "SrgbTransform.h"
 
 #include "ColourSpace.h"
-#include "MatrixStage.h"
-#include "ProfileStage.h"
+#include "MatrixTransform.h"
+#include "ProfileTransform.h"
 #include "TransferCurve.h"
 #include "Vectorised.h"
 
@@ -10,7 +10,7 @@ namespace imageworker {
 
 namespace {
 
-LUMAPORT_VECTORISED void packBytes(const CodeRow &codes, std::uint8_t *__restrict rgba)
+LUMAPORT_VECTORISED void packBytes(const RgbRow &codes, std::uint8_t *__restrict rgba)
 {
     const std::uint16_t *red = codes.red.data();
     const std::uint16_t *green = codes.green.data();
@@ -24,21 +24,21 @@ LUMAPORT_VECTORISED void packBytes(const CodeRow &codes, std::uint8_t *__restric
     }
 }
 
-/// For pictures that are in sRGB already.
-class SameSpaceStage : public SrgbStage
+/// For pictures that are in sRGB already: codes are only rounded to 8 bits.
+class IdentityTransform : public SrgbTransform
 {
 public:
-    explicit SameSpaceStage(int maximumCode)
+    explicit IdentityTransform(int maximumCode)
         : m_maximumCode(static_cast<unsigned>(maximumCode))
     {}
 
-    void convert(const CodeRow &codes, std::uint8_t *rgba) const override
+    void convert(const RgbRow &codes, std::uint8_t *rgba) const override
     {
         if (m_maximumCode == 255) {
             packBytes(codes, rgba);
             return;
         }
-        CodeRow rounded = codes;
+        RgbRow rounded = codes;
         for (auto *channel : {&rounded.red, &rounded.green, &rounded.blue}) {
             for (std::uint16_t &code : *channel) {
                 code = static_cast<std::uint16_t>((code * 255U + m_maximumCode / 2) / m_maximumCode);
@@ -63,31 +63,31 @@ bool hasPrimariesOfSrgb(unsigned primaries)
 
 } // namespace
 
-std::unique_ptr<SrgbStage> makeSrgbStage(const Bytes &iccProfile, const CodePoints &codePoints,
-                                         int maximumCode, bool isGrey)
+std::unique_ptr<SrgbTransform> makeSrgbTransform(const Bytes &iccProfile, const CodePoints &codePoints,
+                                                 int maximumCode, bool isGrey)
 {
     if (const Profile profile = openProfile(iccProfile); profile != nullptr) {
         if (const auto space = matrixSpaceOf(profile.get(), maximumCode); space) {
-            return std::make_unique<MatrixStage>(*space);
+            return std::make_unique<MatrixTransform>(*space);
         }
-        if (auto stage = ProfileStage::create(profile.get(), maximumCode, isGrey)) {
-            return stage;
+        if (auto transform = ProfileTransform::create(profile.get(), maximumCode, isGrey)) {
+            return transform;
         }
     }
     if (isHighDynamicRange(codePoints.transfer)) {
-        return std::make_unique<ToneMappingStage>(
+        return std::make_unique<ToneMappingTransform>(
             matrixSpaceOf(codePoints.primaries, codePoints.transfer, maximumCode), codePoints.transfer);
     }
     if (hasPrimariesOfSrgb(codePoints.primaries) && isShownLikeSrgb(codePoints.transfer)) {
-        return std::make_unique<SameSpaceStage>(maximumCode);
+        return std::make_unique<IdentityTransform>(maximumCode);
     }
-    return std::make_unique<MatrixStage>(
+    return std::make_unique<MatrixTransform>(
         matrixSpaceOf(codePoints.primaries, codePoints.transfer, maximumCode));
 }
 
-void convertInPlace(const SrgbStage &stage, std::uint8_t *rgba, int width)
+void convertInPlace(const SrgbTransform &transform, std::uint8_t *rgba, int width)
 {
-    CodeRow codes(width);
+    RgbRow codes(width);
     Bytes opacities(codes.red.size());
     for (std::size_t x = 0; x < codes.red.size(); ++x) {
         codes.red[x] = rgba[4 * x];
@@ -95,7 +95,7 @@ void convertInPlace(const SrgbStage &stage, std::uint8_t *rgba, int width)
         codes.blue[x] = rgba[4 * x + 2];
         opacities[x] = rgba[4 * x + 3];
     }
-    stage.convert(codes, rgba);
+    transform.convert(codes, rgba);
     for (std::size_t x = 0; x < opacities.size(); ++x) {
         rgba[4 * x + 3] = opacities[x];
     }

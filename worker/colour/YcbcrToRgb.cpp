@@ -1,4 +1,4 @@
-#include "CodeConversion.h"
+#include "YcbcrToRgb.h"
 
 #include "Vectorised.h"
 
@@ -25,7 +25,7 @@ enum Matrix : unsigned {
     MatrixFromPrimaries = 12,
 };
 
-// Tables 2 and 3: with these, codes are shown as they are.
+// Tables 2 and 3: these codes are sRGB already.
 constexpr unsigned PrimariesBt709 = 1;
 constexpr unsigned TransferSrgb = 13;
 
@@ -68,9 +68,9 @@ Weights weightsOf(unsigned matrix, unsigned primaries)
 template<typename Sample>
 __attribute__((always_inline)) inline void convertRow(const Sample *__restrict y, const Sample *__restrict cb,
                                                       const Sample *__restrict cr, const auto &coefficients,
-                                                      CodeRow &codes)
+                                                      RgbRow &codes)
 {
-    const auto by = coefficients; // by value, or the compiler takes it to change with each pixel
+    const auto by = coefficients; // a copy, which the compiler knows not to change with each pixel
     std::uint16_t *__restrict red = codes.red.data();
     std::uint16_t *__restrict green = codes.green.data();
     std::uint16_t *__restrict blue = codes.blue.data();
@@ -89,8 +89,9 @@ __attribute__((always_inline)) inline void convertRow(const Sample *__restrict y
     }
 }
 
+/// Repeats each sample for the two pixels it covers; with a @p phase of 1 the first covers one pixel only.
 template<typename Sample>
-void spread(const Sample *samples, int phase, std::vector<Sample> &row)
+void upsample(const Sample *samples, int phase, std::vector<Sample> &row)
 {
     std::size_t width = row.size();
     Sample *__restrict next = row.data();
@@ -110,14 +111,14 @@ void spread(const Sample *samples, int phase, std::vector<Sample> &row)
 } // namespace
 
 LUMAPORT_VECTORISED void convertColour(const std::uint8_t *y, const std::uint8_t *cb, const std::uint8_t *cr,
-                                       const CodeConversion::Coefficients &by, CodeRow &codes)
+                                       const YcbcrToRgb::Coefficients &by, RgbRow &codes)
 {
     convertRow(y, cb, cr, by, codes);
 }
 
 LUMAPORT_VECTORISED void convertColour(const std::uint16_t *y, const std::uint16_t *cb,
-                                       const std::uint16_t *cr, const CodeConversion::Coefficients &by,
-                                       CodeRow &codes)
+                                       const std::uint16_t *cr, const YcbcrToRgb::Coefficients &by,
+                                       RgbRow &codes)
 {
     convertRow(y, cb, cr, by, codes);
 }
@@ -136,7 +137,7 @@ CodePoints effectiveCodePoints(const SampleFormat &format, const ColourDescripti
         points.primaries = PrimariesBt709;
         points.transfer = TransferSrgb;
     }
-    const bool canBeRgb = format.planeCount == 3 && format.chromaShiftX == 0 && format.chromaShiftY == 0;
+    const bool canBeRgb = format.planeCount == 3 && format.chroma == PlaneLayout();
     if (format.isRgb) {
         points.matrix = MatrixIdentity;
     } else if ((points.matrix == MatrixIdentity && !canBeRgb) || points.matrix == MatrixUnspecified) {
@@ -145,7 +146,7 @@ CodePoints effectiveCodePoints(const SampleFormat &format, const ColourDescripti
     return points;
 }
 
-CodeConversion::CodeConversion(const SampleFormat &format, const CodePoints &codePoints)
+YcbcrToRgb::YcbcrToRgb(const SampleFormat &format, const CodePoints &codePoints)
     : m_format(format)
     , m_maximumCode(format.depth == 8 ? 255 : 4095)
 {
@@ -159,7 +160,7 @@ CodeConversion::CodeConversion(const SampleFormat &format, const CodePoints &cod
     m_coefficients.maximum = narrow(m_maximumCode);
     m_coefficients.offset = narrow(codePoints.fullRange ? 0 : 16 * unit);
     m_coefficients.luma = narrow(luma);
-    if (codePoints.matrix == MatrixIdentity) { // planes are green, blue, red; all like brightness
+    if (codePoints.matrix == MatrixIdentity) { // each plane is converted like luma
         m_format.isRgb = m_format.planeCount == 3;
         m_coefficients.middle = 0;
         return;
@@ -180,19 +181,19 @@ CodeConversion::CodeConversion(const SampleFormat &format, const CodePoints &cod
 }
 
 template<typename Sample>
-void CodeConversion::convertSamples(const SampleRow &row, CodeRow &codes) const
+void YcbcrToRgb::convertSamples(const SampleRow &samples, RgbRow &codes) const
 {
-    const auto plane = [&row](std::size_t index) {
-        return reinterpret_cast<const Sample *>(row.planes[index]);
+    const auto plane = [&samples](std::size_t index) {
+        return reinterpret_cast<const Sample *>(samples[index]);
     };
     const auto width = static_cast<std::size_t>(codes.width());
     if (m_format.isRgb || m_format.planeCount == 1) {
-        // Each channel is a brightness of its own; the colour terms vanish for samples in the middle.
+        // Each channel is converted like luma; its chroma coefficients are zero.
         Coefficients alone;
         alone.offset = m_coefficients.offset;
         alone.luma = m_coefficients.luma;
         alone.maximum = m_coefficients.maximum;
-        CodeRow same(codes.width());
+        RgbRow same(codes.width());
         convertColour(plane(0), plane(0), plane(0), alone, codes);
         if (m_format.isRgb) {
             convertColour(plane(1), plane(1), plane(1), alone, same);
@@ -202,23 +203,23 @@ void CodeConversion::convertSamples(const SampleRow &row, CodeRow &codes) const
         }
         return;
     }
-    if (row.chromaShift == 0) {
+    if (m_format.chroma.shiftX == 0) {
         convertColour(plane(0), plane(1), plane(2), m_coefficients, codes);
         return;
     }
     std::vector<Sample> first(width);
     std::vector<Sample> second(width);
-    spread(plane(1), row.chromaPhase, first);
-    spread(plane(2), row.chromaPhase, second);
+    upsample(plane(1), m_format.chroma.phaseX, first);
+    upsample(plane(2), m_format.chroma.phaseX, second);
     convertColour(plane(0), first.data(), second.data(), m_coefficients, codes);
 }
 
-void CodeConversion::convert(const SampleRow &row, CodeRow &codes) const
+void YcbcrToRgb::convert(const SampleRow &samples, RgbRow &codes) const
 {
     if (m_format.sampleBytes() == 1) {
-        convertSamples<std::uint8_t>(row, codes);
+        convertSamples<std::uint8_t>(samples, codes);
     } else {
-        convertSamples<std::uint16_t>(row, codes);
+        convertSamples<std::uint16_t>(samples, codes);
     }
 }
 

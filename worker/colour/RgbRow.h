@@ -5,10 +5,10 @@
 
 namespace imageworker {
 
-/// One row of non-linear red, green and blue codes, 0 to a maximum that both sides know.
-struct CodeRow
+/// One row of non-linear red, green and blue codes; YcbcrToRgb::maximumCode() is the highest.
+struct RgbRow
 {
-    explicit CodeRow(int width)
+    explicit RgbRow(int width)
         : red(static_cast<std::size_t>(width))
         , green(red)
         , blue(red)

@@ -1,4 +1,4 @@
-#include "MatrixStage.h"
+#include "MatrixTransform.h"
 
 #include "TransferCurve.h"
 #include "Vectorised.h"
@@ -15,8 +15,8 @@ namespace {
 // 14 bits: where sRGB's curve is steepest, a step is a fifth of a code.
 constexpr int LastStep = 16383;
 
-// Recommendation ITU-R BT.2408-4, 2.1: what lies above the white of a page, up to what such pictures are
-// graded for.
+// Recommendation ITU-R BT.2408-4, 2.1: the light of white paper, and the brightest light pictures are graded
+// for.
 constexpr float ReferenceWhite = 203;  // cd/m2
 constexpr float GradingPeak = 1000;    // cd/m2
 constexpr float PqMaximum = 10000;     // cd/m2
@@ -35,18 +35,17 @@ float rolledOff(float light)
     return Knee + (1 - Knee) * above * (1 + above / (Peak * Peak)) / (1 + above);
 }
 
-// More than any space of real primaries reaches, which is below 3. Keeps what a broken profile says from
-// growing the table of codes.
+// Real primaries stay below 3. The limit keeps the table of codes small for a broken profile.
 constexpr double FurthestValue = 8;
 
-/// @p scale is what linear 1 stands for.
+/// @p scale: the table's value for linear 1.
 LinearTables makeTables(const MatrixSpace &space, double scale)
 {
     LinearTables tables;
     for (std::size_t channel = 0; channel < 3; ++channel) {
         for (const double linear : space.linear[channel]) {
             const auto part = [&](std::size_t row) {
-                const double value = space.toSrgb[row][channel] * linear;
+                const double value = space.toSrgb.v[row].n[channel] * linear;
                 const double inside =
                     std::clamp(std::isnan(value) ? 0 : value, -FurthestValue, FurthestValue);
                 return static_cast<float>(inside * scale);
@@ -82,10 +81,9 @@ std::pair<float, float> limitsOfSums(const LinearTables &tables)
     return {std::min({lowest[0], lowest[1], lowest[2]}), std::max({highest[0], highest[1], highest[2]})};
 }
 
-/// @p tables: one for each channel. @p srgb: codes by the sums. In blocks: the sums of a whole block are on
-/// their way to memory before the first of them is needed as an index.
-LUMAPORT_VECTORISED void convertPixels(const CodeRow &codes,
-                                       const std::array<const LinearColour *, 3> &tables,
+/// @p tables: one for each channel. @p srgb: the codes by sum. All sums of a block are stored before the
+/// first is loaded as an index, which spares the processor waiting for each store.
+LUMAPORT_VECTORISED void convertPixels(const RgbRow &codes, const std::array<const LinearColour *, 3> &tables,
                                        const std::uint8_t *__restrict srgb, std::uint8_t *__restrict rgba)
 {
     typedef std::int32_t Steps __attribute__((vector_size(16)));
@@ -117,12 +115,12 @@ LUMAPORT_VECTORISED void convertPixels(const CodeRow &codes,
 
 } // namespace
 
-MatrixStage::MatrixStage(const MatrixSpace &space)
+MatrixTransform::MatrixTransform(const MatrixSpace &space)
     : m_tables(makeTables(space, LastStep))
 {
     const auto [lowest, highest] = limitsOfSums(m_tables);
-    const int firstStep =
-        static_cast<int>(std::floor(lowest)) - 1; // sums in another order may round differently
+    // One step more on each side: sums in another order may round differently.
+    const int firstStep = static_cast<int>(std::floor(lowest)) - 1;
     const int lastStep = static_cast<int>(std::ceil(highest)) + 1;
     for (int step = firstStep; step <= lastStep; ++step) {
         m_codes.push_back(codeOfStep(step));
@@ -133,12 +131,12 @@ MatrixStage::MatrixStage(const MatrixSpace &space)
     }
 }
 
-void MatrixStage::convert(const CodeRow &codes, std::uint8_t *rgba) const
+void MatrixTransform::convert(const RgbRow &codes, std::uint8_t *rgba) const
 {
     convertPixels(codes, {m_tables[0].data(), m_tables[1].data(), m_tables[2].data()}, m_codes.data(), rgba);
 }
 
-ToneMappingStage::ToneMappingStage(const MatrixSpace &space, unsigned transfer)
+ToneMappingTransform::ToneMappingTransform(const MatrixSpace &space, unsigned transfer)
     : m_transfer(transfer)
     , m_tables(makeTables(space, 1))
 {
@@ -147,7 +145,7 @@ ToneMappingStage::ToneMappingStage(const MatrixSpace &space, unsigned transfer)
     }
 }
 
-void ToneMappingStage::store(LinearColour linear, std::uint8_t *rgba) const
+void ToneMappingTransform::store(LinearColour linear, std::uint8_t *rgba) const
 {
     for (int channel = 0; channel < 3; ++channel) {
         const float inside = std::clamp(linear[channel], 0.0F, 1.0F);
@@ -157,7 +155,7 @@ void ToneMappingStage::store(LinearColour linear, std::uint8_t *rgba) const
     rgba[3] = 255;
 }
 
-void ToneMappingStage::convert(const CodeRow &codes, std::uint8_t *rgba) const
+void ToneMappingTransform::convert(const RgbRow &codes, std::uint8_t *rgba) const
 {
     const auto width = static_cast<std::size_t>(codes.width());
     for (std::size_t x = 0; x < width; ++x) {

@@ -6,12 +6,12 @@
 
 namespace imageworker {
 
-/// Pieces of a file that are made on several threads at once and written in their order.
+/// Puts pieces that several threads make at once back into their order.
 template<typename Piece>
-class OrderedPieces
+class ReorderBuffer
 {
 public:
-    /// Hands @p piece, number @p number from 0, to @p write as soon as all before it were; one at a time.
+    /// Passes @p piece to @p write once all pieces with lower numbers, from 0, have been; one at a time.
     template<typename Write>
     void add(int number, Piece piece, const Write &write)
     {

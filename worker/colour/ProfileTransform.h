@@ -1,18 +1,18 @@
 #pragma once
 
 #include "ColourSpace.h"
-#include "SrgbStage.h"
+#include "SrgbTransform.h"
 
 namespace imageworker {
 
-/// For profiles of every other kind (tables, grey): row by row through lcms2.
-class ProfileStage : public SrgbStage
+/// For all other profiles (tables, grey): the transform of lcms2, row by row.
+class ProfileTransform : public SrgbTransform
 {
 public:
     /// Null when @p profile does not fit a picture that is grey or not, or cannot be taken to sRGB.
-    static std::unique_ptr<ProfileStage> create(cmsHPROFILE profile, int maximumCode, bool isGrey);
+    static std::unique_ptr<ProfileTransform> create(cmsHPROFILE profile, int maximumCode, bool isGrey);
 
-    void convert(const CodeRow &codes, std::uint8_t *rgba) const override;
+    void convert(const RgbRow &codes, std::uint8_t *rgba) const override;
 
 private:
     struct TransformDeleter
@@ -20,7 +20,7 @@ private:
         void operator()(void *transform) const { cmsDeleteTransform(transform); }
     };
 
-    ProfileStage() = default;
+    ProfileTransform() = default;
 
     std::unique_ptr<void, TransformDeleter> m_transform;
     unsigned m_maximumCode = 255;

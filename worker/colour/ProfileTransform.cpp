@@ -1,8 +1,8 @@
-#include "ProfileStage.h"
+#include "ProfileTransform.h"
 
 namespace imageworker {
 
-std::unique_ptr<ProfileStage> ProfileStage::create(cmsHPROFILE profile, int maximumCode, bool isGrey)
+std::unique_ptr<ProfileTransform> ProfileTransform::create(cmsHPROFILE profile, int maximumCode, bool isGrey)
 {
     const cmsColorSpaceSignature space = cmsGetColorSpace(profile);
     const bool isGreyProfile = space == cmsSigGrayData;
@@ -10,19 +10,18 @@ std::unique_ptr<ProfileStage> ProfileStage::create(cmsHPROFILE profile, int maxi
         return nullptr;
     }
     const Profile srgb(cmsCreate_sRGBProfile());
-    std::unique_ptr<ProfileStage> stage(new ProfileStage);
-    stage->m_maximumCode = static_cast<unsigned>(maximumCode);
-    stage->m_isGrey = isGreyProfile;
-    // Without the one-pixel cache, which several threads would share, and without lcms2's shortcuts: they are
-    // up to 14 codes off for a table and 7 for a curve of grey, for a few times the speed. Eight bits of
-    // opacity are left as they are.
-    stage->m_transform.reset(cmsCreateTransform(profile, isGreyProfile ? TYPE_GRAY_16 : TYPE_RGB_16,
-                                                srgb.get(), TYPE_RGBA_8, INTENT_PERCEPTUAL,
-                                                cmsFLAGS_NOCACHE | cmsFLAGS_NOOPTIMIZE));
-    return stage->m_transform ? std::move(stage) : nullptr;
+    std::unique_ptr<ProfileTransform> transform(new ProfileTransform);
+    transform->m_maximumCode = static_cast<unsigned>(maximumCode);
+    transform->m_isGrey = isGreyProfile;
+    // No cache: several threads would share it. No optimisation: it is a few times faster, but up to 14 codes
+    // off for a table and 7 for a curve of grey. Opacity in the output is left as it is.
+    transform->m_transform.reset(cmsCreateTransform(profile, isGreyProfile ? TYPE_GRAY_16 : TYPE_RGB_16,
+                                                    srgb.get(), TYPE_RGBA_8, INTENT_PERCEPTUAL,
+                                                    cmsFLAGS_NOCACHE | cmsFLAGS_NOOPTIMIZE));
+    return transform->m_transform ? std::move(transform) : nullptr;
 }
 
-void ProfileStage::convert(const CodeRow &codes, std::uint8_t *rgba) const
+void ProfileTransform::convert(const RgbRow &codes, std::uint8_t *rgba) const
 {
     const auto width = static_cast<std::size_t>(codes.width());
     const std::size_t channels = m_isGrey ? 1 : 3;
