@@ -3,6 +3,7 @@
 #include "ColourSpace.h"
 #include "Exif.h"
 #include "JpegChunkEncoder.h"
+#include "MagicBytes.h"
 #include "ObjectPool.h"
 #include "ReorderBuffer.h"
 #include "Xmp.h"
