@@ -120,7 +120,8 @@ TEST(Opacity, ShouldBeLaidOverWhiteInAJpeg)
     ASSERT_TRUE(copy);
     forEachPlace(opacity.size, 16, [&](int x, int y) {
         const int share = valueAt(opacity, x, y);
-        ASSERT_NEAR(valueAt(*copy, x, y), (valueAt(grey, x, y) * share + 255 * (255 - share)) / 255, 4);
+        const int expected = (valueAt(grey, x, y) * share + 255 * (255 - share)) / 255;
+        ASSERT_NEAR(valueAt(*copy, x, y), expected, 4);
     });
 }
 
