@@ -9,8 +9,7 @@ import sys
 import time
 import uuid
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tests/e2e"))
-from support import HOME, fresh, resident, windows
+from session_tools import HOME, fresh, resident, windows
 
 MINUTE = 60  # seconds
 STARTS = 3

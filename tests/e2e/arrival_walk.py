@@ -6,7 +6,7 @@ import subprocess
 import sys
 import unittest
 
-from support import COPIES, DOWNLOADS, HOME, Application, ended, everything_in, fresh, history, photo, ready, run, wait_until
+from session_tools import COPIES, DOWNLOADS, HOME, Application, ended, everything_in, fresh, history, photo, ready, run, wait_until
 
 PROGRAM = sys.argv.pop()
 UNREADABLE = "The image could not be opened. It may still be transferring."

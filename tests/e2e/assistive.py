@@ -7,7 +7,7 @@ os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
 import pyatspi
 from gi.repository import GLib
 
-from support import wait_until
+from session_tools import wait_until
 
 
 def accessible(name, role="push button"):

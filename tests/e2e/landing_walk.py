@@ -5,7 +5,7 @@ import sys
 import time
 import unittest
 
-from support import (COPIES, DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, fresh, key, move, photo, ready, run,
+from session_tools import (COPIES, DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, fresh, key, move, photo, ready, run,
                      stored, wait_until, windows)
 
 DRAG_SOURCE = sys.argv.pop()

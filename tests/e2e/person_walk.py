@@ -8,7 +8,7 @@ import dbus.service
 from dbus.mainloop.glib import DBusGMainLoop
 
 from assistive import accessible, press, take_messages
-from support import (COPIES, DOWNLOADS, HOME, Application, Dunst, ended, entry, history, key, photo, ready, run, stored, wait_stored,
+from session_tools import (COPIES, DOWNLOADS, HOME, Application, Dunst, ended, entry, history, key, photo, ready, run, stored, wait_stored,
                      wait_until, windows)
 
 PROGRAM = sys.argv.pop()

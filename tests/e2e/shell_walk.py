@@ -10,7 +10,7 @@ import unittest
 import dbus
 
 from assistive import UsableChanges, accessible, press
-from support import (DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, everything_in, fresh, history, key, move, photo,
+from session_tools import (DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, everything_in, fresh, history, key, move, photo,
                      run, stored, wait_stored, wait_until, windows)
 
 PROGRAM = sys.argv.pop()

@@ -6,7 +6,7 @@ import sys
 import unittest
 
 from assistive import accessible, press
-from support import COPIES, DOWNLOADS, HOME, Application, Program, ended, key, photo, stored, wait_stored, wait_until, windows
+from session_tools import COPIES, DOWNLOADS, HOME, Application, Program, ended, key, photo, stored, wait_stored, wait_until, windows
 
 PROGRAM = sys.argv.pop()
 SOCKET = "wayland-walk"

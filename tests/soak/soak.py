@@ -12,11 +12,10 @@ import subprocess
 import sys
 import time
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "e2e"))
-import support
-from support import COPIES, DOWNLOADS, HOME, Application, ended, entry, fresh, photo, ready, resident, run, wait_until
+import session_tools
+from session_tools import COPIES, DOWNLOADS, HOME, Application, ended, entry, fresh, photo, ready, resident, run, wait_until
 
-support.PATIENCE = 900
+session_tools.PATIENCE = 900
 PROGRAM = pathlib.Path(sys.argv[1]).resolve()
 CHANCE = random.Random(20260314)
 
