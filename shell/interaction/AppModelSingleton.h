@@ -15,15 +15,15 @@ struct AppModelSingleton
     QML_NAMED_ELEMENT(AppModel)
 
 public:
-    static void provide(AppModel &instance) { s_instance = &instance; }
+    static void provide(AppModel &instance) { provided = &instance; }
 
     static AppModel *create(QQmlEngine *, QJSEngine *)
     {
-        Q_ASSERT(s_instance);
-        QJSEngine::setObjectOwnership(s_instance, QJSEngine::CppOwnership);
-        return s_instance;
+        Q_ASSERT(provided);
+        QJSEngine::setObjectOwnership(provided, QJSEngine::CppOwnership);
+        return provided;
     }
 
 private:
-    inline static AppModel *s_instance = nullptr;
+    inline static AppModel *provided = nullptr;
 };

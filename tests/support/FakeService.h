@@ -37,7 +37,7 @@ public:
         signal.setArguments(arguments);
         bus.send(signal);
     }
-    void refuse(const QDBusMessage &call, const QString &error)
+    void refuse(const QDBusMessage &call, const QString &error) const
     {
         call.setDelayedReply(true);
         bus.send(call.createErrorReply(error, QString()));

@@ -15,15 +15,15 @@ struct SystemAppearanceSingleton
     QML_NAMED_ELEMENT(SystemAppearance)
 
 public:
-    static void provide(SystemAppearance &instance) { s_instance = &instance; }
+    static void provide(SystemAppearance &instance) { provided = &instance; }
 
     static SystemAppearance *create(QQmlEngine *, QJSEngine *)
     {
-        Q_ASSERT(s_instance);
-        QJSEngine::setObjectOwnership(s_instance, QJSEngine::CppOwnership);
-        return s_instance;
+        Q_ASSERT(provided);
+        QJSEngine::setObjectOwnership(provided, QJSEngine::CppOwnership);
+        return provided;
     }
 
 private:
-    inline static SystemAppearance *s_instance = nullptr;
+    inline static SystemAppearance *provided = nullptr;
 };

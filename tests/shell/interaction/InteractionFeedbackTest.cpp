@@ -83,16 +83,6 @@ private Q_SLOTS:
         stage.button->setEnabled(true);
         QTRY_VERIFY(stage.isHighlighted());
     }
-
-    void shouldComeAndGoAtOnceWithReducedMotion()
-    {
-        Stage stage;
-        stage.appearance.setMotion(SystemAppearance::Motion::Reduced);
-        stage.enter();
-        QVERIFY(stage.isHighlighted());
-        stage.leave();
-        QVERIFY(stage.isPlain());
-    }
 };
 
 QTEST_MAIN(InteractionFeedbackTest)

@@ -3,7 +3,6 @@
 #include "LumaportPalette.h"
 #include "Symbol.h"
 #include "SystemAppearance.h"
-#include "Typeface.h"
 
 #include <QDir>
 #include <QPainter>
@@ -106,18 +105,6 @@ private Q_SLOTS:
         const QIcon themed = BrandAssets::loadIcon(missing, "mark");
         QCOMPARE(themed.pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::red));
         QVERIFY(BrandAssets::loadIcon(missing, "nor-this").pixmap(16, 16).isNull());
-
-        QFile broken(folder.filePath("broken.png"));
-        QVERIFY(broken.open(QIODevice::WriteOnly));
-        broken.write("not a picture");
-        broken.close();
-        QVERIFY(!BrandAssets::loadIcon(broken.fileName(), "mark").pixmap(16, 16).isNull());
-    }
-
-    void shouldAskForInterFirstAndKeepTheDesktopsFamily()
-    {
-        const QFont font = Typeface::preferred(QFont("Some Sans"));
-        QCOMPARE(font.families(), (QStringList{"Inter", "Some Sans"}));
     }
 };
 
