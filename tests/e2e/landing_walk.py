@@ -6,7 +6,7 @@ import time
 import unittest
 
 from session_tools import (COPIES, DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, fresh, key, move, photo, ready, run,
-                     stored, wait_until, windows)
+                           stored, wait_until, windows)
 
 DRAG_SOURCE = sys.argv.pop()
 PROGRAM = sys.argv.pop()

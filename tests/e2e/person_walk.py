@@ -9,7 +9,7 @@ from dbus.mainloop.glib import DBusGMainLoop
 
 from assistive import accessible, press, take_messages
 from session_tools import (COPIES, DOWNLOADS, HOME, Application, Dunst, ended, entry, history, key, photo, ready, run, stored, wait_stored,
-                     wait_until, windows)
+                           wait_until, windows)
 
 PROGRAM = sys.argv.pop()
 ELSEWHERE = HOME / "Elsewhere"

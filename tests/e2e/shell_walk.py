@@ -11,7 +11,7 @@ import dbus
 
 from assistive import UsableChanges, accessible, press
 from session_tools import (DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, everything_in, fresh, history, key, move, photo,
-                     run, stored, wait_stored, wait_until, windows)
+                           run, stored, wait_stored, wait_until, windows)
 
 PROGRAM = sys.argv.pop()
 ITEM = "org.kde.StatusNotifierItem"
