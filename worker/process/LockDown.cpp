@@ -64,18 +64,22 @@ public:
     CallFilter(const CallFilter &) = delete;
     CallFilter &operator=(const CallFilter &) = delete;
 
-    void add(std::uint32_t action, std::initializer_list<int> calls)
+    void add(std::uint32_t action, std::initializer_list<const char *> calls)
     {
-        for (const int call : calls) {
-            m_isComplete = m_isComplete && seccomp_rule_add(m_filter, action, call, 0) == 0;
+        for (const char *call : calls) {
+            addIf(action, call, {});
         }
     }
-    /// For calls whose arguments meet all of @p conditions.
-    void addIf(std::uint32_t action, int call, std::initializer_list<scmp_arg_cmp> conditions)
+    /// For calls whose arguments meet all of @p conditions. A call that machines of this kind do not have is
+    /// left out; a name that the library does not know is a mistake.
+    void addIf(std::uint32_t action, const char *call, std::initializer_list<scmp_arg_cmp> conditions)
     {
-        m_isComplete = m_isComplete && seccomp_rule_add_array(m_filter, action, call,
-                                                              static_cast<unsigned>(conditions.size()),
-                                                              conditions.begin()) == 0;
+        const int number = seccomp_syscall_resolve_name(call);
+        const bool isMissing = number < 0 && number != __NR_SCMP_ERROR;
+        m_isComplete =
+            m_isComplete && (isMissing || seccomp_rule_add_array(m_filter, action, number,
+                                                                 static_cast<unsigned>(conditions.size()),
+                                                                 conditions.begin()) == 0);
     }
     bool load() { return m_isComplete && seccomp_load(m_filter) == 0; }
 
@@ -103,43 +107,40 @@ bool filterCalls()
     constexpr std::uint32_t Kill = SCMP_ACT_KILL_PROCESS;
     CallFilter filter;
     // Transfer: the photo, the output and the socket are open already.
-    filter.add(Allow, {SYS_read, SYS_write, SYS_pread64, SYS_pwrite64, SYS_readv, SYS_writev, SYS_lseek,
-                       SYS_fstat, SYS_close, SYS_recvmsg, SYS_sendmsg, SYS_sendto, SYS_recvfrom});
+    filter.add(Allow, {"read", "write", "pread64", "pwrite64", "readv", "writev", "lseek", "fstat", "close",
+                       "recvmsg", "sendmsg", "sendto", "recvfrom"});
     // Memory: the allocator's calls. Memory that can be executed is not needed once the libraries are loaded.
-    filter.add(Allow, {SYS_munmap, SYS_mremap, SYS_madvise, SYS_brk});
-    for (const int call : {SYS_mmap, SYS_mprotect}) {
+    filter.add(Allow, {"munmap", "mremap", "madvise", "brk"});
+    for (const char *call : {"mmap", "mprotect"}) {
         filter.addIf(Allow, call, {bits(2, PROT_EXEC, 0)});
         filter.addIf(Kill, call, {bits(2, PROT_EXEC, PROT_EXEC)});
     }
     // Threads: decoding uses all cores. Not clone3, whose flags a filter cannot see.
-    filter.add(Allow, {SYS_futex, SYS_set_robust_list, SYS_rseq, SYS_rt_sigprocmask, SYS_rt_sigreturn,
-                       SYS_sched_yield, SYS_sched_getaffinity, SYS_sched_getparam, SYS_sched_getscheduler,
-                       SYS_gettid, SYS_getpid, SYS_exit, SYS_exit_group, SYS_restart_syscall});
-    filter.addIf(Allow, SYS_clone, {bits(0, CLONE_THREAD, CLONE_THREAD)});
-    filter.addIf(Kill, SYS_clone, {bits(0, CLONE_THREAD, 0)});
+    filter.add(Allow, {"futex", "set_robust_list", "rseq", "rt_sigprocmask", "rt_sigreturn", "sched_yield",
+                       "sched_getaffinity", "sched_getparam", "sched_getscheduler", "gettid", "getpid",
+                       "exit", "exit_group", "restart_syscall"});
+    filter.addIf(Allow, "clone", {bits(0, CLONE_THREAD, CLONE_THREAD)});
+    filter.addIf(Kill, "clone", {bits(0, CLONE_THREAD, 0)});
     // Clocks and random numbers: used inside the libraries.
-    filter.add(Allow, {SYS_clock_gettime, SYS_clock_getres, SYS_gettimeofday, SYS_clock_nanosleep,
-                       SYS_nanosleep, SYS_getrandom});
+    filter.add(Allow, {"clock_gettime", "clock_getres", "gettimeofday", "clock_nanosleep", "nanosleep",
+                       "getrandom"});
     // This process itself: the C library reads its limits, and a thumbnail lowers its priority.
-    filter.addIf(Allow, SYS_prlimit64, {is(0, 0), is(2, 0)});
-    filter.addIf(Allow, SYS_setpriority, {is(0, PRIO_PROCESS), is(1, 0)});
+    filter.addIf(Allow, "prlimit64", {is(0, 0), is(2, 0)});
+    filter.addIf(Allow, "setpriority", {is(0, PRIO_PROCESS), is(1, 0)});
     // Files by name: the C library looks for some under /proc and /sys and does without. Nothing is created.
-    filter.addIf(SCMP_ACT_ERRNO(ENOENT), SYS_openat, {bits(2, O_ACCMODE, O_RDONLY)});
-    filter.addIf(Kill, SYS_openat, {bits(2, O_WRONLY, O_WRONLY)});
-    filter.addIf(Kill, SYS_openat, {bits(2, O_RDWR, O_RDWR)});
-    filter.add(Kill, {SYS_truncate, SYS_unlinkat, SYS_renameat, SYS_renameat2, SYS_linkat, SYS_symlinkat,
-                      SYS_mkdirat, SYS_fchmod, SYS_fchmodat, SYS_fchown, SYS_fchownat, SYS_open_by_handle_at,
-                      SYS_memfd_create});
+    filter.addIf(SCMP_ACT_ERRNO(ENOENT), "openat", {bits(2, O_ACCMODE, O_RDONLY)});
+    filter.addIf(Kill, "openat", {bits(2, O_WRONLY, O_WRONLY)});
+    filter.addIf(Kill, "openat", {bits(2, O_RDWR, O_RDWR)});
+    filter.add(Kill, {"truncate", "unlinkat", "renameat", "renameat2", "linkat", "symlinkat", "mkdirat",
+                      "fchmod", "fchmodat", "fchown", "fchownat", "open_by_handle_at", "memfd_create"});
     // Other processes: no decoder starts or touches one.
-    filter.add(Kill, {SYS_execve, SYS_execveat, SCMP_SYS(fork), SCMP_SYS(vfork), SYS_ptrace,
-                      SYS_process_vm_readv, SYS_process_vm_writev, SYS_kill, SYS_pidfd_send_signal});
+    filter.add(Kill, {"execve", "execveat", "fork", "vfork", "ptrace", "process_vm_readv",
+                      "process_vm_writev", "kill", "pidfd_send_signal"});
     // Network: no decoder opens a connection.
-    filter.add(Kill,
-               {SYS_socket, SYS_socketpair, SYS_connect, SYS_bind, SYS_listen, SYS_accept, SYS_accept4});
+    filter.add(Kill, {"socket", "socketpair", "connect", "bind", "listen", "accept", "accept4"});
     // Kernel interfaces: the usual ways out of a sandbox.
-    filter.add(Kill, {SYS_mount, SYS_umount2, SYS_setns, SYS_unshare, SYS_pivot_root, SYS_chroot, SYS_bpf,
-                      SYS_io_uring_setup, SYS_perf_event_open, SYS_keyctl, SYS_add_key, SYS_init_module,
-                      SYS_finit_module, SYS_userfaultfd});
+    filter.add(Kill, {"mount", "umount2", "setns", "unshare", "pivot_root", "chroot", "bpf", "io_uring_setup",
+                      "perf_event_open", "keyctl", "add_key", "init_module", "finit_module", "userfaultfd"});
     return filter.load();
 }
 

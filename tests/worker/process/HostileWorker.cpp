@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <map>
+#include <seccomp.h>
 #include <string>
 #include <string_view>
 #include <sys/mman.h>
@@ -97,6 +98,13 @@ bool survives(const Call &call)
     return true;
 }
 
+/// Nothing is tried where the processor has no such call.
+bool survivesCall(const char *name)
+{
+    const int number = seccomp_syscall_resolve_name(name);
+    return number >= 0 && survives([number] { ::syscall(number); });
+}
+
 constexpr std::size_t FourGibibytes = std::size_t{4} << 30;
 const rlimit zero = {0, 0};
 
@@ -106,8 +114,8 @@ const std::map<std::string_view, bool (*)(int source)> actions = {
     {"socket", [](int) { return survives([] { ::socket(AF_INET, SOCK_STREAM, 0); }); }},
     {"exec", [](int) { return survives(executeProgram); }},
     {"clone", [](int) { return survives(::fork); }}, // the C library's fork() uses clone()
-    {"fork", [](int) { return survives([] { ::syscall(SYS_fork); }); }},
-    {"vfork", [](int) { return survives([] { ::syscall(SYS_vfork); }); }},
+    {"fork", [](int) { return survivesCall("fork"); }},
+    {"vfork", [](int) { return survivesCall("vfork"); }},
     {"ptrace", [](int) { return survives([] { ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr); }); }},
     {"crash", [](int) { return survives(std::abort); }},
     {"spin", [](int) { return survives(spin); }},
