@@ -17,9 +17,9 @@ void cutMetadata(const Photo &photo)
     constexpr std::size_t FewFields = 150;
     constexpr std::size_t LeastForXmp = 500; // the first segment's own words take most of it
     Bytes exif = photo.exif;
-    describeCopy(exif, photo.upright());
+    describeCopy(exif, photo.transformation());
     Bytes xmp = photo.xmp;
-    describeCopyInXmp(xmp, photo.upright().size());
+    describeCopyInXmp(xmp, photo.transformation().size());
     bool areWithin = exifWithin(exif, FewFields).size() <= FewFields;
     for (const Bytes &segment : xmpSegments(xmp, LeastForXmp)) {
         areWithin = areWithin && segment.size() <= LeastForXmp;
@@ -38,14 +38,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (!photo) {
         return 0;
     }
-    const PixelSize shown = photo->upright().size();
+    const PixelSize shown = photo->transformation().size();
     if (!isAcceptable(shown.width, shown.height)) {
         std::abort();
     }
     cutMetadata(*photo);
     if (const auto *picture = std::get_if<Picture>(&photo->picture)) {
         if (const auto *grid = std::get_if<TileGrid>(&picture->content)) {
-            const PixelRectangle crop = picture->upright.crop();
+            const PixelRectangle crop = picture->transformation.crop();
             const bool isInside = crop.x >= 0 && crop.y >= 0 && crop.x + crop.width <= grid->canvas.width &&
                                   crop.y + crop.height <= grid->canvas.height;
             const auto tiles = static_cast<std::size_t>(grid->rows) * static_cast<std::size_t>(grid->columns);

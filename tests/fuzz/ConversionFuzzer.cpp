@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (!photo) {
         return 0;
     }
-    const PixelSize shown = photo->upright().size();
+    const PixelSize shown = photo->transformation().size();
     if (std::int64_t{shown.width} * shown.height > LargestWorthFuzzing) {
         return 0;
     }

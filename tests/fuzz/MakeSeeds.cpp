@@ -1,13 +1,15 @@
-// MakeSeeds FOLDER: a few small photos of different kinds for the fuzzers to start from.
+// MakeSeeds FOLDER: photos of different kinds, of up to 200 KB, for the fuzzers to start from.
 
 #include "AvcPicture.h"
 #include "ExactColour.h"
+#include "JpegOrPngFile.h"
 #include "MadeExif.h"
 #include "MadePhoto.h"
 #include "MadeTracks.h"
-#include "PlainPhoto.h"
 
+#include <algorithm>
 #include <fstream>
+#include <random>
 #include <string>
 
 namespace imageworker {
@@ -69,6 +71,28 @@ Bytes tracks()
     return fileOfTracks({opacity, track});
 }
 
+/// As large as a small photo of a camera.
+Raster noise()
+{
+    Raster picture({320, 256});
+    std::minstd_rand random(3);
+    std::ranges::generate(picture.rgba, [&] { return static_cast<std::uint8_t>(random() >> 8); });
+    return picture;
+}
+
+/// A grid of tiles in slices, each of which says other things of itself.
+Bytes largeGrid()
+{
+    HeifFile file;
+    std::vector<unsigned> tiles;
+    for (unsigned index = 0; index < 6; ++index) {
+        const CodedItem coded = codedItemOf(makePhoto({.slices = 3}, partOf(noise(), 0, 0, {192, 192})));
+        const HeifFile::Property unknown = {"wxyz", Bytes(index)};
+        tiles.push_back(file.add(coded, {unknown, codePoints(1, 13, index, index % 2 == 0)}));
+    }
+    return file.bytes(file.addGrid(2, 3, {570, 380}, tiles, {{"pixi", Bytes(8), true}}));
+}
+
 Bytes profile()
 {
     const Profile srgb(cmsCreate_sRGBProfile());
@@ -96,7 +120,14 @@ std::vector<Bytes> photos()
                               toneMap(),
                               tracks(),
                               makeJpeg(picture, {profile(), exif, xmp}),
-                              makePng(picture, {profile(), exif, xmp})};
+                              makePng(picture, {profile(), exif, xmp}),
+                              makePng(picture, {}, {.isSrgb = false, .hasLinearGamma = true, .depth = 16}),
+                              largeGrid(),
+                              makePhoto({.hasAlpha = true, .orientation = 5, .exif = exif}, noise()),
+                              makePhoto({.codec = PhotoRecipe::Codec::Av1}, noise()),
+                              photoOf(makeAvcItem(noise(), 0, 4)),
+                              makeJpeg(noise(), {{}, exif, xmp}, {.quality = 80, .isProgressive = true}),
+                              makePng(partOf(noise(), 0, 0, {200, 200}), {{}, exif, {}})};
     for (const PhotoRecipe &recipe : recipes) {
         all.push_back(makePhoto(recipe));
     }

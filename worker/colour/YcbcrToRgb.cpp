@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <type_traits>
 
 namespace imageworker {
@@ -21,7 +22,6 @@ enum Matrix : unsigned {
     MatrixSmpte240 = 7,
     MatrixYCgCo = 8,
     MatrixBt2020 = 9,
-    MatrixBt2020Constant = 10,
     MatrixFromPrimaries = 12,
 };
 
@@ -35,34 +35,35 @@ struct Weights
     double blue;
 };
 
-Weights weightsOf(unsigned matrix, unsigned primaries)
+/// What red and blue have in brightness (H.273, table 4); nothing for a matrix that has no such weights or is
+/// not implemented.
+std::optional<Weights> weightsOf(unsigned matrix, unsigned primaries)
 {
+    if (matrix == MatrixFromPrimaries) { // equations 39 to 44, worked out for the primaries that cameras use
+        constexpr unsigned PrimariesBt2020 = 9;
+        constexpr unsigned PrimariesDisplayP3 = 12;
+        if (primaries == PrimariesDisplayP3) {
+            return Weights{0.2290, 0.0793};
+        }
+        matrix = primaries == PrimariesBt709    ? MatrixBt709
+                 : primaries == PrimariesBt2020 ? MatrixBt2020
+                                                : MatrixUnspecified;
+    }
     switch (matrix) {
     case MatrixBt709:
-        return {0.2126, 0.0722};
+        return Weights{0.2126, 0.0722};
     case MatrixFcc:
-        return {0.30, 0.11};
+        return Weights{0.30, 0.11};
+    case MatrixBt601Line625:
+    case MatrixBt601:
+        return Weights{0.299, 0.114};
     case MatrixSmpte240:
-        return {0.212, 0.087};
+        return Weights{0.212, 0.087};
     case MatrixBt2020:
-    case MatrixBt2020Constant:
-        return {0.2627, 0.0593};
-    case MatrixFromPrimaries: // H.273, equations 39 to 44, worked out for the primaries that cameras use
-        switch (primaries) {
-        case 1:
-            return {0.2126, 0.0722};
-        case 9:
-            return {0.2627, 0.0593};
-        case 12:
-            return {0.2290, 0.0793};
-        default:
-            break;
-        }
-        break;
+        return Weights{0.2627, 0.0593};
     default:
-        break;
+        return std::nullopt;
     }
-    return {0.299, 0.114};
 }
 
 template<typename Sample>
@@ -123,7 +124,7 @@ LUMAPORT_VECTORISED void convertColour(const std::uint16_t *y, const std::uint16
     convertRow(y, cb, cr, by, codes);
 }
 
-CodePoints effectiveCodePoints(const SampleFormat &format, const ColourDescription &description)
+Result<CodePoints> effectiveCodePoints(const SampleFormat &format, const ColourDescription &description)
 {
     CodePoints points = format.codePoints;
     if (description.codePoints) {
@@ -140,10 +141,13 @@ CodePoints effectiveCodePoints(const SampleFormat &format, const ColourDescripti
     const bool canBeRgb = format.planeCount == 3 && format.chroma == PlaneLayout();
     if (format.isRgb) {
         points.matrix = MatrixIdentity;
-    } else if ((points.matrix == MatrixIdentity && !canBeRgb) || points.matrix == MatrixUnspecified) {
+    } else if ((points.matrix == MatrixIdentity && !canBeRgb) || points.matrix == MatrixUnspecified ||
+               format.planeCount == 1) {
         points.matrix = MatrixBt601;
     }
-    return points;
+    const bool isImplemented = points.matrix == MatrixIdentity || points.matrix == MatrixYCgCo ||
+                               weightsOf(points.matrix, points.primaries);
+    return isImplemented ? Result<CodePoints>(points) : unreadable();
 }
 
 YcbcrToRgb::YcbcrToRgb(const SampleFormat &format, const CodePoints &codePoints)
@@ -172,7 +176,7 @@ YcbcrToRgb::YcbcrToRgb(const SampleFormat &format, const CodePoints &codePoints)
         m_coefficients.blue = {narrow(-colour), narrow(-colour)};
         return;
     }
-    const auto [red, blue] = weightsOf(codePoints.matrix, codePoints.primaries);
+    const auto [red, blue] = *weightsOf(codePoints.matrix, codePoints.primaries);
     const double green = 1 - red - blue;
     m_coefficients.red = {0.0F, narrow(2 * (1 - red) * colour)};
     m_coefficients.green = {narrow(-2 * (1 - blue) * blue / green * colour),

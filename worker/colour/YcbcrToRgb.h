@@ -48,7 +48,8 @@ private:
 };
 
 /// The code points of a picture: those of the container, else those of the coded picture, else limited range
-/// and BT.601. The matrix is always one that @p format allows.
-CodePoints effectiveCodePoints(const SampleFormat &format, const ColourDescription &description);
+/// and BT.601. The matrix is one that @p format allows. Unreadable when it is not implemented: those of
+/// constant luminance, and those that newer standards add, would give other colours.
+Result<CodePoints> effectiveCodePoints(const SampleFormat &format, const ColourDescription &description);
 
 } // namespace imageworker

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Source.h"
-#include "Upright.h"
+#include "Transformation.h"
 
 #include <array>
 #include <memory>
@@ -16,8 +16,8 @@ enum class Codec { Hevc, Av1, Avc, Jpeg };
 struct CodedPicture
 {
     Codec codec = Codec::Hevc;
-    Bytes configuration;      ///< decoder configuration record; for JPEG the tables that precede the data
-    unsigned lengthWidth = 0; ///< bytes of each NAL unit's length field; 0 where the codec has no such units
+    SharedBytes configuration; ///< decoder configuration record; for JPEG the tables that precede the data
+    unsigned lengthWidth = 0;  ///< bytes of each NAL unit's length field; 0 where the codec has no such units
     DataLocation data;
 };
 
@@ -71,9 +71,9 @@ struct Overlay
 struct Picture
 {
     std::variant<TileGrid, Overlay> content;
-    Upright upright;
+    Transformation transformation;
     bool hasOrientation =
-        false; ///< "irot" or "imir" is part of upright, so Exif's orientation does not count
+        false; ///< "irot" or "imir" is part of transformation, so Exif's orientation does not count
     ColourDescription colour;
     std::shared_ptr<Picture> alpha; ///< its opacity as a picture of its own; null when it is opaque
     bool premultiplied = false;     ///< its colours have been multiplied by its opacity
@@ -85,7 +85,7 @@ struct JpegOrPng
     enum class Kind { Jpeg, Png };
     Kind kind = Kind::Jpeg;
     PixelSize stored;
-    Upright upright;
+    Transformation transformation;
 };
 
 /// What a file holds: its picture and its metadata.
@@ -95,9 +95,10 @@ struct Photo
     Bytes exif; ///< from its TIFF header on; empty when there is none
     Bytes xmp;  ///< a packet of text; empty when there is none
 
-    const Upright &upright() const
+    const Transformation &transformation() const
     {
-        return std::visit([](const auto &content) -> const Upright & { return content.upright; }, picture);
+        return std::visit(
+            [](const auto &content) -> const Transformation & { return content.transformation; }, picture);
     }
 };
 

@@ -4,6 +4,7 @@
 #include "ImageWorkerLimits.h"
 
 #include <cstdint>
+#include <memory>
 #include <tl/expected.hpp>
 #include <vector>
 
@@ -18,6 +19,9 @@ inline tl::unexpected<ImageWorkerFault> unreadable()
 }
 
 using Bytes = std::vector<std::uint8_t>;
+
+/// Bytes that several owners hold and none changes; never null where a function gives or takes them.
+using SharedBytes = std::shared_ptr<const Bytes>;
 
 /// Width and height in pixels.
 struct PixelSize

@@ -21,13 +21,13 @@ struct FullBoxHeader
     std::uint32_t flags = 0;
 };
 
-/// Reads a header; false when there are not bytes enough for one, or its size is smaller than itself.
+/// False when bytes are missing, or the box claims to be smaller than its header.
 bool readBoxHeader(ByteReader &reader, BoxHeader &header);
 
 FullBoxHeader readFullBoxHeader(ByteReader &reader);
 
-/// Calls @p visit with the type and payload of each child box. False as soon as a child is unsound or @p
-/// visit says so.
+/// Calls @p visit with the type and payload of each child box. Stops with false at a malformed child, or when
+/// @p visit gives false.
 bool forEachBox(ByteReader reader, const std::function<bool(std::uint32_t type, ByteReader payload)> &visit);
 
 } // namespace imageworker

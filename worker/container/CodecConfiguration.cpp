@@ -30,10 +30,8 @@ bool readCodecConfiguration(std::uint32_t itemType, const ItemProperty *record, 
     // fields.
     constexpr std::size_t HevcLengthByte = 21;
     constexpr std::size_t AvcLengthByte = 4;
-    if (record != nullptr) {
-        picture.configuration = record->payload;
-    }
-    const Bytes &bytes = picture.configuration;
+    picture.configuration = record != nullptr ? record->payload : std::make_shared<const Bytes>();
+    const Bytes &bytes = *picture.configuration;
     std::size_t lengthByte = 0;
     switch (configurationTypeOf(itemType)) {
     case fourCharacters("hvcC"):

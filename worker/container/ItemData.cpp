@@ -8,11 +8,11 @@ namespace imageworker {
 
 namespace {
 
-// Items within items, and in how many places one lies: nobody writes more, and they multiply.
+// Depth of items within items, and extents of an item. Both multiply; no writer uses more.
 constexpr int MaximumDepth = 2;
 constexpr std::size_t MaximumPieces = 256;
 
-/// @p part as a part of @p whole; a length of 0 asks for all that follows.
+/// Whether @p part lies within @p wholeLength bytes. A length of 0 is replaced by that of all that follows.
 bool within(std::uint64_t wholeLength, Extent &part)
 {
     if (part.offset > wholeLength) {
@@ -24,7 +24,7 @@ bool within(std::uint64_t wholeLength, Extent &part)
     return part.length > 0 && part.length <= wholeLength - part.offset;
 }
 
-/// Appends the bytes that @p part names within @p whole, which may lie in several places of the file.
+/// Appends the extents of the file that @p part of @p whole covers.
 void appendPart(const DataLocation &whole, Extent part, DataLocation &location)
 {
     for (const Extent &extent : whole) {
@@ -44,7 +44,7 @@ void appendPart(const DataLocation &whole, Extent part, DataLocation &location)
 
 Result<DataLocation> locate(const Source &source, const ItemTable &table, const Item &item, int depth);
 
-/// What an extent of @p item points into.
+/// The data in which @p extent of @p item lies.
 Result<DataLocation> pointedInto(const Source &source, const ItemTable &table, const Item &item,
                                  const ItemExtent &extent, int depth)
 {

@@ -5,8 +5,8 @@
 
 namespace imageworker {
 
-/// Where the bytes of @p item lie in the file, whichever of the three ways it is constructed (ISO/IEC
-/// 14496-12, 8.11.3). Unreadable when any of them would lie outside, or the item has none.
+/// Location of the data of @p item in the file, for all three construction methods (ISO/IEC 14496-12,
+/// 8.11.3). Unreadable when a part would lie outside the file, or there are no data.
 Result<DataLocation> locateItem(const Source &source, const ItemTable &table, const Item &item);
 
 } // namespace imageworker

@@ -6,7 +6,7 @@ namespace imageworker {
 
 namespace {
 
-// Far above what any photo holds: its aim is that a short file cannot ask for gigabytes of records.
+// Far above what photos hold. Keeps a short file from allocating gigabytes of records.
 constexpr std::size_t MaximumItems = 65'536;
 
 /// Primary item box, ISO/IEC 14496-12, 8.11.4.
@@ -17,8 +17,8 @@ bool readPrimaryItem(ByteReader reader, ItemTable &table)
     return !reader.failed();
 }
 
-/// Item info entry, ISO/IEC 14496-12, 8.11.6.2; versions before 2 do not occur in image files and are passed
-/// over.
+/// Item info entry, ISO/IEC 14496-12, 8.11.6.2. Versions before 2 do not occur in image files and are
+/// skipped.
 bool readItemInfoEntry(ByteReader reader, ItemTable &table)
 {
     const FullBoxHeader header = readFullBoxHeader(reader);
@@ -66,7 +66,7 @@ bool readItemLocations(ByteReader reader, ItemTable &table)
         const std::uint16_t dataReference = reader.u16();
         const std::uint64_t base = reader.number(baseWidth);
         const unsigned extentCount = reader.u16();
-        // An extent without any field of its own takes no bytes; only one such can make sense.
+        // Extents whose fields have no width take no bytes in the file. Several of them make no sense.
         if (method > 2 || dataReference != 0 || (extentCount > 1 && offsetWidth + lengthWidth == 0)) {
             return false;
         }
@@ -119,9 +119,11 @@ bool readPropertyAssociations(ByteReader reader, ItemTable &table)
         const unsigned associations = reader.u8();
         Item &item = table.items[identifier];
         for (unsigned index = 0; index < associations && !reader.failed(); ++index) {
-            const unsigned number = wideIndices ? reader.u16() & 0x7FFF : reader.u8() & 0x7F;
+            const unsigned essential = wideIndices ? 0x8000 : 0x80;
+            const unsigned association = wideIndices ? reader.u16() : reader.u8();
+            const unsigned number = association & ~essential;
             if (number != 0) { // counted from 1; 0 stands for none
-                item.properties.push_back(number - 1);
+                item.properties.push_back({number - 1, (association & essential) != 0});
             }
         }
         if (table.items.size() > MaximumItems) {
@@ -141,7 +143,8 @@ bool readItemProperties(ByteReader reader, ItemTable &table)
         return type != fourCharacters("ipco") ||
                forEachBox(payload, [&table](std::uint32_t propertyType, ByteReader property) {
                    const auto bytes = property.rest();
-                   table.properties.push_back({propertyType, Bytes(bytes.begin(), bytes.end())});
+                   table.properties.push_back(
+                       {propertyType, std::make_shared<const Bytes>(bytes.begin(), bytes.end())});
                    return true;
                });
     });
@@ -180,7 +183,7 @@ const Item *ItemTable::find(std::uint32_t identifier) const
 
 const ItemProperty *ItemTable::property(const Item &item, std::uint32_t type) const
 {
-    for (const std::uint32_t index : item.properties) {
+    for (const auto &[index, isEssential] : item.properties) {
         if (index < properties.size() && properties[index].type == type) {
             return &properties[index];
         }

@@ -7,8 +7,7 @@
 
 namespace imageworker {
 
-/// Where bytes of an item lie (ISO/IEC 14496-12, 8.11.3). A length of 0 reaches to the end of what the
-/// offset points into.
+/// Extent of an item (ISO/IEC 14496-12, 8.11.3). A length of 0 means up to the end of the data it lies in.
 struct ItemExtent : Extent
 {
     std::uint32_t reference = 0; ///< index of the "iloc" reference of the item that it points into
@@ -20,7 +19,14 @@ enum class Construction { FileOffset, ItemDataBox, ItemOffset };
 struct ItemProperty
 {
     std::uint32_t type = 0;
-    Bytes payload;
+    SharedBytes payload;
+};
+
+/// A property as one item has it (ISO/IEC 23008-12, 9.3.1).
+struct PropertyAssociation
+{
+    std::uint32_t index = 0; ///< into ItemTable::properties
+    bool isEssential = false;
 };
 
 struct ItemReference
@@ -35,11 +41,11 @@ struct Item
     std::string contentType; ///< of a "mime" item
     Construction construction = Construction::FileOffset;
     std::vector<ItemExtent> extents;
-    std::vector<std::uint32_t> properties; ///< indices into ItemTable::properties, in the order they apply
-    std::vector<ItemReference> references; ///< from this item to others
+    std::vector<PropertyAssociation> properties; ///< in the order they apply
+    std::vector<ItemReference> references;       ///< from this item to others
 };
 
-/// What a "meta" box says of the pictures in a file.
+/// Items and properties of a "meta" box.
 struct ItemTable
 {
     std::uint32_t primary = 0; ///< 0 when there is none
@@ -56,7 +62,7 @@ struct ItemTable
 /// Items that @p item refers to by @p type; empty when it refers to none.
 std::vector<std::uint32_t> referencesOf(const Item &item, std::uint32_t type);
 
-/// Reads a "meta" box; Unreadable when one of its boxes is unsound.
+/// Reads a "meta" box. Unreadable when one of its boxes is malformed.
 Result<ItemTable> readItemTable(const LoadedBox &meta);
 
 } // namespace imageworker

@@ -18,8 +18,8 @@ Result<Photo> photoOf(JpegOrPng::Kind kind, Result<Header> header)
     if (!header) {
         return unreadable();
     }
-    JpegOrPng image{kind, header->size, Upright(header->size)};
-    image.upright.applyExifOrientation(exifOrientation(header->exif));
+    JpegOrPng image{kind, header->size, Transformation(header->size)};
+    image.transformation.applyExifOrientation(exifOrientation(header->exif));
     return Photo{image, std::move(header->exif), std::move(header->xmp)};
 }
 
@@ -47,7 +47,7 @@ Result<Photo> readJpegOrPng(const Source &source, JpegOrPng::Kind kind)
     if (kind == JpegOrPng::Kind::Png) {
         return photoOf(kind, readPngHeader(*file));
     }
-    // A cut file still has its header, so the end must be there, too. Cameras may append more after it.
+    // A truncated file still has its header, so its end marker is required. Cameras may append data after it.
     constexpr std::array<std::uint8_t, 2> End = {0xFF, 0xD9};
     if (std::find_end(file->begin(), file->end(), End.begin(), End.end()) == file->end()) {
         return unreadable();

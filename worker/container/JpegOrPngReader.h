@@ -5,10 +5,10 @@
 
 namespace imageworker {
 
-/// What the first bytes of a file say it is; nothing for anything but a JPEG or PNG.
+/// Kind of @p source by its first bytes; nothing when it is neither a JPEG nor a PNG.
 std::optional<JpegOrPng::Kind> jpegOrPngKind(const Source &source);
 
-/// Size, orientation and metadata of a JPEG or PNG. Unreadable when its end is missing.
+/// Reads size, orientation and metadata. Unreadable when the end of the file is missing.
 Result<Photo> readJpegOrPng(const Source &source, JpegOrPng::Kind kind);
 
 } // namespace imageworker

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::uint64_t MaximumMetadata = std::uint64_t{32} << 20U;
 
-/// The primary item, and where it only shows another one again, that one, too.
+/// The primary item, and the items that it shows as an identity or a tone map.
 std::vector<std::uint32_t> shownItems(const ItemTable &table)
 {
     constexpr std::size_t LongestChain = 8;
@@ -34,15 +34,15 @@ std::vector<std::uint32_t> shownItems(const ItemTable &table)
     return shown;
 }
 
-/// Whether a metadata item tells of one of @p shown (ISO/IEC 23008-12, A.3.3); one that refers to nothing
-/// does, too.
+/// Whether a metadata item describes one of @p shown (ISO/IEC 23008-12, A.3.3). An item without references
+/// describes any.
 bool describes(const Item &item, const std::vector<std::uint32_t> &shown)
 {
     const auto described = referencesOf(item, fourCharacters("cdsc"));
     return described.empty() || std::ranges::find_first_of(described, shown) != described.end();
 }
 
-/// Reads the Exif and XMP items. Bytes that lie outside the file mean that the file was cut.
+/// Reads the Exif and XMP items. Unreadable when their data lie outside the file: it is truncated.
 Result<void> readMetadata(const Source &source, const ItemTable &table, Photo &photo)
 {
     const auto shown = shownItems(table);
@@ -81,9 +81,9 @@ Result<Photo> readPrimaryItem(const Source &source, const ItemTable &table)
     }
     if (!picture->hasOrientation) {
         const unsigned orientation = exifOrientation(photo.exif);
-        picture->upright.applyExifOrientation(orientation);
+        picture->transformation.applyExifOrientation(orientation);
         if (picture->alpha != nullptr) {
-            picture->alpha->upright.applyExifOrientation(orientation);
+            picture->alpha->transformation.applyExifOrientation(orientation);
         }
     }
     photo.picture = std::move(*picture);

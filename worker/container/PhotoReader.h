@@ -6,9 +6,8 @@
 namespace imageworker {
 
 /// Finds the photo in a file: the primary item of a HEIF file (ISO/IEC 23008-12), the first picture of a
-/// sequence, or the whole file where it is a JPEG or PNG. Decodes nothing, but makes sure that everything to
-/// be decoded is there: a file that has been cut is Unreadable, and so is one with a tile, an extent or a NAL
-/// unit that cannot be whole.
+/// sequence, or the whole file where it is a JPEG or PNG. Decodes nothing, but checks that all data to decode
+/// are there. Unreadable when the file is truncated, or a tile or an extent is missing.
 Result<Photo> readPhoto(const Source &source);
 
 } // namespace imageworker

@@ -8,6 +8,57 @@
 
 namespace imageworker {
 
+namespace {
+
+/// Whether @p property of an item of type @p itemType is read here, or is not needed to show a still picture.
+bool isUnderstood(std::uint32_t itemType, const ItemProperty &property)
+{
+    switch (property.type) {
+    case fourCharacters("ispe"):
+    case fourCharacters("colr"):
+    case fourCharacters("irot"):
+    case fourCharacters("imir"):
+    case fourCharacters("clap"):
+    case fourCharacters("auxC"):
+    case fourCharacters("hvcC"):
+    case fourCharacters("av1C"):
+    case fourCharacters("avcC"):
+    case fourCharacters("jpgC"):
+        return true;
+    // These tell what the coded data tell again, or what is not needed to show the picture (ISO/IEC 23008-12,
+    // 6.5; ISO/IEC 14496-12, 12.1.4 to 12.1.7; AV1 image file format, 2.3.2.3).
+    case fourCharacters("a1lx"): // where the layers begin
+    case fourCharacters("altt"): // a description for the blind
+    case fourCharacters("amve"): // the light around the viewer
+    case fourCharacters("cclv"): // light levels, as the next two and "ndwt"
+    case fourCharacters("clli"):
+    case fourCharacters("mdcv"):
+    case fourCharacters("ndwt"):
+    case fourCharacters("cmex"): // position and lens of the camera, as the next
+    case fourCharacters("cmin"):
+    case fourCharacters("crtt"): // times
+    case fourCharacters("mdft"):
+    case fourCharacters("lhvC"): // layers above the first
+    case fourCharacters("oinf"):
+    case fourCharacters("pasp"): // shape of the pixels
+    case fourCharacters("pixi"): // bits of each channel
+    case fourCharacters("rloc"): // position in another picture
+    case fourCharacters("subs"): // parts of the coded data
+    case fourCharacters("udes"): // the user's description
+        return true;
+    // Which of several pictures in the coded data. Of AV1 the decoder shows the first operating point with
+    // all layers, of HEVC the first layer.
+    case fourCharacters("a1op"):
+        return *property.payload == Bytes{0};
+    case fourCharacters("lsel"):
+        return *property.payload == (itemType == fourCharacters("av01") ? Bytes{0xFF, 0xFF} : Bytes{0, 0});
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 Picture pictureOf(CodedPicture coded, PixelSize size)
 {
     TileGrid grid;
@@ -15,7 +66,7 @@ Picture pictureOf(CodedPicture coded, PixelSize size)
     grid.canvas = size;
     grid.tiles.push_back(std::move(coded));
     Picture picture;
-    picture.upright = Upright(size);
+    picture.transformation = Transformation(size);
     picture.content = std::move(grid);
     return picture;
 }
@@ -26,7 +77,7 @@ Result<PixelSize> spatialExtent(const ItemTable &table, const Item &item)
     if (property == nullptr) {
         return unreadable();
     }
-    ByteReader reader(property->payload);
+    ByteReader reader(*property->payload);
     readFullBoxHeader(reader);
     const std::uint32_t width = reader.u32();
     const std::uint32_t height = reader.u32();
@@ -63,15 +114,15 @@ void readColour(std::span<const std::uint8_t> payload, ColourDescription &colour
 ColourDescription colourOf(const ItemTable &table, const Item &item)
 {
     ColourDescription colour;
-    for (const std::uint32_t index : item.properties) {
+    for (const auto &[index, isEssential] : item.properties) {
         if (index < table.properties.size() && table.properties[index].type == fourCharacters("colr")) {
-            readColour(table.properties[index].payload, colour);
+            readColour(*table.properties[index].payload, colour);
         }
     }
     return colour;
 }
 
-Result<void> applyCleanAperture(ByteReader reader, Upright &upright)
+Result<void> applyCleanAperture(ByteReader reader, Transformation &transformation)
 {
     const auto fraction = [&reader] {
         const auto numerator = static_cast<std::int32_t>(reader.u32());
@@ -82,14 +133,15 @@ Result<void> applyCleanAperture(ByteReader reader, Upright &upright)
     const double height = fraction();
     const double horizontal = fraction();
     const double vertical = fraction();
-    const PixelSize size = upright.size();
+    const PixelSize size = transformation.size();
     const double left = horizontal + (size.width - width) / 2;
     const double top = vertical + (size.height - height) / 2;
-    constexpr double Farthest = 1e6; // keeps the numbers well inside those that convert
+    constexpr double Farthest = 1e6; // within the range of the integers below
     const auto isSane = [](double value) { return std::abs(value) < Farthest; }; // false for a NaN, too
     if (reader.failed() || !isSane(width) || !isSane(height) || !isSane(left) || !isSane(top) || width < 1 ||
         height < 1 ||
-        !upright.cropTo(std::lround(left), std::lround(top), std::lround(width), std::lround(height))) {
+        !transformation.cropTo(std::lround(left), std::lround(top), std::lround(width),
+                               std::lround(height))) {
         return unreadable();
     }
     return {};
@@ -97,26 +149,26 @@ Result<void> applyCleanAperture(ByteReader reader, Upright &upright)
 
 Result<void> applyTransformations(const ItemTable &table, const Item &item, Picture &picture)
 {
-    for (const std::uint32_t index : item.properties) {
+    for (const auto &[index, isEssential] : item.properties) {
         if (index >= table.properties.size()) {
             continue;
         }
-        ByteReader reader(table.properties[index].payload);
+        ByteReader reader(*table.properties[index].payload);
         switch (table.properties[index].type) {
         case fourCharacters("irot"):
-            picture.upright.rotateAnticlockwise(reader.u8() & 3);
+            picture.transformation.rotateAnticlockwise(reader.u8() & 3);
             picture.hasOrientation = true;
             break;
         case fourCharacters("imir"):
             if ((reader.u8() & 1) == 0) {
-                picture.upright.flipVertically();
+                picture.transformation.flipVertically();
             } else {
-                picture.upright.flipHorizontally();
+                picture.transformation.flipHorizontally();
             }
             picture.hasOrientation = true;
             break;
         case fourCharacters("clap"):
-            if (!applyCleanAperture(reader, picture.upright)) {
+            if (!applyCleanAperture(reader, picture.transformation)) {
                 return unreadable();
             }
             break;
@@ -125,6 +177,15 @@ Result<void> applyTransformations(const ItemTable &table, const Item &item, Pict
         }
     }
     return {};
+}
+
+bool isUnderstood(const ItemTable &table, const Item &item)
+{
+    return std::ranges::all_of(item.properties, [&](const PropertyAssociation &association) {
+        const auto index = association.index;
+        return !association.isEssential ||
+               (index < table.properties.size() && isUnderstood(item.type, table.properties[index]));
+    });
 }
 
 bool isTransformed(const ItemTable &table, const Item &item)
@@ -145,7 +206,7 @@ bool isAlpha(const ItemTable &table, const Item &item)
     if (property == nullptr) {
         return false;
     }
-    ByteReader reader(property->payload);
+    ByteReader reader(*property->payload);
     readFullBoxHeader(reader);
     const auto text = reader.text();
     return std::ranges::any_of(Names, [&text](std::string_view name) {

@@ -4,9 +4,11 @@
 #include "CodecConfiguration.h"
 #include "ItemData.h"
 #include "PictureProperties.h"
+#include "ReferenceBudget.h"
 #include "TileDecoder.h"
 
 #include <algorithm>
+#include <map>
 
 namespace imageworker {
 
@@ -14,10 +16,9 @@ namespace {
 
 constexpr int MaximumDepth = 8;
 constexpr std::size_t MaximumLayers = 64;
-constexpr std::size_t MaximumPictures = 256; // overlays of overlays multiply
 
-/// The stated extent is that of the coded picture before any turn and may leave out what pads it. Some
-/// writers state it after the turn, where it does not fit: then all of what is coded is shown.
+/// "ispe" gives the size before transformations and without padding. Some writers give the size after a
+/// rotation; where that exceeds the coded size, the coded size counts.
 PixelSize sizeOfSingle(const CodedPicture &coded, PixelSize extent)
 {
     const auto decoder = TileDecoder::create(coded);
@@ -26,7 +27,7 @@ PixelSize sizeOfSingle(const CodedPicture &coded, PixelSize extent)
     return fits ? extent : *announced;
 }
 
-/// Whether the tiles together cover the canvas: a hole could not be told from the photo.
+/// Whether the tiles cover the canvas. A gap would look like a part of the photo.
 bool isCovered(const TileGrid &grid)
 {
     return std::int64_t{grid.tile.width} * grid.columns >= grid.canvas.width &&
@@ -39,17 +40,26 @@ public:
     PictureReader(const Source &source, const ItemTable &table)
         : m_source(source)
         , m_table(table)
-    {}
+        , m_budget(source.size())
+    {
+        for (const auto &[identifier, item] : table.items) {
+            if (isAlpha(table, item)) {
+                for (const std::uint32_t master : referencesOf(item, fourCharacters("auxl"))) {
+                    m_alphaOf.try_emplace(master, identifier);
+                }
+            }
+        }
+    }
 
     Result<Picture> read(std::uint32_t identifier, int depth);
 
 private:
     Result<void> readContent(const Item &item, int depth, Picture &picture);
-    Result<CodedPicture> readCoded(const Item &item) const;
-    Result<void> readSingle(const Item &item, Picture &picture) const;
+    Result<CodedPicture> readCoded(const Item &item);
+    Result<void> readSingle(const Item &item, Picture &picture);
     Result<void> readGrid(const Item &item, int depth, Picture &picture);
-    bool canJoin(const Item *tile, const TileGrid &grid) const;
-    Result<void> readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, Picture &picture) const;
+    bool canJoin(std::uint32_t tile, const TileGrid &grid) const;
+    Result<void> readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, Picture &picture);
     Result<void> layTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, int depth,
                           Picture &picture);
     Result<void> readIdentity(const Item &item, int depth, Picture &picture);
@@ -59,20 +69,21 @@ private:
 
     const Source &m_source;
     const ItemTable &m_table;
-    std::size_t m_pictures = 0; ///< read so far, however deep
+    std::map<std::uint32_t, std::uint32_t> m_alphaOf; ///< by the item it belongs to
+    ReferenceBudget m_budget;
 };
 
 Result<Picture> PictureReader::read(std::uint32_t identifier, int depth)
 {
     const Item *item = m_table.find(identifier);
-    if (item == nullptr || depth > MaximumDepth || ++m_pictures > MaximumPictures) {
+    if (item == nullptr || depth > MaximumDepth || !m_budget.takePicture() || !isUnderstood(m_table, *item)) {
         return unreadable();
     }
     Picture picture;
     if (!readContent(*item, depth, picture)) {
         return unreadable();
     }
-    // A tone map describes what it would make of its base, which is shown as it is.
+    // Only the base of a tone map is shown. The colours of the tone map are those of its result.
     ColourDescription colour =
         item->type == fourCharacters("tmap") ? ColourDescription{} : colourOf(m_table, *item);
     if (colour.codePoints) {
@@ -81,10 +92,11 @@ Result<Picture> PictureReader::read(std::uint32_t identifier, int depth)
     if (!colour.iccProfile.empty()) {
         picture.colour.iccProfile = std::move(colour.iccProfile);
     }
-    if (!applyTransformations(m_table, *item, picture)) {
+    if (!m_budget.takeBytes(picture.colour.iccProfile.size()) ||
+        !applyTransformations(m_table, *item, picture)) {
         return unreadable();
     }
-    // The opacity of a picture that an identity shows again turns along.
+    // An identity transforms the alpha of its input, too.
     if (picture.alpha != nullptr && !applyTransformations(m_table, *item, *picture.alpha)) {
         return unreadable();
     }
@@ -116,7 +128,7 @@ Result<void> PictureReader::readContent(const Item &item, int depth, Picture &pi
     }
 }
 
-Result<CodedPicture> PictureReader::readCoded(const Item &item) const
+Result<CodedPicture> PictureReader::readCoded(const Item &item)
 {
     CodedPicture coded;
     const ItemProperty *record = m_table.property(item, configurationTypeOf(item.type));
@@ -124,14 +136,14 @@ Result<CodedPicture> PictureReader::readCoded(const Item &item) const
         return unreadable();
     }
     auto location = locateItem(m_source, m_table, item);
-    if (!location) {
+    if (!location || !m_budget.takeBytes(lengthOf(*location))) {
         return unreadable();
     }
     coded.data = std::move(*location);
     return coded;
 }
 
-Result<void> PictureReader::readSingle(const Item &item, Picture &picture) const
+Result<void> PictureReader::readSingle(const Item &item, Picture &picture)
 {
     const auto extent = spatialExtent(m_table, item);
     auto coded = extent ? readCoded(item) : unreadable();
@@ -174,30 +186,35 @@ Result<void> PictureReader::readGrid(const Item &item, int depth, Picture &pictu
         return unreadable();
     }
     grid.canvas = {static_cast<int>(canvasWidth), static_cast<int>(canvasHeight)};
-    picture.upright = Upright(grid.canvas);
-    const bool join = std::ranges::all_of(
-        inputs, [this, &grid](std::uint32_t input) { return canJoin(m_table.find(input), grid); });
+    picture.transformation = Transformation(grid.canvas);
+    const bool join =
+        std::ranges::all_of(inputs, [this, &grid](std::uint32_t input) { return canJoin(input, grid); });
     return join ? readTiles(inputs, std::move(grid), picture)
                 : layTiles(inputs, std::move(grid), depth, picture);
 }
 
-/// Whether planes of @p tile can be put side by side: it is coded and shown as it is, and no colour sample
-/// belongs to two tiles.
-bool PictureReader::canJoin(const Item *tile, const TileGrid &grid) const
+/// Whether the planes of @p tile can be joined to those of other tiles: it is coded, opaque and not
+/// transformed, and no chroma sample belongs to two tiles.
+bool PictureReader::canJoin(std::uint32_t tile, const TileGrid &grid) const
 {
-    const auto size = tile != nullptr ? spatialExtent(m_table, *tile) : unreadable();
-    return size && configurationTypeOf(tile->type) != 0 && !isTransformed(m_table, *tile) &&
-           (grid.columns == 1 || size->width % 2 == 0) && (grid.rows == 1 || size->height % 2 == 0);
+    const Item *item = m_table.find(tile);
+    const auto size = item != nullptr ? spatialExtent(m_table, *item) : unreadable();
+    return size && configurationTypeOf(item->type) != 0 && !isTransformed(m_table, *item) &&
+           !m_alphaOf.contains(tile) && (grid.columns == 1 || size->width % 2 == 0) &&
+           (grid.rows == 1 || size->height % 2 == 0);
 }
 
 Result<void> PictureReader::readTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid,
-                                      Picture &picture) const
+                                      Picture &picture)
 {
+    if (!m_budget.takeTiles(inputs.size())) {
+        return unreadable();
+    }
     for (const std::uint32_t input : inputs) {
         const Item &tile = *m_table.find(input);
         const auto size = spatialExtent(m_table, tile);
         auto coded = size ? readCoded(tile) : unreadable();
-        if (!coded || (!grid.tiles.empty() && *size != grid.tile)) {
+        if (!coded || !isUnderstood(m_table, tile) || (!grid.tiles.empty() && *size != grid.tile)) {
             return unreadable();
         }
         if (grid.tiles.empty()) {
@@ -213,8 +230,8 @@ Result<void> PictureReader::readTiles(const std::vector<std::uint32_t> &inputs, 
     return {};
 }
 
-/// Tiles that are more than coded planes: no camera writes them, so they may be decoded whole, as layers that
-/// lie side by side.
+/// Reads tiles that cannot be joined. Each is decoded whole, as a layer of an overlay; no camera writes them,
+/// so that may be slow.
 Result<void> PictureReader::layTiles(const std::vector<std::uint32_t> &inputs, TileGrid grid, int depth,
                                      Picture &picture)
 {
@@ -225,7 +242,7 @@ Result<void> PictureReader::layTiles(const std::vector<std::uint32_t> &inputs, T
         if (!tile) {
             return unreadable();
         }
-        const PixelSize size = tile->upright.size();
+        const PixelSize size = tile->transformation.size();
         const int index = static_cast<int>(overlay.layers.size());
         grid.tile = index == 0 ? size : grid.tile;
         if (size != grid.tile) {
@@ -241,7 +258,7 @@ Result<void> PictureReader::layTiles(const std::vector<std::uint32_t> &inputs, T
     return {};
 }
 
-/// Identity derivation, ISO/IEC 23008-12, 6.6.2.1: the input as it is shown, ready to be turned once more.
+/// Identity derivation, ISO/IEC 23008-12, 6.6.2.1: the input with its own transformations.
 Result<void> PictureReader::readIdentity(const Item &item, int depth, Picture &picture)
 {
     const auto inputs = referencesOf(item, fourCharacters("dimg"));
@@ -289,31 +306,30 @@ Result<void> PictureReader::readOverlay(const Item &item, int depth, Picture &pi
         layer.picture = std::make_shared<Picture>(std::move(*read));
         overlay.layers.push_back(std::move(layer));
     }
-    picture.upright = Upright(overlay.canvas);
+    picture.transformation = Transformation(overlay.canvas);
     picture.content = std::move(overlay);
     return {};
 }
 
-/// An auxiliary picture that gives the opacity, ISO/IEC 23008-12, 6.4.5.
+/// Alpha auxiliary picture, ISO/IEC 23008-12, 6.4.5. Unreadable where it belongs to a picture that is
+/// composed: its opacity would be lost.
 Result<void> PictureReader::readAlpha(std::uint32_t identifier, int depth, Picture &picture)
 {
-    for (const auto &[auxiliary, item] : m_table.items) {
-        const auto masters = referencesOf(item, fourCharacters("auxl"));
-        if (std::ranges::find(masters, identifier) == masters.end() || !isAlpha(m_table, item)) {
-            continue;
-        }
-        auto alpha = read(auxiliary, depth + 1);
-        if (!alpha || alpha->alpha != nullptr || !std::holds_alternative<TileGrid>(alpha->content)) {
-            return unreadable();
-        }
-        alpha->colour.iccProfile.clear();
-        alpha->colour.isOpacity = true;
-        picture.alpha = std::make_shared<Picture>(std::move(*alpha));
-        const Item *master = m_table.find(identifier);
-        const auto premultipliedBy = referencesOf(*master, fourCharacters("prem"));
-        picture.premultiplied = std::ranges::find(premultipliedBy, auxiliary) != premultipliedBy.end();
+    const auto found = m_alphaOf.find(identifier);
+    if (found == m_alphaOf.end()) {
         return {};
     }
+    const std::uint32_t auxiliary = found->second;
+    auto alpha = read(auxiliary, depth + 1);
+    const auto isGrid = [](const Picture &read) { return std::holds_alternative<TileGrid>(read.content); };
+    if (!alpha || alpha->alpha != nullptr || !isGrid(*alpha) || !isGrid(picture)) {
+        return unreadable();
+    }
+    alpha->colour.iccProfile.clear();
+    alpha->colour.isOpacity = true;
+    picture.alpha = std::make_shared<Picture>(std::move(*alpha));
+    const auto premultipliedBy = referencesOf(*m_table.find(identifier), fourCharacters("prem"));
+    picture.premultiplied = std::ranges::find(premultipliedBy, auxiliary) != premultipliedBy.end();
     return {};
 }
 

@@ -5,8 +5,8 @@
 
 namespace imageworker {
 
-/// Reads the picture of item @p identifier with all that it is derived from (ISO/IEC 23008-12, 6): coded
-/// pictures, grids, identities and overlays, its alpha, colour and the properties that turn and crop it.
+/// Reads item @p identifier and the items it is derived from (ISO/IEC 23008-12, 6): coded pictures, grids,
+/// identities, overlays and tone maps, with alpha, colour and transformations.
 Result<Picture> readPicture(const Source &source, const ItemTable &table, std::uint32_t identifier);
 
 } // namespace imageworker

@@ -8,10 +8,10 @@ namespace imageworker {
 
 namespace {
 
-// Descriptions of a phone's photo take some kilobytes; those of a long burst some hundred.
+// A phone's photo takes some kilobytes, a long burst some hundred.
 constexpr std::uint64_t MaximumDescription = std::uint64_t{64} << 20U;
 
-/// Some cameras append a trailer that is not made of boxes; boxes bear names of printable characters.
+/// Some cameras append a trailer that has no boxes. The type of a box has printable characters.
 bool isBoxName(std::uint32_t type)
 {
     for (int shift = 0; shift < 32; shift += 8) {

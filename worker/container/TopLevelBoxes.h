@@ -4,21 +4,21 @@
 
 namespace imageworker {
 
-/// A box whose payload is held whole, with the place in the file where that payload starts.
+/// A box in memory, with the position of its payload in the file.
 struct LoadedBox
 {
     Bytes payload;
     std::uint64_t position = 0;
 };
 
-/// The boxes of a file that describe it; the rest is media data, reached by position.
+/// The boxes of a file that describe it. All other boxes are media data, which are read by position.
 struct TopLevelBoxes
 {
     LoadedBox meta; ///< empty payload when there is none
     LoadedBox movie;
 };
 
-/// Unreadable when a box reaches past the end of the file, which is how a file that was cut shows.
+/// Unreadable when a box reaches past the end of the file: it is truncated.
 Result<TopLevelBoxes> readTopLevelBoxes(const Source &source);
 
 } // namespace imageworker

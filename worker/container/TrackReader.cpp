@@ -8,14 +8,14 @@ namespace imageworker {
 
 namespace {
 
-/// What is gathered of one track on the way to its first sample.
+/// What one track says about its first sample.
 struct Track
 {
     std::uint32_t handler = 0;
     bool isAuxiliary = false;
     std::uint32_t codingName = 0;
     PixelSize size;
-    ItemProperty configuration;
+    ItemProperty configuration = {0, std::make_shared<const Bytes>()};
     ColourDescription colour;
     Bytes cleanAperture;
     unsigned quarterTurns = 0; ///< anticlockwise
@@ -32,7 +32,8 @@ bool readSampleEntry(std::uint32_t codingName, ByteReader reader, Track &track)
     reader.take(50); // resolutions, frame count, compressor's name, depth
     return !reader.failed() && forEachBox(reader, [&track](std::uint32_t type, ByteReader payload) {
         if (type == configurationTypeOf(track.codingName)) {
-            track.configuration = {type, Bytes(payload.rest().begin(), payload.rest().end())};
+            const auto record = payload.rest();
+            track.configuration = {type, std::make_shared<const Bytes>(record.begin(), record.end())};
         } else if (type == fourCharacters("colr")) {
             readColour(payload.rest(), track.colour);
         } else if (type == fourCharacters("clap")) {
@@ -79,7 +80,7 @@ bool readSampleTableChild(std::uint32_t type, ByteReader payload, Track &track)
     }
 }
 
-/// Track header box, ISO/IEC 14496-12, 8.3.2: of its matrix only what turns by quarters.
+/// Track header box, ISO/IEC 14496-12, 8.3.2. Only quarter turns are read from its matrix.
 bool readTrackHeader(ByteReader reader, Track &track)
 {
     constexpr std::int32_t One = 0x10000;
@@ -96,8 +97,8 @@ bool readTrackHeader(ByteReader reader, Track &track)
     return !reader.failed();
 }
 
-/// Reads the boxes of a track from "trak" down, each kind only inside its own parent: @p type is that of the
-/// box, @p parent that of the box around it.
+/// Reads a box of type @p type, the child of a box of type @p parent. Each type counts only in its own
+/// parent.
 bool readTrackBox(std::uint32_t parent, std::uint32_t type, ByteReader payload, Track &track)
 {
     const auto descend = [&track, type](std::uint32_t childType, ByteReader child) {
@@ -137,10 +138,10 @@ Result<Picture> pictureOf(const Track &track)
     coded.data = {track.sample};
     Picture picture = pictureOf(std::move(coded), track.size);
     if (!track.cleanAperture.empty() &&
-        !applyCleanAperture(ByteReader(track.cleanAperture), picture.upright)) {
+        !applyCleanAperture(ByteReader(track.cleanAperture), picture.transformation)) {
         return unreadable();
     }
-    picture.upright.rotateAnticlockwise(track.quarterTurns);
+    picture.transformation.rotateAnticlockwise(track.quarterTurns);
     picture.colour = track.colour;
     return picture;
 }

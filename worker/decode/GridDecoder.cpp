@@ -27,18 +27,18 @@ int reductionFor(const std::vector<Strip> &strips, PixelSize size, int smallestS
 }
 
 /// The layout of @p stored in the upright picture.
-PlaneLayout uprightLayout(PlaneLayout stored, const Upright &upright)
+PlaneLayout uprightLayout(PlaneLayout stored, const Transformation &transformation)
 {
-    const PixelRectangle crop = upright.crop();
-    const Turn turn = upright.turn();
+    const PixelRectangle crop = transformation.crop();
+    const Orientation orientation = transformation.orientation();
     // Where the crop starts within a sample, seen in the direction it is read.
     const auto phaseOf = [](int start, int length, bool mirrored, int shift) {
         return (mirrored ? start + length : start) & ((1 << shift) - 1);
     };
     PlaneLayout layout = stored;
-    layout.phaseX = phaseOf(crop.x, crop.width, turn.mirroredX, stored.shiftX);
-    layout.phaseY = phaseOf(crop.y, crop.height, turn.mirroredY, stored.shiftY);
-    if (turn.transposed) {
+    layout.phaseX = phaseOf(crop.x, crop.width, orientation.mirroredX, stored.shiftX);
+    layout.phaseY = phaseOf(crop.y, crop.height, orientation.mirroredY, stored.shiftY);
+    if (orientation.transposed) {
         std::swap(layout.shiftX, layout.shiftY);
         std::swap(layout.phaseX, layout.phaseY);
     }
@@ -53,13 +53,13 @@ GridDecoder::GridDecoder(const Source &source, const Picture &picture, std::uniq
     , m_picture(picture)
     , m_grid(std::get<TileGrid>(picture.content))
     , m_alpha(std::move(alpha))
-    , m_layout(m_grid, picture.upright)
-    , m_factor(reductionFor(m_layout.strips, picture.upright.size(), smallestSide))
+    , m_layout(m_grid, picture.transformation)
+    , m_factor(reductionFor(m_layout.strips, picture.transformation.size(), smallestSide))
     , m_decoders(static_cast<std::size_t>(workers))
     , m_buffer(m_layout.strips)
 {
     const auto reduced = [this](int length) { return (length + m_factor - 1) / m_factor; };
-    m_size = {reduced(picture.upright.size().width), reduced(picture.upright.size().height)};
+    m_size = {reduced(picture.transformation.size().width), reduced(picture.transformation.size().height)};
     for (const Strip &strip : m_layout.strips) {
         m_strips.push_back({strip.top / m_factor, reduced(strip.height), strip.tileCount});
     }
@@ -68,26 +68,27 @@ GridDecoder::GridDecoder(const Source &source, const Picture &picture, std::uniq
 bool GridDecoder::accept(const SampleFormat &format)
 {
     const std::lock_guard lock(m_formatMutex);
-    if (!m_stored) {
-        prepare(format);
-    }
-    return m_stored->isLike(format);
+    return m_stored ? m_stored->isLike(format) : prepare(format);
 }
 
-void GridDecoder::prepare(const SampleFormat &format)
+bool GridDecoder::prepare(const SampleFormat &format)
 {
+    const auto points = effectiveCodePoints(format, m_picture.colour);
+    if (!points) {
+        return false;
+    }
     m_stored = format;
     m_upright = format;
-    m_upright.chroma = uprightLayout(format.chroma, m_picture.upright);
-    m_buffer.allocate(m_upright, m_picture.upright.size().width);
-    const CodePoints points = effectiveCodePoints(format, m_picture.colour);
+    m_upright.chroma = uprightLayout(format.chroma, m_picture.transformation);
+    m_buffer.allocate(m_upright, m_picture.transformation.size().width);
     SampleFormat converted = m_upright;
     if (m_factor > 1) { // all planes are reduced to the same size
         converted.chroma = {};
     }
-    m_conversion = std::make_unique<YcbcrToRgb>(converted, points);
-    m_transform = makeSrgbTransform(m_picture.colour.iccProfile, points, m_conversion->maximumCode(),
+    m_conversion = std::make_unique<YcbcrToRgb>(converted, *points);
+    m_transform = makeSrgbTransform(m_picture.colour.iccProfile, *points, m_conversion->maximumCode(),
                                     format.planeCount == 1);
+    return true;
 }
 
 Result<void> GridDecoder::decodeTile(int worker, int strip, int index)
@@ -110,8 +111,8 @@ Result<void> GridDecoder::decodeTile(int worker, int strip, int index)
     for (std::size_t plane = 0; plane < m_stored->planes(); ++plane) {
         const PixelRectangle samples = m_stored->layoutOf(plane).samplesOf(tile.stored);
         const PlaneView target = m_buffer.samples(strip, plane, tile.shown);
-        if (!copyTurned(partOf(picture->planes[plane], samples, sampleBytes), m_picture.upright.turn(),
-                        target, sampleBytes)) {
+        if (!copyTurned(partOf(picture->planes[plane], samples, sampleBytes),
+                        m_picture.transformation.orientation(), target, sampleBytes)) {
             return unreadable();
         }
     }
@@ -124,14 +125,14 @@ const std::uint8_t *GridDecoder::reducedRow(const PlaneView &rows, const SampleF
     if (m_factor == 1) {
         return rows.data;
     }
-    means = squareMeans(rows, format.layoutOf(plane), m_picture.upright.size().width, m_factor,
+    means = squareMeans(rows, format.layoutOf(plane), m_picture.transformation.size().width, m_factor,
                         format.sampleBytes());
     return means.data();
 }
 
 void GridDecoder::readRow(int strip, int y, std::uint8_t *rgba) const
 {
-    const PixelSize full = m_picture.upright.size();
+    const PixelSize full = m_picture.transformation.size();
     const int top = y * m_factor;
     const PixelRectangle rows{0, top, full.width, std::min(m_factor, full.height - top)};
     std::array<Bytes, 3> means;

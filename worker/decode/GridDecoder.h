@@ -36,9 +36,10 @@ public:
     void readRow(int strip, int y, std::uint8_t *rgba) const override;
 
 private:
-    /// Makes the first tile's format that of the picture; false for a tile of another format.
+    /// Makes the first tile's format that of the picture; false for a tile of another format, and for
+    /// one whose colours cannot be converted.
     bool accept(const SampleFormat &format);
-    void prepare(const SampleFormat &format);
+    bool prepare(const SampleFormat &format);
     /// The first of @p rows, or their means where the picture is made smaller; these are kept in @p means.
     const std::uint8_t *reducedRow(const PlaneView &rows, const SampleFormat &format, std::size_t plane,
                                    Bytes &means) const;

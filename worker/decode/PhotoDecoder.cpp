@@ -84,7 +84,7 @@ Result<std::unique_ptr<RowSource>> openPicture(const Source &source, const Pictu
     if (std::holds_alternative<TileGrid>(picture.content)) {
         std::unique_ptr<AlphaPlane> alpha;
         if (picture.alpha != nullptr) {
-            auto decoded = decodeAlpha(source, *picture.alpha, picture.upright.size(), workers);
+            auto decoded = decodeAlpha(source, *picture.alpha, picture.transformation.size(), workers);
             if (!decoded) {
                 return unreadable();
             }
@@ -107,7 +107,7 @@ Result<std::unique_ptr<RowSource>> openPicture(const Source &source, const Pictu
     if (!canvas) {
         return unreadable();
     }
-    return std::make_unique<RasterSource>(std::move(*canvas), picture.upright);
+    return std::make_unique<RasterSource>(std::move(*canvas), picture.transformation);
 }
 
 Result<std::unique_ptr<RowSource>> openJpegOrPng(const Source &source, const JpegOrPng &file,
@@ -127,9 +127,9 @@ Result<std::unique_ptr<RowSource>> openJpegOrPng(const Source &source, const Jpe
     if (!raster) {
         return unreadable();
     }
-    Upright upright(raster->size);
-    upright.turnLike(file.upright);
-    return std::make_unique<RasterSource>(std::move(*raster), upright);
+    Transformation transformation(raster->size);
+    transformation.orientLike(file.transformation);
+    return std::make_unique<RasterSource>(std::move(*raster), transformation);
 }
 
 } // namespace

@@ -13,32 +13,33 @@ PlaneView upsideDown(const PlaneView &plane)
     return {plane.data + plane.stride * (plane.height - 1), -plane.stride, plane.width, plane.height};
 }
 
-void copyBytes(const PlaneView &source, Turn turn, const PlaneView &target)
+void copyBytes(const PlaneView &source, Orientation orientation, const PlaneView &target)
 {
     const auto call = [](auto *function, const PlaneView &from, const PlaneView &to) {
         function(from.data, static_cast<int>(from.stride), to.data, static_cast<int>(to.stride), from.width,
                  from.height);
     };
-    if (turn.transposed) {
+    if (orientation.transposed) {
         // A quarter turn clockwise reads the rows backwards; a source upside down undoes that.
-        call(libyuv::RotatePlane90, turn.mirroredY ? source : upsideDown(source),
-             turn.mirroredX ? upsideDown(target) : target);
+        call(libyuv::RotatePlane90, orientation.mirroredY ? source : upsideDown(source),
+             orientation.mirroredX ? upsideDown(target) : target);
     } else {
-        call(turn.mirroredX ? libyuv::MirrorPlane : libyuv::CopyPlane,
-             turn.mirroredY ? upsideDown(source) : source, target);
+        call(orientation.mirroredX ? libyuv::MirrorPlane : libyuv::CopyPlane,
+             orientation.mirroredY ? upsideDown(source) : source, target);
     }
 }
 
 /// In blocks, so that both sides stay within the cache while columns become rows.
-void copyWords(const PlaneView &source, Turn turn, const PlaneView &target)
+void copyWords(const PlaneView &source, Orientation orientation, const PlaneView &target)
 {
     constexpr int Block = 32;
-    const std::ptrdiff_t across = turn.mirroredX ? -2 : 2;
-    const std::ptrdiff_t down = turn.mirroredY ? -source.stride : source.stride;
-    const std::uint8_t *first = source.data + (turn.mirroredX ? std::ptrdiff_t{2} * (source.width - 1) : 0) +
-                                (turn.mirroredY ? source.stride * (source.height - 1) : 0);
-    const std::ptrdiff_t stepX = turn.transposed ? down : across;
-    const std::ptrdiff_t stepY = turn.transposed ? across : down;
+    const std::ptrdiff_t across = orientation.mirroredX ? -2 : 2;
+    const std::ptrdiff_t down = orientation.mirroredY ? -source.stride : source.stride;
+    const std::uint8_t *first = source.data +
+                                (orientation.mirroredX ? std::ptrdiff_t{2} * (source.width - 1) : 0) +
+                                (orientation.mirroredY ? source.stride * (source.height - 1) : 0);
+    const std::ptrdiff_t stepX = orientation.transposed ? down : across;
+    const std::ptrdiff_t stepY = orientation.transposed ? across : down;
     for (int top = 0; top < target.height; top += Block) {
         for (int left = 0; left < target.width; left += Block) {
             const int bottom = std::min(top + Block, target.height);
@@ -56,17 +57,18 @@ void copyWords(const PlaneView &source, Turn turn, const PlaneView &target)
 
 } // namespace
 
-bool copyTurned(const PlaneView &source, Turn turn, const PlaneView &target, std::size_t sampleBytes)
+bool copyTurned(const PlaneView &source, Orientation orientation, const PlaneView &target,
+                std::size_t sampleBytes)
 {
-    const auto [width, height] =
-        turn.transposed ? std::pair(source.height, source.width) : std::pair(source.width, source.height);
+    const auto [width, height] = orientation.transposed ? std::pair(source.height, source.width)
+                                                        : std::pair(source.width, source.height);
     if (target.width != width || target.height != height) {
         return false;
     }
     if (sampleBytes == 1) {
-        copyBytes(source, turn, target);
+        copyBytes(source, orientation, target);
     } else {
-        copyWords(source, turn, target);
+        copyWords(source, orientation, target);
     }
     return true;
 }

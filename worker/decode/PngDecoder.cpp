@@ -10,6 +10,7 @@
 #include <cstring>
 #include <isa-l.h>
 #include <png.h>
+#include <utility>
 
 namespace imageworker {
 
@@ -66,8 +67,8 @@ Result<PngHeader> readPngHeader(std::span<const std::uint8_t> file)
 {
     PngHeader header;
     bool isPlain = true;
-    bool hasGamma = false;
-    bool isSrgb = false; // which then counts, not the gamma
+    bool isSrgb = false;
+    std::span<const std::uint8_t> gamma;
     ByteReader reader(file);
     reader.take(PngSignature.size());
     while (!reader.atEnd()) {
@@ -85,7 +86,7 @@ Result<PngHeader> readPngHeader(std::span<const std::uint8_t> file)
         } else if (type == fourCharacters("tRNS")) {
             isPlain = false;
         } else if (type == fourCharacters("gAMA")) {
-            hasGamma = true;
+            gamma = content;
         } else if (type == fourCharacters("sRGB")) {
             isSrgb = true;
         } else if (type == fourCharacters("eXIf")) {
@@ -96,7 +97,10 @@ Result<PngHeader> readPngHeader(std::span<const std::uint8_t> file)
         } else if (type == fourCharacters("iCCP")) {
             header.iccProfile = profileOf(ByteReader(content));
         } else if (type == fourCharacters("IEND") && header.size.width > 0) {
-            if (!isPlain || header.channels == 0 || (hasGamma && !isSrgb)) {
+            if (isSrgb || !header.iccProfile.empty()) { // which override it (W3C PNG, 12.1)
+                header.ignoredGamma = std::exchange(gamma, {});
+            }
+            if (!isPlain || header.channels == 0 || !gamma.empty()) {
                 header.data.clear();
             }
             return header;
@@ -132,6 +136,18 @@ Result<Raster> decodeReduced(const PngHeader &header, int reduction)
     return rows.hasEnded() ? Result<Raster>(averager.take()) : unreadable();
 }
 
+/// @p file without the chunk that holds @p gamma: libpng would apply it, whatever else the file says.
+Bytes withoutGamma(std::span<const std::uint8_t> file, std::span<const std::uint8_t> gamma)
+{
+    constexpr std::ptrdiff_t LengthAndType = 8;
+    constexpr std::ptrdiff_t Checksum = 4;
+    const std::ptrdiff_t start = gamma.data() - file.data();
+    Bytes bytes(file.begin(), file.end());
+    bytes.erase(bytes.begin() + start - LengthAndType,
+                bytes.begin() + start + static_cast<std::ptrdiff_t>(gamma.size()) + Checksum);
+    return bytes;
+}
+
 Result<Raster> decodeWhole(std::span<const std::uint8_t> file)
 {
     png_image image = {};
@@ -158,8 +174,9 @@ Result<Raster> decodePng(std::span<const std::uint8_t> file, int reduction)
     if (!header) {
         return unreadable();
     }
-    auto raster =
-        reduction > 1 && !header->data.empty() ? decodeReduced(*header, reduction) : decodeWhole(file);
+    auto raster = reduction > 1 && !header->data.empty() ? decodeReduced(*header, reduction)
+                  : header->ignoredGamma.empty()         ? decodeWhole(file)
+                                                 : decodeWhole(withoutGamma(file, header->ignoredGamma));
     if (raster && !header->iccProfile.empty()) {
         const auto transform = makeSrgbTransform(header->iccProfile, {}, 255, header->isGrey);
         for (int y = 0; y < raster->size.height; ++y) {

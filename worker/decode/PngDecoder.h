@@ -12,6 +12,8 @@ struct PngHeader
     Bytes exif; ///< from the TIFF header on
     Bytes xmp;
     Bytes iccProfile;
+    std::span<const std::uint8_t>
+        ignoredGamma; ///< content of a "gAMA" chunk that does not count, in the file
     /// The compressed data, which lie in the file, of a picture that PngScanlines can read: 8 bits, RGB or
     /// RGBA, in sRGB or with a profile, not interlaced. Empty for others.
     std::vector<std::span<const std::uint8_t>> data;

@@ -1,5 +1,7 @@
 #include "TileDecoder.h"
 
+#include "BlockMarks.h"
+
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavutil/log.h>
@@ -36,6 +38,15 @@ const AVCodec *decoderOf(Codec codec)
         return avcodec_find_decoder_by_name("libdav1d");
     }
     return avcodec_find_decoder(identifierOf(codec));
+}
+
+int getMarkedBuffer(AVCodecContext *context, AVFrame *frame, int flags)
+{
+    const int result = avcodec_default_get_buffer2(context, frame, flags);
+    if (result == 0) {
+        markBlocks(*frame);
+    }
+    return result;
 }
 
 /// A decoder copies what a photo says into these fields; C++ does not allow to load values that the type has
@@ -129,16 +140,20 @@ std::unique_ptr<TileDecoder> TileDecoder::create(const CodedPicture &picture)
     }
     context->thread_count = 1;
     context->flags |= AV_CODEC_FLAG_UNALIGNED; // else the crop is rounded for the sake of vector code
+    context->apply_cropping = 0;               // blocks are looked at before the crop
     context->err_recognition = AV_EF_EXPLODE;
+    if (picture.codec == Codec::Hevc) { // the decoder of AVC notices missing slices itself
+        context->get_buffer2 = getMarkedBuffer;
+    }
     context->max_pixels = ImageWorkerLimits::maximumPixels;
     const bool isRecord = picture.codec != Codec::Jpeg; // a JPEG's tables are put before its data
-    if (isRecord && !picture.configuration.empty()) {
-        const std::size_t length = picture.configuration.size();
+    if (isRecord && !picture.configuration->empty()) {
+        const std::size_t length = picture.configuration->size();
         context->extradata = static_cast<std::uint8_t *>(av_mallocz(length + AV_INPUT_BUFFER_PADDING_SIZE));
         if (context->extradata == nullptr) {
             return nullptr;
         }
-        std::memcpy(context->extradata, picture.configuration.data(), length);
+        std::memcpy(context->extradata, picture.configuration->data(), length);
         context->extradata_size = static_cast<int>(length);
     }
     return avcodec_open2(context, codec, nullptr) == 0 ? std::move(decoder) : nullptr;
@@ -146,7 +161,8 @@ std::unique_ptr<TileDecoder> TileDecoder::create(const CodedPicture &picture)
 
 bool TileDecoder::suits(const CodedPicture &picture) const
 {
-    return picture.codec == m_codec && picture.configuration == m_configuration;
+    return picture.codec == m_codec &&
+           (picture.configuration == m_configuration || *picture.configuration == *m_configuration);
 }
 
 std::optional<PixelSize> TileDecoder::announcedSize() const
@@ -160,12 +176,12 @@ std::optional<PixelSize> TileDecoder::announcedSize() const
 Result<void> TileDecoder::receiveFrame(const Bytes &bytes)
 {
     const bool hasTables = m_codec == Codec::Jpeg;
-    const std::size_t tables = hasTables ? m_configuration.size() : 0;
+    const std::size_t tables = hasTables ? m_configuration->size() : 0;
     if (bytes.size() > INT32_MAX / 2 ||
         av_new_packet(m_packet.get(), static_cast<int>(tables + bytes.size())) != 0) {
         return unreadable();
     }
-    std::copy_n(m_configuration.begin(), tables, m_packet->data);
+    std::copy_n(m_configuration->begin(), tables, m_packet->data);
     std::copy_n(bytes.begin(), bytes.size(), m_packet->data + tables);
     AVCodecContext *context = m_context.get();
     avcodec_flush_buffers(context);
@@ -176,7 +192,8 @@ Result<void> TileDecoder::receiveFrame(const Bytes &bytes)
         avcodec_receive_frame(context, m_frame.get()) != 0) {
         return unreadable();
     }
-    if (m_frame->decode_error_flags != 0 || (m_frame->flags & AV_FRAME_FLAG_CORRUPT) != 0) {
+    if (m_frame->decode_error_flags != 0 || (m_frame->flags & AV_FRAME_FLAG_CORRUPT) != 0 ||
+        hasMarkedBlock(*m_frame) || av_frame_apply_cropping(m_frame.get(), AV_FRAME_CROP_UNALIGNED) != 0) {
         return unreadable();
     }
     return {};

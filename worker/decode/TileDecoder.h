@@ -32,7 +32,7 @@ public:
     std::optional<PixelSize> announcedSize() const;
 
     /// Decodes @p bytes, the data of a picture that this decoder suits. Unreadable when they are damaged or
-    /// smaller than @p size; a larger picture is cut to it.
+    /// smaller than @p size, or when slices are missing; a larger picture is cut to it.
     Result<DecodedPicture> decode(const Bytes &bytes, PixelSize size);
 
 private:
@@ -53,7 +53,7 @@ private:
     Result<void> receiveFrame(const Bytes &bytes);
 
     Codec m_codec = Codec::Hevc;
-    Bytes m_configuration;
+    SharedBytes m_configuration;
     std::unique_ptr<AVCodecContext, ContextDeleter> m_context;
     std::unique_ptr<AVFrame, FrameDeleter> m_frame;
     std::unique_ptr<AVPacket, PacketDeleter> m_packet;

@@ -16,17 +16,17 @@ PixelRectangle intersection(PixelRectangle a, PixelRectangle b)
 
 } // namespace
 
-TileLayout::TileLayout(const TileGrid &grid, const Upright &upright)
+TileLayout::TileLayout(const TileGrid &grid, const Transformation &transformation)
 {
     std::vector<Tile> shownTiles;
     for (int index = 0; index < grid.rows * grid.columns; ++index) {
         const PixelRectangle place{index % grid.columns * grid.tile.width,
                                    index / grid.columns * grid.tile.height, grid.tile.width,
                                    grid.tile.height};
-        const PixelRectangle part = intersection(place, upright.crop());
+        const PixelRectangle part = intersection(place, transformation.crop());
         if (part.width > 0 && part.height > 0) {
             const PixelRectangle stored{part.x - place.x, part.y - place.y, part.width, part.height};
-            shownTiles.push_back({index, stored, upright.shown(part)});
+            shownTiles.push_back({index, stored, transformation.shown(part)});
         }
     }
     std::ranges::sort(shownTiles, {}, [](const Tile &tile) { return std::pair(tile.shown.y, tile.shown.x); });

@@ -16,7 +16,7 @@ struct Tile
 /// The tiles of a grid in the order in which they fill the upright picture.
 struct TileLayout
 {
-    TileLayout(const TileGrid &grid, const Upright &upright);
+    TileLayout(const TileGrid &grid, const Transformation &transformation);
 
     std::vector<Strip> strips;            ///< from top to bottom
     std::vector<std::vector<Tile>> tiles; ///< by strip, from left to right

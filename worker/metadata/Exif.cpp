@@ -29,30 +29,30 @@ bool startsWithTiff(std::span<const std::uint8_t> bytes)
     return start == LittleEndian || start == BigEndian;
 }
 
-/// Turns a field that begins with a place in the photo and may go on with a diameter, or a width and a height
-/// (Exif 2.32, 4.6.5, tags 0x9214 and 0xA214). What was cropped away is said to be at the edge.
-void turnPlace(TiffFields &tiff, const TiffField *field, const Upright &upright)
+/// Transforms a subject location or area: x and y, then nothing, a diameter, or width and height (Exif 2.32,
+/// 4.6.5, tags 0x9214 and 0xA214). A place outside the crop moves to its edge.
+void turnPlace(TiffFields &tiff, const TiffField *field, const Transformation &transformation)
 {
     if (field == nullptr || field->count < 2) {
         return;
     }
-    const PixelRectangle crop = upright.crop();
+    const PixelRectangle crop = transformation.crop();
     const auto inside = [&](std::size_t index, int start, int length) {
         return std::clamp(static_cast<int>(tiff.value(*field, index) & 0xFFFF), start, start + length - 1);
     };
     const PixelRectangle place =
-        upright.shown({inside(0, crop.x, crop.width), inside(1, crop.y, crop.height), 1, 1});
+        transformation.shown({inside(0, crop.x, crop.width), inside(1, crop.y, crop.height), 1, 1});
     tiff.setValue(*field, static_cast<std::uint32_t>(place.x), 0);
     tiff.setValue(*field, static_cast<std::uint32_t>(place.y), 1);
-    if (field->count == 4 && upright.turn().transposed) {
+    if (field->count == 4 && transformation.orientation().transposed) {
         const std::uint32_t width = tiff.value(*field, 2);
         tiff.setValue(*field, tiff.value(*field, 3), 2);
         tiff.setValue(*field, width, 3);
     }
 }
 
-/// Unlinks the second directory, which describes the preview, and wipes the preview: it may show what a crop
-/// has removed. Gives the length of the structure without it.
+/// Unlinks the second directory, which describes the preview, and overwrites the preview, which may show what
+/// a crop removes. Gives the length of the structure without it.
 std::size_t removePreview(TiffFields &tiff)
 {
     const std::size_t length = tiff.bytes().size();
@@ -70,7 +70,7 @@ std::size_t removePreview(TiffFields &tiff)
     }
     const std::size_t offset = tiff.value(*offsetField);
     const std::size_t previewLength = tiff.value(*lengthField);
-    // A preview starts after the directory that describes it; anything else is a lie about where it lies.
+    // A preview starts after the directory that describes it. Other offsets are wrong.
     if (offset <= directory || offset > length || previewLength > length - offset) {
         return length;
     }
@@ -87,7 +87,7 @@ Bytes tiffOfExifItem(std::span<const std::uint8_t> item)
     if (startsWithTiff(reader.rest())) {
         return {reader.rest().begin(), reader.rest().end()};
     }
-    // Some writers leave the distance out or count it wrong.
+    // Some writers leave the offset out or count it wrong.
     constexpr std::size_t FurthestStart = 16;
     for (std::size_t start = 0; start <= std::min(FurthestStart, item.size()); ++start) {
         if (const auto tiff = item.subspan(start); startsWithTiff(tiff)) {
@@ -110,15 +110,15 @@ unsigned exifOrientation(std::span<const std::uint8_t> tiff)
     return orientation >= 1 && orientation <= 8 ? orientation : 1;
 }
 
-void describeCopy(Bytes &tiff, const Upright &upright)
+void describeCopy(Bytes &tiff, const Transformation &transformation)
 {
     auto structure = TiffFields::of(tiff);
     if (!structure) {
         tiff.clear();
         return;
     }
-    const auto width = static_cast<std::uint32_t>(upright.size().width);
-    const auto height = static_cast<std::uint32_t>(upright.size().height);
+    const auto width = static_cast<std::uint32_t>(transformation.size().width);
+    const auto height = static_cast<std::uint32_t>(transformation.size().height);
     const auto fields = structure->fields(structure->firstDirectory());
     setIfPresent(*structure, fields, TiffTag::Orientation, 1);
     setIfPresent(*structure, fields, TiffTag::ImageWidth, width);
@@ -128,8 +128,8 @@ void describeCopy(Bytes &tiff, const Upright &upright)
         setIfPresent(*structure, details, TiffTag::ColourSpace, StandardRgb);
         setIfPresent(*structure, details, TiffTag::PixelWidth, width);
         setIfPresent(*structure, details, TiffTag::PixelHeight, height);
-        turnPlace(*structure, fieldOf(details, TiffTag::SubjectArea), upright);
-        turnPlace(*structure, fieldOf(details, TiffTag::SubjectLocation), upright);
+        turnPlace(*structure, fieldOf(details, TiffTag::SubjectArea), transformation);
+        turnPlace(*structure, fieldOf(details, TiffTag::SubjectLocation), transformation);
     }
     tiff.resize(removePreview(*structure));
 }

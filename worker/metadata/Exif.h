@@ -1,25 +1,25 @@
 #pragma once
 
-#include "Upright.h"
+#include "Transformation.h"
 
 #include <span>
 
 namespace imageworker {
 
-/// The TIFF structure inside an "Exif" item, which starts with the distance to it (ISO/IEC 23008-12, A.2.1).
-/// Empty when there is none.
+/// The TIFF structure in an "Exif" item, which starts with the offset to it (ISO/IEC 23008-12, A.2.1). Empty
+/// when there is none.
 Bytes tiffOfExifItem(std::span<const std::uint8_t> item);
 
-/// Orientation, 1 to 8 (Exif 2.32, 4.6.4, tag 0x0112); 1 when it is missing or senseless.
+/// Orientation, 1 to 8 (Exif 2.32, 4.6.4, tag 0x0112); 1 when it is missing or invalid.
 unsigned exifOrientation(std::span<const std::uint8_t> tiff);
 
-/// Makes @p tiff true of an sRGB copy turned and cropped as @p upright: orientation 1, its dimensions, its
-/// colour space, where its subject is; the embedded preview, which shows the photo as it was, is taken out.
-/// What is no TIFF structure becomes empty.
-void describeCopy(Bytes &tiff, const Upright &upright);
+/// Changes @p tiff to describe an sRGB copy after @p transformation: orientation 1, dimensions, colour space
+/// and subject area. Removes the embedded preview, which shows the original. Clears bytes that are no TIFF
+/// structure.
+void describeCopy(Bytes &tiff, const Transformation &transformation);
 
-/// @p tiff within @p limit bytes: without the maker note, then without its largest values, but never dropped
-/// whole. Call after describeCopy(). Empty only when nothing of it could be understood.
+/// @p tiff in at most @p limit bytes: without the maker note, then without its largest values. Call after
+/// describeCopy(). Empty only when nothing of it can be parsed.
 Bytes exifWithin(const Bytes &tiff, std::size_t limit);
 
 } // namespace imageworker

@@ -7,7 +7,7 @@
 
 namespace imageworker {
 
-/// Tags that matter here (TIFF 6.0, section 8; Exif 2.32, 4.6).
+/// Tags that are read or changed (TIFF 6.0, section 8; Exif 2.32, 4.6).
 enum class TiffTag : std::uint16_t {
     ImageWidth = 0x0100,
     ImageLength = 0x0101,
@@ -35,7 +35,7 @@ struct TiffField
     std::size_t valueLength = 0;   ///< in bytes
 };
 
-/// Reads and changes a TIFF structure where it lies, in its own byte order. Positions count from its start.
+/// Reads and changes a TIFF structure in place, in its own byte order. Positions count from its start.
 class TiffFields
 {
 public:
@@ -44,10 +44,11 @@ public:
 
     std::size_t firstDirectory() const { return number(4, 4); }
 
-    /// The fields of the directory at @p position whose values lie inside; unknown kinds are left out.
+    /// The fields of the directory at @p position. Fields of unknown types, and those whose values lie
+    /// outside, are left out.
     std::vector<TiffField> fields(std::size_t position) const;
 
-    /// Where the directory that follows the one at @p position is linked, or 0.
+    /// Position of the link to the directory after the one at @p position; 0 when there is none.
     std::size_t linkPosition(std::size_t position) const;
 
     /// Number @p index of a field of whole numbers.

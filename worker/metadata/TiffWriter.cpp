@@ -11,7 +11,7 @@ constexpr std::size_t HeaderLength = 8;
 constexpr std::size_t FieldLength = 12;
 constexpr std::uint16_t Long = 4;
 
-/// A directory to be written, with the links to those below it among its fields.
+/// A directory to write. Its fields include the links to other directories.
 struct Directory
 {
     TiffTag link{};
@@ -74,7 +74,8 @@ std::vector<Directory> readDirectories(const TiffFields &tiff)
     return directories;
 }
 
-/// Takes out the largest values that lie apart until the rest fits into @p limit; false when it never does.
+/// Removes the largest values outside the entries until the rest fits into @p limit; false when it never
+/// does.
 bool removeLargest(std::vector<Directory> &directories, std::size_t limit)
 {
     std::vector<TiffField *> byLength;
@@ -124,7 +125,7 @@ Bytes write(const TiffFields &source, const std::vector<Directory> &directories)
             if (isApart) {
                 tiff.setNumber(entry + 8, 4, static_cast<std::uint32_t>(outlying));
             }
-            // A link's value is written below, whatever the source said of its length.
+            // The value of a link is written below.
             if (!isLink(field.tag)) {
                 const auto value = source.bytes().subspan(field.valuePosition, field.valueLength);
                 std::ranges::copy(value, output.begin() +

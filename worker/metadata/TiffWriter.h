@@ -4,9 +4,9 @@
 
 namespace imageworker {
 
-/// A new structure with the fields of the first, Exif, position and interoperability directories of @p tiff,
-/// in its byte order, of at most @p limit bytes: without the maker note, then without the largest values one
-/// after another.
+/// A new structure of at most @p limit bytes, in the byte order of @p tiff, with the fields of its first,
+/// Exif, position and interoperability directories. Leaves out the maker note, then the largest values. Empty
+/// when that is not enough.
 Bytes rewrittenWithin(const TiffFields &tiff, std::size_t limit);
 
 } // namespace imageworker

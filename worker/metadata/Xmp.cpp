@@ -23,7 +23,7 @@ Bytes joined(std::string_view prefix, std::string_view content)
     return bytes;
 }
 
-/// Without the processing instructions around it and the blanks that leave room for changes.
+/// @p packet without the processing instructions around it and the padding.
 std::string_view withoutWrapper(std::string_view packet)
 {
     constexpr std::string_view Instruction = "<?xpacket";

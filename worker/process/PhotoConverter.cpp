@@ -19,7 +19,7 @@ Result<void> writeCopy(const Source &source, const Photo &photo, int output, Out
     }
     const PixelSize size = (*rows)->size();
     CopyMetadata metadata{photo.exif, photo.xmp};
-    describeCopy(metadata.exif, photo.upright());
+    describeCopy(metadata.exif, photo.transformation());
     describeCopyInXmp(metadata.xmp, size);
     OutputFile file(output);
     const auto encoder = format == OutputFormat::png ? makePngEncoder(file, size, metadata)

@@ -51,7 +51,7 @@ private:
         if (!m_photo) {
             return {ImageWorkerFault::Unreadable};
         }
-        const PixelSize size = m_photo->upright().size();
+        const PixelSize size = m_photo->transformation().size();
         return {NoFault, size.width * size.height};
     }
 

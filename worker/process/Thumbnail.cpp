@@ -37,14 +37,14 @@ Result<void> writeThumbnail(const Source &source, const Photo &photo, int output
     if (!rows) {
         return unreadable();
     }
-    const PixelSize size = sizeWithin(photo.upright().size(), maximumSide);
+    const PixelSize size = sizeWithin(photo.transformation().size(), maximumSide);
     AreaAverager averager((*rows)->size(), size);
     if (!runPipeline(**rows, averager, workers)) {
         return unreadable();
     }
     OutputFile file(output);
     const auto encoder = makePngEncoder(file, size, CopyMetadata());
-    RasterSource small(averager.take(), Upright(size));
+    RasterSource small(averager.take(), Transformation(size));
     return runPipeline(small, *encoder, 1);
 }
 

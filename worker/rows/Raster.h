@@ -2,7 +2,7 @@
 
 #include "RowEncoder.h"
 #include "RowSource.h"
-#include "Upright.h"
+#include "Transformation.h"
 
 namespace imageworker {
 
@@ -44,15 +44,15 @@ private:
 class RasterSource : public RowSource
 {
 public:
-    RasterSource(Raster raster, const Upright &upright);
+    RasterSource(Raster raster, const Transformation &transformation);
 
-    PixelSize size() const override { return m_upright.size(); }
+    PixelSize size() const override { return m_transformation.size(); }
     const std::vector<Strip> &strips() const override { return m_strips; }
     void readRow(int strip, int y, std::uint8_t *rgba) const override;
 
 private:
     Raster m_raster;
-    Upright m_upright;
+    Transformation m_transformation;
     std::vector<Strip> m_strips;
 };
 

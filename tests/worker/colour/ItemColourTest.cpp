@@ -26,83 +26,86 @@ Raster randomSamples()
     return raster;
 }
 
-/// Codes of @p profile as sRGB.
-Raster through(const Bytes &profile, Raster codes)
-{
-    const ExactSrgb exact(profile);
-    for (std::size_t index = 0; index < codes.rgba.size(); index += 4) {
-        std::uint8_t *pixel = &codes.rgba[index];
-        const Pixel shown = exact.of({pixel[0] / 255.0, pixel[1] / 255.0, pixel[2] / 255.0});
-        std::ranges::transform(
-            shown, pixel, [](double value) { return static_cast<std::uint8_t>(std::lround(255 * value)); });
-    }
-    return codes;
-}
-
-Bytes fileOf(const CodedItem &coded, const HeifFile::Properties &more)
-{
-    HeifFile::Properties properties = coded.properties;
-    properties.insert(properties.end(), more.begin(), more.end());
-    HeifFile file;
-    return file.bytes(file.add("avc1", coded.data, properties));
-}
-
-TEST(ItemColour, ShouldFollowTheGreyProfileOfAGreyPicture)
+TEST(ItemColour, ShouldFollowTheGreyProfileOfAGreyPictureAndIgnoreProfilesThatDoNotFit)
 {
     constexpr double Gamma = 1.4;
     cmsToneCurve *curve = cmsBuildGamma(nullptr, Gamma);
     const Profile profile(cmsCreateGrayProfile(cmsD50_xyY(), curve));
     cmsFreeToneCurve(curve);
-    const Bytes photo =
-        makePhoto({.chroma = PhotoRecipe::Chroma::None, .iccProfile = savedProfile(profile.get())});
+    const Bytes greyProfile = savedProfile(profile.get());
+    const Bytes photo = makePhoto({.chroma = PhotoRecipe::Chroma::None, .iccProfile = greyProfile});
     auto expected = decodeIndependently(photo);
-    const auto copy = shown(photo);
-    ASSERT_TRUE(copy && expected);
+    ASSERT_TRUE(expected);
     for (std::size_t index = 0; index < expected->rgba.size(); ++index) {
-        std::uint8_t &code = expected->rgba[index];
-        code =
-            index % 4 == 3
-                ? code
-                : static_cast<std::uint8_t>(std::lround(255 * srgbOfLinear(std::pow(code / 255.0, Gamma))));
+        expected->rgba[index] = codeOf(srgbOfLinear(std::pow(expected->rgba[index] / 255.0, Gamma)));
     }
-    EXPECT_LE(largestDifference(*copy, *expected), 3);
+    expectShown(photo, expected, 3);
+    Bytes broken = savedProfile(displayP3().get());
+    broken.resize(100);
+    for (const Bytes &ignored : {greyProfile, broken}) {
+        expectLikeIndependentDecoder(makePhoto({.iccProfile = ignored}));
+    }
 }
 
 TEST(ItemColour, ShouldFollowCodePoints)
 {
     struct Case
     {
-        unsigned primaries;
-        unsigned transfer;
-        unsigned matrix;
-        bool fullRange;
+        HeifFile::Properties said;
         Profile profile; ///< of the same space
         double kr;
         double kb;
+        bool fullRange;
     };
     const double gamma[] = {2.2};
-    Case cases[] = {
-        {12, 13, 1, true, displayP3(), 0.2126, 0.0722},
-        {9, 4, 9, false, profileOf(Bt2020, 1, gamma), 0.2627, 0.0593},
-        {1, 4, 6, true, profileOf(Bt709, 1, gamma), 0.299, 0.114},
+    const Case cases[] = {
+        {{codePoints(12, 13, 1, true)}, displayP3(), 0.2126, 0.0722, true},
+        {{codePoints(12, 13, 12, false)}, displayP3(), 0.2290, 0.0793, false},
+        {{codePoints(9, 4, 9, false)}, profileOf(Bt2020, 1, gamma), 0.2627, 0.0593, false},
+        {{codePoints(1, 4, 6, true)}, profileOf(Bt709, 1, gamma), 0.299, 0.114, true},
+        {{codePoints(1, 13, 4, true)}, Profile(cmsCreate_sRGBProfile()), 0.30, 0.11, true},
+        {{codePoints(1, 13, 7, false)}, Profile(cmsCreate_sRGBProfile()), 0.212, 0.087, false},
+        {{}, Profile(cmsCreate_sRGBProfile()), 0.299, 0.114, false},
     };
     const Raster samples = randomSamples();
     const CodedItem coded = makeAvcColourItem(samples);
     for (const Case &by : cases) {
-        SCOPED_TRACE(by.primaries);
-        const auto copy =
-            shown(fileOf(coded, {codePoints(by.primaries, by.transfer, by.matrix, by.fullRange)}));
-        ASSERT_TRUE(copy);
+        SCOPED_TRACE(by.kr);
         Raster codes(samples.size);
         for (std::size_t index = 0; index < codes.rgba.size(); index += 4) {
-            const std::uint8_t *sample = &samples.rgba[index];
-            const Pixel exact = exactRgb(sample[0], sample[1], sample[2], by.kr, by.kb, by.fullRange, 8);
-            std::ranges::transform(exact, &codes.rgba[index], [](double value) {
-                return static_cast<std::uint8_t>(std::lround(255 * std::clamp(value, 0.0, 1.0)));
-            });
+            const Pixel exact = exactRgb(&samples.rgba[index], by.kr, by.kb, by.fullRange);
+            std::ranges::transform(exact, &codes.rgba[index], codeOf);
             codes.rgba[index + 3] = 255;
         }
-        EXPECT_LE(largestDifference(*copy, through(savedProfile(by.profile.get()), codes)), 1);
+        expectShown(photoOf(coded, by.said), throughProfile(savedProfile(by.profile.get()), codes), 1);
+    }
+}
+
+TEST(ItemColour, ShouldBeRefusedWhereItsMatrixIsNotImplemented)
+{
+    const CodedItem colour = makeAvcColourItem(randomSamples());
+    const CodedItem grey = codedItemOf(makePhoto({.chroma = PhotoRecipe::Chroma::None}));
+    for (const unsigned matrix : {3U, 10U, 11U, 12U, 13U, 14U, 15U, 16U, 17U, 255U}) {
+        SCOPED_TRACE(matrix);
+        const HeifFile::Properties properties = {codePoints(5, 13, matrix, true)};
+        EXPECT_FALSE(shown(photoOf(colour, properties)));
+        EXPECT_TRUE(shown(photoOf(grey, properties)));
+    }
+    EXPECT_TRUE(shown(photoOf(colour, {codePoints(9, 13, 12, true)})));
+}
+
+TEST(ItemColour, ShouldBeReadInMoreThanEightBits)
+{
+    for (const int depth : {10, 12}) {
+        expectLikeIndependentDecoder(makePhoto({.depth = depth}));
+    }
+    constexpr int SteepestOfProfile = 8; // codes of rounding to 8 bits before it
+    const auto codes = decodeIndependently(makePhoto({.depth = 10}));
+    ASSERT_TRUE(codes);
+    for (const Profile &profile : {displayP3(), tableProfile()}) {
+        const Bytes saved = savedProfile(profile.get());
+        expectShown(makePhoto({.depth = 10, .iccProfile = saved}), throughProfile(saved, *codes),
+                    SteepestOfProfile);
     }
 }
 
@@ -118,36 +121,27 @@ TEST(ItemColour, ShouldFollowWhatTheTilesOfAGridSayUnlessItSaysMore)
     constexpr int SteepestOfTheProfile = 26; // two codes of rounding where linear light is dark
     for (const bool saysMore : {false, true}) {
         HeifFile file;
-        HeifFile::Properties properties = {spatialExtents(64, 64)};
+        HeifFile::Properties properties;
         if (saysMore) {
-            properties.push_back({"colr", joined({{'p', 'r', 'o', 'f'}, other})});
+            properties.push_back({"colr", joined({bytesOf("prof"), other})});
         }
-        const unsigned tile = file.add("hvc1", coded.data, coded.properties);
-        const unsigned grid = file.add("grid", {0, 0, 0, 0, 0, 64, 0, 64}, properties);
-        file.refer(grid, "dimg", {tile});
-        const auto copy = shown(file.bytes(grid));
-        ASSERT_TRUE(copy);
-        EXPECT_LE(largestDifference(*copy, through(saysMore ? other : profile, *codes)),
-                  saysMore ? SteepestOfTheProfile : 4);
+        const Bytes grid = file.bytes(file.addGrid(1, 1, {64, 64}, {file.add(coded)}, properties));
+        expectShown(grid, throughProfile(saysMore ? other : profile, *codes),
+                    saysMore ? SteepestOfTheProfile : 4);
     }
 }
 
 TEST(ItemColour, ShouldShowTheBaseOfAToneMapInItsOwnColours)
 {
     const Bytes photo = makePhoto({});
-    const CodedItem coded = codedItemOf(photo);
-    const CodedItem gain = makeAvcItem(cornerColours({32, 32}, false));
     HeifFile file;
-    const unsigned base = file.add("hvc1", coded.data, coded.properties);
-    const unsigned gainMap = file.add("avc1", gain.data, gain.properties);
+    const unsigned base = file.add(codedItemOf(photo));
+    const unsigned gainMap = file.add(makeAvcItem(cornerColours({32, 32}, false)));
     // Its own code points tell of the bright picture that base and gain map make together.
     const unsigned toneMap =
         file.add("tmap", Bytes(30), {spatialExtents(96, 64), codePoints(9, 16, 9, false)});
     file.refer(toneMap, "dimg", {base, gainMap});
-    const auto copy = shown(file.bytes(toneMap));
-    const auto reference = decodeIndependently(photo);
-    ASSERT_TRUE(copy && reference);
-    EXPECT_LE(largestDifference(*copy, *reference), 2);
+    expectShown(file.bytes(toneMap), decodeIndependently(photo));
 }
 
 } // namespace

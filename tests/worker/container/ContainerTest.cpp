@@ -1,6 +1,7 @@
 #include "AvcPicture.h"
 #include "ConvertedPhoto.h"
 #include "MadePhoto.h"
+#include "PhotoReader.h"
 
 #include <gtest/gtest.h>
 
@@ -70,16 +71,38 @@ TEST(Container, ShouldReadPicturesOfOtherCodecs)
     expectShown(photoOf({"jpeg", {spatialExtents(96, 64)}, *jpeg}), shown(*jpeg), OtherWayOfEnlargingColour);
 }
 
-TEST(Container, ShouldReadAvcWithoutAnyLoss)
+TEST(Container, ShouldRefuseItemsWithAnEssentialPropertyThatIsNotKnown)
 {
-    for (const PixelSize size : {PixelSize{96, 64}, PixelSize{70, 42}}) { // blocks have 16 pixels a side
-        const Raster drawn = cornerColours(size, false);
-        Raster grey(size);
-        for (std::size_t index = 0; index < grey.rgba.size(); ++index) {
-            grey.rgba[index] = index % 4 == 3 ? 255 : drawn.rgba[index - index % 4];
-        }
-        expectShown(photoOf(makeAvcItem(drawn)), grey, 0);
+    const CodedItem coded = codedItemOf(makePhoto({.size = TileSize}));
+    const auto isShown = [&coded](const HeifFile::Property &property) {
+        HeifFile file;
+        const std::vector<unsigned> tiles = {file.add(coded), file.add(coded, {property})};
+        const Bytes ofTiles = file.bytes(file.addGrid(1, 2, {128, 64}, tiles));
+        return std::array{shown(photoOf(coded, {property})).has_value(), shown(ofTiles).has_value(),
+                          shown(gridPhoto({150, 100}, {property})).has_value()};
+    };
+    for (const auto &property : Properties{{"pixi", Bytes(8), true}, {"lsel", {0, 0}, true}, {"wxyz", {}}}) {
+        EXPECT_EQ(isShown(property), (std::array{true, true, true})) << property.type;
     }
+    for (const auto &property : Properties{{"wxyz", {}, true}, {"lsel", {0, 1}, true}}) {
+        EXPECT_EQ(isShown(property), (std::array{false, false, false})) << property.type;
+    }
+}
+
+TEST(Container, ShouldBoundWhatASmallFileAsksFor)
+{
+    constexpr unsigned Side = 64;
+    HeifFile file;
+    const unsigned tile = file.add(makeAvcItem(cornerColours(TileSize, false)));
+    const auto photoOfRepeated = [&](unsigned side) {
+        const PixelSize canvas{TileSize.width * int(side), TileSize.height * int(side)};
+        return file.bytes(file.addGrid(side, side, canvas, std::vector(std::size_t{side} * side, tile)));
+    };
+    EXPECT_FALSE(readPhoto(*sourceOfBytes(photoOfRepeated(Side))));
+    const auto photo = readPhoto(*sourceOfBytes(photoOfRepeated(4)));
+    ASSERT_TRUE(photo);
+    const auto &tiles = std::get<TileGrid>(std::get<Picture>(photo->picture).content).tiles;
+    EXPECT_EQ(tiles.front().configuration, tiles.back().configuration) << "it is held once";
 }
 
 TEST(Container, ShouldRefuseWhatDoesNotAddUp)

@@ -1,6 +1,8 @@
+#include "AvcPicture.h"
 #include "ConvertedPhoto.h"
 #include "MadePhoto.h"
 
+#include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
 
@@ -24,53 +26,54 @@ TEST(DerivedPictures, ShouldBeTurnedOnceMoreAsIdentities)
     expectLikeIndependentDecoder(file.bytes(identity));
 }
 
+/// What a grid shows of two tiles, one of them twice over, cropped by a column at each side and turned.
+Raster expectedGrid(const Raster &first, const Raster &second)
+{
+    const auto [width, height] = first.size;
+    Raster joined({2 * width, 2 * height});
+    lay(first, 0, 0, joined);
+    lay(second, width, 0, joined);
+    lay(second, 0, height, joined);
+    lay(first, width, height, joined);
+    Raster turned({joined.size.height, joined.size.width - 2});
+    for (int y = 0; y < turned.size.height; ++y) {
+        for (int x = 0; x < turned.size.width; ++x) {
+            std::memcpy(turned.row(y) + 4L * x, joined.row(x) + 4L * (joined.size.width - 2 - y), 4);
+        }
+    }
+    return turned;
+}
+
 TEST(DerivedPictures, ShouldBePutInTheirPlacesAsTilesOfAGrid)
 {
     const CodedItem coded = codedItemOf(makePhoto({.size = TileSize}));
-    for (const bool isDerived : {true, false}) { // the other is coded, but shown turned all the same
+    CodedItem odd = coded; // two tiles would share a colour sample
+    std::erase_if(odd.properties, [](const auto &property) { return property.type == "ispe"; });
+    odd.properties.push_back(spatialExtents(61, 63));
+    for (const char *kind : {"derived", "turned", "with opacity", "odd"}) {
+        SCOPED_TRACE(kind);
         HeifFile file;
-        const unsigned plain = file.add(coded);
-        const unsigned turned = isDerived ? addIdentity(file, plain, {spatialExtents(64, 64), rotation(1)})
-                                          : file.add(coded, {rotation(1)});
-        const auto tile = shown(file.bytes(plain));
-        const auto turnedTile = shown(file.bytes(turned));
-        ASSERT_TRUE(tile && turnedTile);
-        Raster expected({120, 100});
-        lay(*turnedTile, 0, 0, expected);
-        lay(*tile, 64, 0, expected);
-        lay(*tile, 0, 64, expected);
-        lay(*turnedTile, 64, 64, expected);
-        const std::vector<unsigned> tiles = {turned, plain, plain, turned};
-        expectShown(file.bytes(file.addGrid(2, 2, expected.size, tiles)), expected, 0);
-        EXPECT_FALSE(shown(file.bytes(file.addGrid(2, 2, {129, 100}, tiles)))) << "wider than its tiles";
-    }
-}
-
-TEST(DerivedPictures, ShouldBeJoinedWhereTwoTilesWouldShareAColourSample)
-{
-    constexpr PixelSize OddTile{61, 63};
-    constexpr PixelSize Canvas{3 * OddTile.width, OddTile.height};
-    HeifFile file;
-    std::vector<unsigned> tiles;
-    Raster joined(Canvas);
-    for (int index = 0; index < 3; ++index) {
-        CodedItem coded =
-            codedItemOf(makePhoto({}, partOf(cornerColours({192, 64}, false), 64 * index, 0, TileSize)));
-        std::erase_if(coded.properties, [](const auto &property) { return property.type == "ispe"; });
-        tiles.push_back(file.add(coded, {spatialExtents(OddTile.width, OddTile.height)}));
-        const auto tile = shown(file.bytes(tiles.back()));
-        ASSERT_TRUE(tile);
-        lay(*tile, index * OddTile.width, 0, joined);
-    }
-    // A quarter turn, and a crop that begins and ends inside of colour samples.
-    const auto cropped = crop({Canvas.width - 2, Canvas.height}, 0, 0);
-    Raster expected({Canvas.height, Canvas.width - 2});
-    for (int y = 0; y < expected.size.height; ++y) {
-        for (int x = 0; x < expected.size.width; ++x) {
-            std::memcpy(expected.row(y) + 4L * x, joined.row(x) + 4L * (Canvas.width - 2 - y), 4);
+        const unsigned plain = file.add(kind[0] == 'o' ? odd : coded);
+        const unsigned other = kind[0] == 'd'
+                                   ? addIdentity(file, plain, {spatialExtents(64, 64), rotation(1)})
+                               : kind[0] == 't' ? file.add(coded, {rotation(1)})
+                                                : file.add(kind[0] == 'o' ? odd : coded);
+        if (kind[0] == 'w') {
+            Raster opacity(TileSize);
+            std::ranges::fill(opacity.rgba, std::uint8_t{77});
+            file.refer(file.add(makeAvcItem(opacity), {opacityRole()}), "auxl", {other});
         }
+        const auto first = shown(file.bytes(other));
+        const auto second = shown(file.bytes(plain));
+        ASSERT_TRUE(first && second);
+        const auto [width, height] = first->size;
+        const auto gridOfWidth = [&](int canvas) {
+            return file.bytes(file.addGrid(2, 2, {canvas, 2 * height}, {other, plain, plain, other},
+                                           {crop({2 * width - 2, 2 * height}, 0, 0), rotation(1)}));
+        };
+        expectShown(gridOfWidth(2 * width), expectedGrid(*first, *second), 0);
+        EXPECT_FALSE(shown(gridOfWidth(2 * width + 1))) << "wider than its tiles";
     }
-    expectShown(file.bytes(file.addGrid(1, 3, Canvas, tiles, {cropped, rotation(1)})), expected, 0);
 }
 
 TEST(DerivedPictures, ShouldBeLaidOverOneAnotherInAnOverlay)

@@ -1,12 +1,11 @@
 #include "ConvertedPhoto.h"
 #include "ExactColour.h"
+#include "JpegOrPngFile.h"
 #include "MadeExif.h"
 #include "MadePhoto.h"
 #include "PhotoReader.h"
-#include "PlainPhoto.h"
 
 #include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
 
 namespace imageworker {
@@ -36,27 +35,19 @@ Raster mutedColours(bool hasAlpha)
     return raster;
 }
 
-/// @p stored turned upside down and taken from @p profile to sRGB.
-Raster upsideDown(const Raster &stored, const Bytes &profile)
+/// @p picture turned upside down.
+Raster turned(Raster picture)
 {
-    const ExactSrgb exact(profile);
-    Raster turned(stored.size);
-    for (std::size_t index = 0; index < stored.rgba.size(); index += 4) {
-        const std::uint8_t *code = &stored.rgba[stored.rgba.size() - 4 - index];
-        const Pixel shown = exact.of({code[0] / 255.0, code[1] / 255.0, code[2] / 255.0});
-        std::ranges::transform(shown, &turned.rgba[index], [](double value) {
-            return static_cast<std::uint8_t>(std::lround(255 * value));
-        });
-        turned.rgba[index + 3] = code[3];
-    }
-    return turned;
+    auto *pixels = reinterpret_cast<std::array<std::uint8_t, 4> *>(picture.rgba.data());
+    std::reverse(pixels, pixels + picture.rgba.size() / 4);
+    return picture;
 }
 
 TEST(JpegOrPngFiles, ShouldBeTurnedAndFollowTheirProfiles)
 {
     constexpr unsigned UpsideDown = 3;
-    PlainMetadata metadata = {.exif = makeExif({.orientation = UpsideDown}),
-                              .xmp = bytesOf("<x:xmpmeta xmlns:x='adobe:ns:meta/'/>")};
+    FileMetadata metadata = {.exif = makeExif({.orientation = UpsideDown}),
+                             .xmp = bytesOf("<x:xmpmeta xmlns:x='adobe:ns:meta/'/>")};
     for (const bool isTable : {false, true}) { // a table takes several segments of a JPEG
         for (const bool isPng : {false, true}) {
             SCOPED_TRACE(testing::Message() << isTable << isPng);
@@ -64,11 +55,16 @@ TEST(JpegOrPngFiles, ShouldBeTurnedAndFollowTheirProfiles)
             const Raster stored = mutedColours(isPng);
             const Bytes file = isPng ? makePng(stored, metadata) : makeJpeg(stored, metadata);
             constexpr int LossOfQualitySpread = 10;
-            expectShown(file, upsideDown(stored, metadata.iccProfile), isPng ? 1 : LossOfQualitySpread);
+            expectShown(file, turned(throughProfile(metadata.iccProfile, stored)),
+                        isPng ? 1 : LossOfQualitySpread);
             const auto photo = readPhoto(*sourceOfBytes(file));
             ASSERT_TRUE(photo);
             EXPECT_EQ(photo->exif, metadata.exif);
             EXPECT_EQ(photo->xmp, metadata.xmp);
+            if (isPng) { // profiles override a gamma, as sRGB does
+                expectShown(makePng(stored, metadata, {.hasLinearGamma = true}), shown(file), 0);
+                expectShown(makePng(stored, {}, {.hasLinearGamma = true}), stored, 0);
+            }
         }
     }
 }

@@ -16,8 +16,7 @@ TEST(CodedPictures, ShouldShowNoColumnThatIsHidden)
         SCOPED_TRACE(hidden);
         const Raster drawn = cornerColours({96, 64}, false);
         const CodedItem coded = makeAvcItem(drawn, hidden);
-        HeifFile file;
-        const auto copy = shown(file.bytes(file.add("avc1", coded.data, coded.properties)));
+        const auto copy = shown(photoOf(coded));
         ASSERT_TRUE(copy);
         ASSERT_EQ(copy->size, (PixelSize{96 - hidden, 64}));
         for (int x = 0; x < copy->size.width; ++x) {
@@ -35,12 +34,48 @@ TEST(CodedPictures, ShouldBeRefusedWhenTheirDecoderNoticesDamage)
     bool isNoticed = false;
     for (std::size_t damaged = FirstAfterTheHeaders; !isNoticed && damaged + 1 < coded.data.size();
          ++damaged) {
-        Bytes data = coded.data;
-        data[damaged] ^= 0xFF;
-        HeifFile file;
-        isNoticed = !shown(file.bytes(file.add("hvc1", data, coded.properties)));
+        CodedItem other = coded;
+        other.data[damaged] ^= 0xFF;
+        isNoticed = !shown(photoOf(other));
     }
     EXPECT_TRUE(isNoticed);
+}
+
+/// The data without each of the units that hold a slice in turn.
+std::vector<Bytes> withoutSlices(const CodedItem &coded)
+{
+    std::vector<Bytes> all;
+    for (std::size_t start = 0, end = 0; start < coded.data.size(); start = end) {
+        end = start + 4 + numberAt(coded.data, start);
+        const unsigned header = coded.data.at(start + 4);
+        // ITU-T H.265, table 7-1, and H.264, table 7-1.
+        const bool isSlice = coded.type == "hvc1" ? header >> 1 < 32 : (header & 31) == 5;
+        if (isSlice) {
+            all.push_back(joined({part(coded.data, 0, start), part(coded.data, end, coded.data.size())}));
+        }
+    }
+    return all;
+}
+
+TEST(CodedPictures, ShouldBeRefusedWhenASliceIsMissing)
+{
+    constexpr int Slices = 4;
+    const Raster drawn = cornerColours({64 * 4, 64 * 4}, false);
+    for (CodedItem coded :
+         {codedItemOf(makePhoto({.slices = Slices}, drawn)),
+          codedItemOf(makePhoto({.depth = 10, .slices = Slices}, drawn)), makeAvcItem(drawn, 0, Slices)}) {
+        SCOPED_TRACE(coded.type);
+        EXPECT_TRUE(shown(photoOf(coded)));
+        const std::vector<Bytes> all = withoutSlices(coded);
+        EXPECT_EQ(all.size(), Slices);
+        HeifFile file;
+        const unsigned whole = file.add(coded);
+        for (const Bytes &data : all) {
+            coded.data = data;
+            EXPECT_FALSE(shown(photoOf(coded)));
+            EXPECT_FALSE(shown(file.bytes(file.addGrid(1, 2, {512, 256}, {whole, file.add(coded)}))));
+        }
+    }
 }
 
 TEST(CodedPictures, ShouldBeRefusedWhenTheirEndNeverArrived)

@@ -1,5 +1,5 @@
 #include "ConvertedPhoto.h"
-#include "PlainPhoto.h"
+#include "JpegOrPngFile.h"
 #include "PngDecoder.h"
 
 #include <cmath>
@@ -59,14 +59,15 @@ TEST(PngReading, ShouldMakeSmallerByMeansWhicheverTheFilters)
         for (std::size_t index = 3; !hasOpacity && index < picture.rgba.size(); index += 4) {
             picture.rgba[index] = 255;
         }
-        for (const int filters : {PNG_FILTER_NONE, PNG_FILTER_SUB, PNG_FILTER_UP, PNG_FILTER_AVG,
-                                  PNG_FILTER_PAETH, PNG_ALL_FILTERS}) {
-            SCOPED_TRACE(testing::Message() << hasOpacity << ", filters " << filters);
-            const auto small = decodePng(
-                makePng(picture, {}, {.filters = filters, .hasOpacity = hasOpacity, .chunkLength = 500}),
-                Side);
-            ASSERT_TRUE(small);
-            EXPECT_LE(largestDifference(*small, meansOf(picture, Side)), 1);
+        const auto small = decodePng(makePng(picture, {}, {.filters = PNG_FILTER_NONE}), Side);
+        ASSERT_TRUE(small);
+        EXPECT_LE(largestDifference(*small, meansOf(picture, Side)), 1); // of single precision
+        for (const int filters :
+             {PNG_FILTER_SUB, PNG_FILTER_UP, PNG_FILTER_AVG, PNG_FILTER_PAETH, PNG_ALL_FILTERS}) {
+            const PngForm form = {.filters = filters, .hasOpacity = hasOpacity, .chunkLength = 500};
+            const auto other = decodePng(makePng(picture, {}, form), Side);
+            ASSERT_TRUE(other);
+            EXPECT_EQ(other->rgba, small->rgba) << hasOpacity << ", filters " << filters;
         }
     }
 }
@@ -74,7 +75,7 @@ TEST(PngReading, ShouldMakeSmallerByMeansWhicheverTheFilters)
 TEST(PngReading, ShouldShowTheSameColoursWhicheverWayItReads)
 {
     const Raster picture = noisyPicture();
-    for (const PngForm &other : {PngForm{.hasOpacity = false, .hasGammaAlone = true},
+    for (const PngForm &other : {PngForm{.hasOpacity = false, .isSrgb = false, .hasLinearGamma = true},
                                  PngForm{.hasOpacity = false, .isInterlaced = true}}) {
         const Bytes file = makePng(picture, {}, other);
         const auto whole = decodePng(file, 1);
@@ -82,6 +83,9 @@ TEST(PngReading, ShouldShowTheSameColoursWhicheverWayItReads)
         ASSERT_TRUE(whole && small);
         EXPECT_EQ(whole->rgba, small->rgba);
     }
+    const auto deep = decodePng(makePng(picture, {}, {.depth = 16}), 1);
+    ASSERT_TRUE(deep);
+    EXPECT_EQ(deep->rgba, picture.rgba);
 }
 
 TEST(PngReading, ShouldNeverShowDamage)

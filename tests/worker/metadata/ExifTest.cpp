@@ -28,11 +28,11 @@ std::uint32_t detail(Bytes &bytes, TiffTag tag, std::size_t index = 0)
     return field == nullptr ? 0 : tiff->value(*field, index);
 }
 
-Upright cameraHeldUpright()
+Transformation cameraHeldUpright()
 {
-    Upright upright({4032, 3024});
-    upright.applyExifOrientation(6);
-    return upright;
+    Transformation transformation({4032, 3024});
+    transformation.applyExifOrientation(6);
+    return transformation;
 }
 
 TEST(Exif, ShouldDescribeTheUprightCopyInBothByteOrders)
@@ -54,7 +54,7 @@ TEST(Exif, ShouldDescribeTheUprightCopyInBothByteOrders)
         for (std::size_t index = 0; index < subject.size(); ++index) {
             EXPECT_EQ(detail(exif, TiffTag::SubjectArea, index), subject[index]) << index;
         }
-        EXPECT_EQ(exif.size(), before - 500) << "the preview shows the photo as it was";
+        EXPECT_EQ(exif.size(), before - 500);
         EXPECT_TRUE(contains(exif, "2024:05:06 07:08:09"));
         EXPECT_TRUE(contains(exif, std::string(100, 'N'))) << "the maker note stays where its offsets point";
     }
@@ -68,6 +68,7 @@ TEST(Exif, ShouldCutByValueAndKeepDateAndCamera)
         Bytes exif =
             makeExif({.isLittleEndian = littleEndian, .makerNoteLength = 150'000, .previewLength = 20'000});
         describeCopy(exif, cameraHeldUpright());
+        EXPECT_FALSE(contains(exif, "PPPP")) << "the preview shows the photo as it was";
         Bytes cut = exifWithin(exif, Limit);
         EXPECT_LE(cut.size(), Limit);
         EXPECT_TRUE(contains(cut, "2024:05:06 07:08:09"));
@@ -85,21 +86,10 @@ TEST(Exif, ShouldSurviveEveryCutAndEveryDamagedByte)
         Bytes damaged = whole;
         damaged[length] = 0xFF;
         for (Bytes exif : {part(whole, 0, length), damaged}) {
-            describeCopy(exif, Upright({1, 1}));
+            describeCopy(exif, Transformation({1, 1}));
             EXPECT_LE(exifWithin(exif, 60).size(), 60U);
         }
     }
-}
-
-TEST(Exif, ShouldNotBelieveALinkThatClaimsToBeLong)
-{
-    // As above, but the link to the details claims to be hundreds of numbers: they must not be copied as a
-    // value.
-    Bytes exif = makeExif({.makerNoteLength = 70'000});
-    auto tiff = *TiffFields::of(exif);
-    const auto fields = tiff.fields(tiff.firstDirectory());
-    tiff.setNumber(fieldOf(fields, TiffTag::ExifDirectory)->valuePosition - 4, 4, 0x320);
-    EXPECT_LE(exifWithin(exif, 65'527).size(), 65'527U);
 }
 
 TEST(Exif, ShouldFindTheStructureInAnItem)

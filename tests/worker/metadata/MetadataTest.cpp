@@ -88,18 +88,6 @@ TEST(Metadata, ShouldKeepWhatWasShotWhereAndWhenInAJpegThatCannotHoldAll)
                     "[GPS] GPSLongitude: 10.25\n", "[InteropIFD] InteropIndex: R98\n"});
 }
 
-TEST(Metadata, ShouldNotShowThePhotoAsItWas)
-{
-    const Bytes photo = makePhoto({.exif = makeExif({.previewLength = 300})});
-    const Bytes preview(20, 'P');
-    ASSERT_TRUE(contains(photo, preview));
-    for (const OutputFormat format : {OutputFormat::jpeg, OutputFormat::png}) {
-        const auto copy = convert(photo, format);
-        ASSERT_TRUE(copy);
-        EXPECT_FALSE(contains(*copy, preview));
-    }
-}
-
 } // namespace
 
 } // namespace imageworker

@@ -6,7 +6,6 @@ extern "C" {
 #include <libavutil/opt.h>
 }
 
-#include <cstring>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -32,16 +31,6 @@ void require(bool isDone)
     }
 }
 
-/// Writes a channel of @p picture into plane @p index of a frame.
-void fillPlane(AVFrame &frame, int index, const Raster &picture)
-{
-    for (int y = 0; y < picture.size.height; ++y) {
-        for (int x = 0; x < picture.size.width; ++x) {
-            frame.data[index][y * frame.linesize[index] + x] = picture.row(y)[std::ptrdiff_t{4} * x + index];
-        }
-    }
-}
-
 /// The decoder configuration record (ISO/IEC 14496-15, 5.3.3.1) of a sequence and a picture parameter set,
 /// each behind a length of four bytes.
 Bytes configurationOf(const Bytes &sets)
@@ -62,8 +51,8 @@ Bytes configurationOf(const Bytes &sets)
                    parameters});
 }
 
-/// Codes @p picture without loss: all its channels in 4:4:4, its red alone in 4:2:0.
-CodedItem encode(const Raster &picture, AVPixelFormat format, int hiddenColumns)
+/// Codes the red of @p picture without loss, or all its channels, in 4:4:4.
+CodedItem encode(const Raster &picture, bool isGrey, int hiddenColumns, int slices)
 {
     const auto [width, height] = picture.size;
     av_log_set_level(AV_LOG_QUIET);
@@ -72,30 +61,30 @@ CodedItem encode(const Raster &picture, AVPixelFormat format, int hiddenColumns)
     const std::unique_ptr<AVCodecContext, Freed<avcodec_free_context>> context(avcodec_alloc_context3(codec));
     context->width = width;
     context->height = height;
-    context->pix_fmt = format;
+    context->pix_fmt = AV_PIX_FMT_YUV444P;
     context->time_base = {1, 1};
     context->thread_count = 1;
     context->flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
     // Units behind their lengths, as in files.
-    const std::string options = "annexb=0:crop-rect=" + std::to_string(hiddenColumns) + ",0,0,0";
+    const std::string options =
+        "annexb=0:crop-rect=" + std::to_string(hiddenColumns) + ",0,0,0:slices=" + std::to_string(slices);
     av_opt_set(context->priv_data, "qp", "0", 0);
     av_opt_set(context->priv_data, "x264-params", options.c_str(), 0);
     require(avcodec_open2(context.get(), codec, nullptr) == 0);
 
     const std::unique_ptr<AVFrame, Freed<av_frame_free>> frame(av_frame_alloc());
-    frame->format = format;
+    frame->format = AV_PIX_FMT_YUV444P;
     frame->width = width;
     frame->height = height;
     frame->pts = 0;
     require(av_frame_get_buffer(frame.get(), 0) == 0);
     for (int plane = 0; plane < 3; ++plane) {
-        if (plane == 0 || format == AV_PIX_FMT_YUV444P) {
-            fillPlane(*frame, plane, picture);
-        } else {
-            constexpr int NoColour = 128;
-            std::memset(frame->data[plane], NoColour,
-                        static_cast<std::size_t>(frame->linesize[plane]) *
-                            static_cast<std::size_t>((height + 1) / 2));
+        for (int y = 0; y < height; ++y) {
+            for (int x = 0; x < width; ++x) {
+                constexpr std::uint8_t NoColour = 128;
+                frame->data[plane][y * frame->linesize[plane] + x] =
+                    isGrey && plane > 0 ? NoColour : picture.row(y)[std::ptrdiff_t{4} * x + plane];
+            }
         }
     }
     const std::unique_ptr<AVPacket, Freed<av_packet_free>> packet(av_packet_alloc());
@@ -110,16 +99,16 @@ CodedItem encode(const Raster &picture, AVPixelFormat format, int hiddenColumns)
 
 } // namespace
 
-CodedItem makeAvcItem(const Raster &picture, int hiddenColumns)
+CodedItem makeAvcItem(const Raster &picture, int hiddenColumns, int slices)
 {
-    CodedItem item = encode(picture, AV_PIX_FMT_YUV420P, hiddenColumns);
+    CodedItem item = encode(picture, true, hiddenColumns, slices);
     item.properties.push_back(codePoints(1, 13, 6, true));
     return item;
 }
 
 CodedItem makeAvcColourItem(const Raster &picture)
 {
-    return encode(picture, AV_PIX_FMT_YUV444P, 0);
+    return encode(picture, false, 0, 1);
 }
 
 } // namespace imageworker

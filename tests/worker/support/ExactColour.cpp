@@ -5,6 +5,11 @@
 
 namespace imageworker {
 
+std::uint8_t codeOf(double value)
+{
+    return static_cast<std::uint8_t>(std::lround(255 * std::clamp(value, 0.0, 1.0)));
+}
+
 Bytes savedProfile(cmsHPROFILE profile)
 {
     cmsUInt32Number length = 0;
@@ -42,32 +47,27 @@ Profile tableProfile()
     return profile;
 }
 
-ExactSrgb::ExactSrgb(const Bytes &profile)
-    : m_transform(cmsCreateTransform(openProfile(profile).get(), TYPE_RGB_DBL,
-                                     Profile(cmsCreate_sRGBProfile()).get(), TYPE_RGB_DBL, INTENT_PERCEPTUAL,
-                                     cmsFLAGS_NOOPTIMIZE),
-                  &cmsDeleteTransform)
-{}
-
-Pixel ExactSrgb::of(const Pixel &pixel) const
+Raster throughProfile(const Bytes &profile, Raster picture)
 {
-    Pixel shown = {};
-    cmsDoTransform(m_transform.get(), pixel.data(), shown.data(), 1);
-    for (double &value : shown) {
-        value = std::clamp(value, 0.0, 1.0);
+    cmsHTRANSFORM transform =
+        cmsCreateTransform(openProfile(profile).get(), TYPE_RGB_DBL, Profile(cmsCreate_sRGBProfile()).get(),
+                           TYPE_RGB_DBL, INTENT_PERCEPTUAL, cmsFLAGS_NOOPTIMIZE);
+    for (std::size_t index = 0; index < picture.rgba.size(); index += 4) {
+        std::uint8_t *codes = &picture.rgba[index];
+        Pixel pixel = {codes[0] / 255.0, codes[1] / 255.0, codes[2] / 255.0};
+        cmsDoTransform(transform, pixel.data(), pixel.data(), 1);
+        std::ranges::transform(pixel, codes, codeOf);
     }
-    return shown;
+    cmsDeleteTransform(transform);
+    return picture;
 }
 
-Pixel exactRgb(double y, double cb, double cr, double kr, double kb, bool fullRange, int depth)
+Pixel exactRgb(const std::uint8_t *sample, double kr, double kb, bool fullRange)
 {
-    const double unit = std::exp2(depth - 8);
-    const double luma = fullRange ? y / (std::exp2(depth) - 1) : (y - 16 * unit) / (219 * unit);
-    const double range = fullRange ? std::exp2(depth) - 1 : 224 * unit;
-    const double b = (cb - 128 * unit) / range;
-    const double r = (cr - 128 * unit) / range;
-    const double red = luma + 2 * (1 - kr) * r;
-    const double blue = luma + 2 * (1 - kb) * b;
+    const double luma = fullRange ? sample[0] / 255.0 : (sample[0] - 16) / 219.0;
+    const double range = fullRange ? 255 : 224;
+    const double red = luma + 2 * (1 - kr) * (sample[2] - 128) / range;
+    const double blue = luma + 2 * (1 - kb) * (sample[1] - 128) / range;
     return {red, (luma - kr * red - kb * blue) / (1 - kr - kb), blue};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ColourSpace.h"
+#include "Raster.h"
 
 #include <array>
 
@@ -8,6 +9,9 @@ namespace imageworker {
 
 /// Red, green and blue, 0 to 1.
 using Pixel = std::array<double, 3>;
+
+/// The nearest code of a value of 0 to 1.
+std::uint8_t codeOf(double value);
 
 Bytes savedProfile(cmsHPROFILE profile);
 
@@ -17,20 +21,10 @@ Profile tableProfile();
 /// Primaries around the white of D65, and one curve for all channels as lcms2 numbers and describes it.
 Profile profileOf(const cmsCIExyYTRIPLE &primaries, int curve, const double *parameters);
 
-/// What lcms2 makes of colours in double precision.
-class ExactSrgb
-{
-public:
-    explicit ExactSrgb(const Bytes &profile);
+/// The codes of @p picture, in the space of @p profile, as sRGB: by lcms2 in double precision.
+Raster throughProfile(const Bytes &profile, Raster picture);
 
-    /// Within 0 to 1.
-    Pixel of(const Pixel &pixel) const;
-
-private:
-    std::unique_ptr<void, decltype(&cmsDeleteTransform)> m_transform;
-};
-
-/// Exact arithmetic of H.273, 8.3 for one pixel.
-Pixel exactRgb(double y, double cb, double cr, double kr, double kb, bool fullRange, int depth);
+/// Exact arithmetic of H.273, 8.3 for the Y, Cb and Cr of one pixel, of 8 bits.
+Pixel exactRgb(const std::uint8_t *sample, double kr, double kb, bool fullRange);
 
 } // namespace imageworker

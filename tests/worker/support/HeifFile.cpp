@@ -220,7 +220,7 @@ Bytes HeifFile::meta(unsigned primary, std::size_t mediaStart) const
         append(associations, {bigEndian(number, 2), bigEndian(item.properties.size(), 1)});
         for (const Property &property : item.properties) {
             append(properties, {box(property.type, property.payload)});
-            append(associations, {bigEndian(++propertyNumber, 1)});
+            append(associations, {bigEndian(++propertyNumber | (property.isEssential ? 0x80U : 0), 1)});
         }
     }
     Bytes references;

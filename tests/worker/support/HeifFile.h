@@ -19,6 +19,7 @@ public:
     {
         std::string type;
         Bytes payload; ///< all that follows the box's type
+        bool isEssential = false;
     };
     using Properties = std::vector<Property>;
 

@@ -37,60 +37,53 @@ class TiffBuilder
 public:
     explicit TiffBuilder(bool littleEndian)
         : m_littleEndian(littleEndian)
-        , m_bytes(littleEndian ? bytesOf("II") : bytesOf("MM"))
-    {
-        append(42, 2);
-        append(0, 4);
-    }
+        , m_bytes(joined({bytesOf(littleEndian ? "II" : "MM"), number(42, 2), number(0, 4)}))
+    {}
 
     std::size_t size() const { return m_bytes.size(); }
     Bytes take() { return std::move(m_bytes); }
-    void append(std::size_t value, unsigned width)
+    void append(const Bytes &bytes) { m_bytes.insert(m_bytes.end(), bytes.begin(), bytes.end()); }
+    /// Links what will be appended next, from @p position.
+    void linkNext(std::size_t position)
     {
-        m_bytes.resize(size() + width);
-        set(size() - width, value, width);
-    }
-    void set(std::size_t position, std::size_t value, unsigned width)
-    {
-        Bytes number = bigEndian(value, width);
-        if (m_littleEndian) {
-            std::ranges::reverse(number);
-        }
-        std::ranges::copy(number, m_bytes.begin() + static_cast<std::ptrdiff_t>(position));
+        std::ranges::copy(number(size(), 4), m_bytes.begin() + static_cast<std::ptrdiff_t>(position));
     }
 
     /// Appends a directory and, behind it, the values that do not fit into it; gives its position.
     std::size_t add(const std::vector<Field> &fields, std::size_t next = 0)
     {
-        constexpr unsigned EntryLength = 12;
         constexpr std::array<unsigned, 8> Widths = {0, 1, 1, 2, 4, 4, 0, 1}; // bytes of a value
         const std::size_t directory = size();
-        append(fields.size(), 2);
-        std::size_t entry = size();
-        m_bytes.resize(entry + fields.size() * EntryLength);
-        append(next, 4);
+        const std::size_t end = directory + 2 + 12 * fields.size() + 4;
+        Bytes values;
+        append(number(fields.size(), 2));
         for (const Field &field : fields) {
-            const unsigned width = Widths[field.type];
-            const std::size_t length = width * field.values.size();
-            set(entry, field.tag, 2);
-            set(entry + 2, field.type, 2);
-            set(entry + 4, field.values.size() / (field.type == Rational ? 2 : 1), 4);
-            std::size_t position = entry + 8;
-            if (length > 4) {
-                position = size();
-                m_bytes.resize(position + length + length % 2);
-                set(entry + 8, position, 4);
+            Bytes value;
+            for (const std::size_t part : field.values) {
+                const Bytes bytes = number(part, Widths[field.type]);
+                value.insert(value.end(), bytes.begin(), bytes.end());
             }
-            for (const std::size_t value : field.values) {
-                set(position, value, width);
-                position += width;
-            }
-            entry += EntryLength;
+            append(joined({number(field.tag, 2), number(field.type, 2),
+                           number(field.values.size() / (field.type == Rational ? 2 : 1), 4)}));
+            const bool fits = value.size() <= 4;
+            value.resize(fits ? 4 : value.size() + value.size() % 2);
+            append(fits ? value : number(end + values.size(), 4));
+            values = joined({values, fits ? Bytes() : value});
         }
+        append(joined({number(next, 4), values}));
         return directory;
     }
 
 private:
+    Bytes number(std::size_t value, unsigned width) const
+    {
+        Bytes bytes = bigEndian(value, width);
+        if (m_littleEndian) {
+            std::ranges::reverse(bytes);
+        }
+        return bytes;
+    }
+
     bool m_littleEndian;
     Bytes m_bytes;
 };
@@ -115,29 +108,24 @@ Bytes makeExif(const ExifRecipe &recipe)
     }
     const std::size_t exif = tiff.add(details);
     std::size_t preview = 0;
-    const auto appendPreview = [&] {
+    const auto appendPreview = [&](bool isNow) {
         constexpr std::size_t FirstValue = 2 + 8;
-        tiff.set(preview + FirstValue, tiff.size(), 4);
-        for (std::size_t index = 0; index < recipe.previewLength; ++index) {
-            tiff.append('P', 1);
+        if (preview != 0 && isNow) {
+            tiff.linkNext(preview + FirstValue);
+            tiff.append(Bytes(recipe.previewLength, 'P'));
         }
     };
     if (recipe.previewLength > 0) {
         preview = tiff.add(
             {numbers(TiffTag::PreviewOffset, {0}), numbers(TiffTag::PreviewLength, {recipe.previewLength})});
     }
-    if (preview != 0 && !recipe.isPreviewLast) {
-        appendPreview();
-    }
-    const std::size_t first =
-        tiff.add({text(0x010F, "Lens"), text(0x0110, "Camera of some maker"),
-                  numbers(TiffTag::Orientation, {recipe.orientation}, Short),
-                  numbers(TiffTag::ExifDirectory, {exif}), numbers(TiffTag::PositionDirectory, {position})},
-                 preview);
-    tiff.set(4, first, 4);
-    if (preview != 0 && recipe.isPreviewLast) {
-        appendPreview();
-    }
+    appendPreview(!recipe.isPreviewLast);
+    tiff.linkNext(4);
+    tiff.add({text(0x010F, "Lens"), text(0x0110, "Camera of some maker"),
+              numbers(TiffTag::Orientation, {recipe.orientation}, Short),
+              numbers(TiffTag::ExifDirectory, {exif}), numbers(TiffTag::PositionDirectory, {position})},
+             preview);
+    appendPreview(recipe.isPreviewLast);
     return tiff.take();
 }
 

@@ -113,6 +113,9 @@ Bytes makePhoto(const PhotoRecipe &recipe, const Raster &picture)
     if (recipe.chroma != Chroma::None) {
         encoder.set_string_parameter("chroma", recipe.chroma == Chroma::Full ? "444" : "420");
     }
+    if (recipe.slices > 1) {
+        encoder.set_string_parameter("x265:slices", std::to_string(recipe.slices));
+    }
     heif::Context::EncodingOptions options;
     options.image_orientation = static_cast<heif_orientation>(recipe.orientation);
     heif::Context context;

@@ -22,6 +22,7 @@ struct PhotoRecipe
     Bytes exif; ///< from the TIFF header on
     Bytes xmp;
     Codec codec = Codec::Hevc;
+    int slices = 1; ///< of HEVC, each of 64 rows at least
 };
 
 /// A smooth picture with a different colour in each corner, so that turns and mirrors show.

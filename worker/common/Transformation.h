@@ -20,28 +20,28 @@ struct PixelRectangle
 /// One of the eight orientations of a picture: columns may become rows, then each axis of the original may be
 /// read backwards. For a pixel (x, y) of the result, (u, v) is (y, x) when transposed, else (x, y);
 /// the pixel of the original is u or width - 1 - u, v or height - 1 - v.
-struct Turn
+struct Orientation
 {
     bool transposed = false;
     bool mirroredX = false;
     bool mirroredY = false;
 
-    bool operator==(const Turn &) const = default;
+    bool operator==(const Orientation &) const = default;
 };
 
 /// Crop and orientation that make a stored picture the upright one that is shown. Steps can be added in any
 /// order; each applies to what is shown so far.
-class Upright
+class Transformation
 {
 public:
-    Upright() = default;
-    explicit Upright(PixelSize stored)
+    Transformation() = default;
+    explicit Transformation(PixelSize stored)
         : m_crop{0, 0, stored.width, stored.height}
     {}
 
     /// Of the stored picture.
     PixelRectangle crop() const { return m_crop; }
-    Turn turn() const { return m_turn; }
+    Orientation orientation() const { return m_orientation; }
     PixelSize size() const;
 
     /// Adds @p quarters turns of 90 degrees anticlockwise (ISO/IEC 23008-12, 6.5.10).
@@ -56,14 +56,14 @@ public:
     void applyExifOrientation(unsigned orientation);
 
     /// Takes the orientation of @p other, not its crop.
-    void turnLike(const Upright &other) { m_turn = other.m_turn; }
+    void orientLike(const Transformation &other) { m_orientation = other.m_orientation; }
 
     /// Where the stored rectangle @p stored, which lies inside crop(), is shown.
     PixelRectangle shown(PixelRectangle stored) const;
 
 private:
     PixelRectangle m_crop;
-    Turn m_turn;
+    Orientation m_orientation;
 };
 
 } // namespace imageworker

@@ -1,4 +1,4 @@
-#include "Upright.h"
+#include "Transformation.h"
 
 #include <algorithm>
 #include <array>
@@ -6,34 +6,34 @@
 
 namespace imageworker {
 
-PixelSize Upright::size() const
+PixelSize Transformation::size() const
 {
-    return m_turn.transposed ? PixelSize{m_crop.height, m_crop.width}
-                             : PixelSize{m_crop.width, m_crop.height};
+    return m_orientation.transposed ? PixelSize{m_crop.height, m_crop.width}
+                                    : PixelSize{m_crop.width, m_crop.height};
 }
 
-void Upright::rotateAnticlockwise(unsigned quarters)
+void Transformation::rotateAnticlockwise(unsigned quarters)
 {
     for (unsigned quarter = 0; quarter < quarters % 4; ++quarter) {
         // The new pixel (x, y) is the old one at (width - 1 - y, x).
         flipHorizontally();
-        m_turn.transposed = !m_turn.transposed;
+        m_orientation.transposed = !m_orientation.transposed;
     }
 }
 
-void Upright::flipVertically()
+void Transformation::flipVertically()
 {
-    bool &readByY = m_turn.transposed ? m_turn.mirroredX : m_turn.mirroredY;
+    bool &readByY = m_orientation.transposed ? m_orientation.mirroredX : m_orientation.mirroredY;
     readByY = !readByY;
 }
 
-void Upright::flipHorizontally()
+void Transformation::flipHorizontally()
 {
-    bool &readByX = m_turn.transposed ? m_turn.mirroredY : m_turn.mirroredX;
+    bool &readByX = m_orientation.transposed ? m_orientation.mirroredY : m_orientation.mirroredX;
     readByX = !readByX;
 }
 
-bool Upright::cropTo(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height)
+bool Transformation::cropTo(std::int64_t left, std::int64_t top, std::int64_t width, std::int64_t height)
 {
     const PixelSize shownSize = size();
     const std::int64_t right = std::min<std::int64_t>(left + width, shownSize.width);
@@ -45,18 +45,18 @@ bool Upright::cropTo(std::int64_t left, std::int64_t top, std::int64_t width, st
     }
     PixelRectangle part{static_cast<int>(left), static_cast<int>(top), static_cast<int>(right - left),
                         static_cast<int>(bottom - top)};
-    if (m_turn.transposed) {
+    if (m_orientation.transposed) {
         std::swap(part.x, part.y);
         std::swap(part.width, part.height);
     }
-    m_crop.x += m_turn.mirroredX ? m_crop.width - part.x - part.width : part.x;
-    m_crop.y += m_turn.mirroredY ? m_crop.height - part.y - part.height : part.y;
+    m_crop.x += m_orientation.mirroredX ? m_crop.width - part.x - part.width : part.x;
+    m_crop.y += m_orientation.mirroredY ? m_crop.height - part.y - part.height : part.y;
     m_crop.width = part.width;
     m_crop.height = part.height;
     return true;
 }
 
-void Upright::applyExifOrientation(unsigned orientation)
+void Transformation::applyExifOrientation(unsigned orientation)
 {
     struct Step
     {
@@ -80,16 +80,16 @@ void Upright::applyExifOrientation(unsigned orientation)
     }
 }
 
-PixelRectangle Upright::shown(PixelRectangle stored) const
+PixelRectangle Transformation::shown(PixelRectangle stored) const
 {
     PixelRectangle part{stored.x - m_crop.x, stored.y - m_crop.y, stored.width, stored.height};
-    if (m_turn.mirroredX) {
+    if (m_orientation.mirroredX) {
         part.x = m_crop.width - part.x - part.width;
     }
-    if (m_turn.mirroredY) {
+    if (m_orientation.mirroredY) {
         part.y = m_crop.height - part.y - part.height;
     }
-    if (m_turn.transposed) {
+    if (m_orientation.transposed) {
         std::swap(part.x, part.y);
         std::swap(part.width, part.height);
     }

@@ -7,7 +7,7 @@
 namespace imageworker {
 
 /// What stands in a JPEG or PNG beside its pixels; each is left out when empty.
-struct PlainMetadata
+struct FileMetadata
 {
     Bytes iccProfile;
     Bytes exif; ///< from the TIFF header on
@@ -23,7 +23,7 @@ struct JpegForm
 };
 
 /// By libjpeg. Opacity is ignored.
-Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, const JpegForm &form = {});
+Bytes makeJpeg(const Raster &picture, const FileMetadata &metadata, const JpegForm &form = {});
 
 /// How a PNG is stored.
 struct PngForm
@@ -31,11 +31,13 @@ struct PngForm
     int filters = PNG_ALL_FILTERS;
     bool hasOpacity = true;
     bool isInterlaced = false;
-    bool hasGammaAlone = false; ///< and that of linear light; else it says sRGB, or has a profile
+    bool isSrgb = true; ///< and says so, unless it has a profile
+    bool hasLinearGamma = false;
     int chunkLength = 8192;
+    int depth = 8; ///< or 16
 };
 
 /// By libpng.
-Bytes makePng(const Raster &picture, const PlainMetadata &metadata, const PngForm &form = {});
+Bytes makePng(const Raster &picture, const FileMetadata &metadata, const PngForm &form = {});
 
 } // namespace imageworker

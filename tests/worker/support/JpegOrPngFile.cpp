@@ -1,4 +1,4 @@
-#include "PlainPhoto.h"
+#include "JpegOrPngFile.h"
 
 #include "HeifFile.h"
 #include "MagicBytes.h"
@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <jpeglib.h>
+#include <zlib.h>
 
 namespace imageworker {
 
@@ -19,9 +20,18 @@ void writeMarker(jpeg_compress_struct &jpeg, std::string_view prefix, const Byte
     }
 }
 
+Bytes compressed(const Bytes &bytes)
+{
+    uLong length = compressBound(bytes.size());
+    Bytes stream(length);
+    compress(stream.data(), &length, bytes.data(), bytes.size());
+    stream.resize(length);
+    return stream;
+}
+
 } // namespace
 
-Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, const JpegForm &form)
+Bytes makeJpeg(const Raster &picture, const FileMetadata &metadata, const JpegForm &form)
 {
     jpeg_compress_struct jpeg = {};
     jpeg_error_mgr errors = {};
@@ -59,7 +69,7 @@ Bytes makeJpeg(const Raster &picture, const PlainMetadata &metadata, const JpegF
     return file;
 }
 
-Bytes makePng(const Raster &picture, const PlainMetadata &metadata, const PngForm &form)
+Bytes makePng(const Raster &picture, const FileMetadata &metadata, const PngForm &form)
 {
     Bytes file;
     png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
@@ -72,35 +82,12 @@ Bytes makePng(const Raster &picture, const PlainMetadata &metadata, const PngFor
         },
         nullptr);
     png_set_IHDR(png, info, static_cast<png_uint_32>(picture.size.width),
-                 static_cast<png_uint_32>(picture.size.height), 8,
+                 static_cast<png_uint_32>(picture.size.height), form.depth,
                  form.hasOpacity ? PNG_COLOR_TYPE_RGBA : PNG_COLOR_TYPE_RGB,
                  form.isInterlaced ? PNG_INTERLACE_ADAM7 : PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_BASE,
                  PNG_FILTER_TYPE_BASE);
     png_set_compression_buffer_size(png, static_cast<std::size_t>(form.chunkLength));
     png_set_filter(png, 0, form.filters);
-    if (form.hasGammaAlone) {
-        png_set_gAMA(png, info, 1.0);
-    } else if (metadata.iccProfile.empty()) {
-        png_set_sRGB_gAMA_and_cHRM(png, info, PNG_sRGB_INTENT_PERCEPTUAL);
-    }
-    if (!metadata.iccProfile.empty()) {
-        png_set_iCCP(png, info, "wide", PNG_COMPRESSION_TYPE_BASE, metadata.iccProfile.data(),
-                     static_cast<png_uint_32>(metadata.iccProfile.size()));
-    }
-    if (!metadata.exif.empty()) {
-        png_set_eXIf_1(png, info, static_cast<png_uint_32>(metadata.exif.size()),
-                       const_cast<png_bytep>(metadata.exif.data()));
-    }
-    Bytes xmp = joined({metadata.xmp, {0}});
-    char keyword[] = "XML:com.adobe.xmp";
-    png_text text = {};
-    text.compression = PNG_ITXT_COMPRESSION_NONE;
-    text.key = keyword;
-    text.text = reinterpret_cast<char *>(xmp.data());
-    text.itxt_length = metadata.xmp.size();
-    if (!metadata.xmp.empty()) {
-        png_set_text(png, info, &text, 1);
-    }
     png_write_info(png, info);
     if (!form.hasOpacity) {
         png_set_filler(png, 0, PNG_FILLER_AFTER);
@@ -108,12 +95,37 @@ Bytes makePng(const Raster &picture, const PlainMetadata &metadata, const PngFor
     const int passes = png_set_interlace_handling(png);
     for (int pass = 0; pass < passes; ++pass) {
         for (int y = 0; y < picture.size.height; ++y) {
-            png_write_row(png, picture.row(y));
+            Bytes row;
+            for (std::size_t index = 0; index < picture.rowLength(); ++index) {
+                row.insert(row.end(), static_cast<std::size_t>(form.depth / 8), picture.row(y)[index]);
+            }
+            png_write_row(png, row.data());
         }
     }
     png_write_end(png, info);
     png_destroy_write_struct(&png, &info);
-    return file;
+    Bytes chunks;
+    const auto add = [&chunks](std::string_view type, const Bytes &content) {
+        const Bytes named = joined({bytesOf(type), content});
+        const auto checksum = crc32(0, named.data(), static_cast<unsigned>(named.size()));
+        chunks = joined({chunks, bigEndian(content.size(), 4), named, bigEndian(checksum, 4)});
+    };
+    if (form.hasLinearGamma) {
+        add("gAMA", bigEndian(100'000, 4));
+    }
+    if (!metadata.iccProfile.empty()) {
+        add("iCCP", joined({bytesOf("wide"), {0, 0}, compressed(metadata.iccProfile)}));
+    } else if (form.isSrgb) {
+        add("sRGB", {0});
+    }
+    if (!metadata.exif.empty()) {
+        add("eXIf", metadata.exif);
+    }
+    if (!metadata.xmp.empty()) {
+        add("iTXt", joined({bytesOf(PngXmpStart), metadata.xmp}));
+    }
+    constexpr std::size_t FirstAfterHeader = 33;
+    return joined({part(file, 0, FirstAfterHeader), chunks, part(file, FirstAfterHeader, file.size())});
 }
 
 } // namespace imageworker

@@ -1,7 +1,8 @@
-#include "Upright.h"
+#include "Transformation.h"
 
 #include "PlaneTurn.h"
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <numeric>
 #include <vector>
@@ -22,8 +23,8 @@ struct Numbers
                          static_cast<std::size_t>(x));
     }
 
-    template<typename Origin>
-    Numbers changed(PixelSize result, Origin origin) const
+    /// Each number from the place that @p origin gives.
+    Numbers changed(PixelSize result, const std::function<std::pair<int, int>(int, int)> &origin) const
     {
         Numbers other{result, {}};
         for (int y = 0; y < result.height; ++y) {
@@ -33,23 +34,6 @@ struct Numbers
             }
         }
         return other;
-    }
-    Numbers rotatedAnticlockwise() const
-    {
-        return changed({size.height, size.width},
-                       [this](int x, int y) { return std::pair(size.width - 1 - y, x); });
-    }
-    Numbers leftAndRightExchanged() const
-    {
-        return changed(size, [this](int x, int y) { return std::pair(size.width - 1 - x, y); });
-    }
-    Numbers topAndBottomExchanged() const
-    {
-        return changed(size, [this](int x, int y) { return std::pair(x, size.height - 1 - y); });
-    }
-    Numbers cropped(int left, int top, int width, int height) const
-    {
-        return changed({width, height}, [=](int x, int y) { return std::pair(left + x, top + y); });
     }
 };
 
@@ -61,60 +45,60 @@ Numbers numbers(PixelSize size)
 }
 
 template<typename Sample>
-std::vector<int> throughPlanes(const Upright &upright, const Numbers &picture)
+std::vector<int> throughPlanes(const Transformation &transformation, const Numbers &picture)
 {
     std::vector<Sample> stored(picture.values.begin(), picture.values.end());
-    const PixelSize size = upright.size();
+    const PixelSize size = transformation.size();
     std::vector<Sample> shown(static_cast<std::size_t>(size.width * size.height));
     const auto view = [](std::vector<Sample> &samples, PixelSize of) {
         return PlaneView{reinterpret_cast<std::uint8_t *>(samples.data()),
                          static_cast<std::ptrdiff_t>(sizeof(Sample)) * of.width, of.width, of.height};
     };
-    copyTurned(partOf(view(stored, picture.size), upright.crop(), sizeof(Sample)), upright.turn(),
-               view(shown, size), sizeof(Sample));
+    copyTurned(partOf(view(stored, picture.size), transformation.crop(), sizeof(Sample)),
+               transformation.orientation(), view(shown, size), sizeof(Sample));
     return {shown.begin(), shown.end()};
 }
 
-void expectSame(const Upright &upright, const Numbers &stored, const Numbers &expected)
-{
-    ASSERT_EQ(upright.size(), expected.size);
-    EXPECT_EQ(throughPlanes<std::uint8_t>(upright, stored), expected.values);
-    EXPECT_EQ(throughPlanes<std::uint16_t>(upright, stored), expected.values);
-}
-
-TEST(Upright, ShouldAddStepsInAnyOrder)
+TEST(Transformation, ShouldAddStepsInAnyOrder)
 {
     // Every sequence of four steps out of the four there are, on a picture with an odd and an even side.
     const Numbers stored = numbers({15, 12});
     for (unsigned sequence = 0; sequence < 256; ++sequence) {
         SCOPED_TRACE(sequence);
-        Upright upright(stored.size);
+        Transformation transformation(stored.size);
         Numbers expected = stored;
         for (unsigned step = 0; step < 4; ++step) {
+            const auto [width, height] = expected.size;
             switch ((sequence >> (2 * step)) & 3) {
             case 0:
-                upright.rotateAnticlockwise(1);
-                expected = expected.rotatedAnticlockwise();
+                transformation.rotateAnticlockwise(1);
+                expected = expected.changed(
+                    {height, width}, [last = width - 1](int x, int y) { return std::pair(last - y, x); });
                 break;
             case 1:
-                upright.flipHorizontally();
-                expected = expected.leftAndRightExchanged();
+                transformation.flipHorizontally();
+                expected = expected.changed(
+                    expected.size, [last = width - 1](int x, int y) { return std::pair(last - x, y); });
                 break;
             case 2:
-                upright.flipVertically();
-                expected = expected.topAndBottomExchanged();
+                transformation.flipVertically();
+                expected = expected.changed(
+                    expected.size, [last = height - 1](int x, int y) { return std::pair(x, last - y); });
                 break;
             default:
-                ASSERT_TRUE(upright.cropTo(2, 1, expected.size.width - 3, expected.size.height - 2));
-                expected = expected.cropped(2, 1, expected.size.width - 3, expected.size.height - 2);
+                ASSERT_TRUE(transformation.cropTo(2, 1, width - 3, height - 2));
+                expected = expected.changed({width - 3, height - 2},
+                                            [](int x, int y) { return std::pair(2 + x, 1 + y); });
                 break;
             }
         }
-        expectSame(upright, stored, expected);
+        ASSERT_EQ(transformation.size(), expected.size);
+        EXPECT_EQ(throughPlanes<std::uint8_t>(transformation, stored), expected.values);
+        EXPECT_EQ(throughPlanes<std::uint16_t>(transformation, stored), expected.values);
     }
 }
 
-TEST(Upright, ShouldFollowExifOrientation)
+TEST(Transformation, ShouldFollowExifOrientation)
 {
     const Numbers stored = numbers({3, 2}); // 0 1 2 over 3 4 5
     const std::vector<std::vector<int>> expected = {
@@ -122,19 +106,19 @@ TEST(Upright, ShouldFollowExifOrientation)
         {0, 3, 1, 4, 2, 5}, {3, 0, 4, 1, 5, 2}, {5, 2, 4, 1, 3, 0}, {2, 5, 1, 4, 0, 3}};
     for (unsigned orientation = 1; orientation <= 8; ++orientation) {
         SCOPED_TRACE(orientation);
-        Upright upright(stored.size);
-        upright.applyExifOrientation(orientation);
-        EXPECT_EQ(throughPlanes<std::uint8_t>(upright, stored), expected[orientation - 1]);
+        Transformation transformation(stored.size);
+        transformation.applyExifOrientation(orientation);
+        EXPECT_EQ(throughPlanes<std::uint8_t>(transformation, stored), expected[orientation - 1]);
     }
 }
 
-TEST(Upright, ShouldRefuseCropsThatLeaveNothing)
+TEST(Transformation, ShouldRefuseCropsThatLeaveNothing)
 {
-    Upright upright({10, 10});
-    EXPECT_FALSE(upright.cropTo(10, 0, 5, 5));
-    EXPECT_FALSE(upright.cropTo(0, 0, 5, 0));
-    EXPECT_FALSE(upright.cropTo(-5, 0, 5, 5));
-    EXPECT_EQ(upright.size(), (PixelSize{10, 10}));
+    Transformation transformation({10, 10});
+    EXPECT_FALSE(transformation.cropTo(10, 0, 5, 5));
+    EXPECT_FALSE(transformation.cropTo(0, 0, 5, 0));
+    EXPECT_FALSE(transformation.cropTo(-5, 0, 5, 5));
+    EXPECT_EQ(transformation.size(), (PixelSize{10, 10}));
 }
 
 } // namespace
