@@ -20,7 +20,7 @@ struct UnsafeToOpen
     bool operator==(const UnsafeToOpen &) const = default;
 };
 
-/// What a conversion raises: an error of its own, or the file system's unchanged.
+/// Why a conversion failed: one of its own errors, or the file system's.
 using ConversionFailure = std::variant<ConversionError, std::error_code, UnsafeToOpen>;
 
 /// The sentence that the user reads.

@@ -10,7 +10,7 @@ namespace FileOperations {
 /// The path of `name` in `folder`, whatever the name: QDir takes one that begins with a colon for a resource.
 QString pathIn(const QString &folder, const QString &name);
 
-/// Whether anything bears this name, a broken link included.
+/// Whether there is anything at this path; a broken link counts.
 bool exists(const QString &path);
 
 /// Creates a folder and those above it; one that is there already is no error.

@@ -15,7 +15,7 @@ constexpr QLatin1String watcherService("org.kde.StatusNotifierWatcher");
 constexpr QLatin1String watcherPath("/StatusNotifierWatcher");
 constexpr QLatin1String itemPath("/StatusNotifierItem");
 
-/// Hosts speak in the pixels of the screens; a screen's origin is the same in both.
+/// Converts a host's position, in physical pixels, to Qt's. A screen's origin is the same in both.
 QPoint fromScreenPixels(const QPoint &position)
 {
     const QList<QScreen *> screens = QGuiApplication::screens();

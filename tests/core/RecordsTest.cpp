@@ -1,4 +1,3 @@
-#include "AppearanceMode.h"
 #include "ConversionItem.h"
 #include "ConversionSettings.h"
 
@@ -40,12 +39,6 @@ QJsonObject recordOf(const ConversionItem &item)
     return QJsonDocument::fromJson(*ConversionItem::listToJson({item})).array().first().toObject();
 }
 
-template<typename Option>
-QStringList choices()
-{
-    return {rawValues<Option>.begin(), rawValues<Option>.end()};
-}
-
 } // namespace
 
 class RecordsTest : public QObject
@@ -53,14 +46,6 @@ class RecordsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shouldListChoicesInTheOrderOfTheirControls()
-    {
-        QCOMPARE(choices<OutputFormat>(), (QStringList{"PNG", "JPEG"}));
-        QCOMPARE(choices<OutputLocation>(), (QStringList{"Beside originals", "Lumaport folder"}));
-        QCOMPARE(choices<OriginalPolicy>(), (QStringList{"Keep originals", "Move to Originals"}));
-        QCOMPARE(choices<AppearanceMode>(), (QStringList{"System", "Light", "Dark"}));
-    }
-
     void shouldStoreSettingsUnderFiveKeysAndReadThemBack()
     {
         const ConversionSettings settings{.format = OutputFormat::jpeg,

@@ -22,7 +22,7 @@ class ThumbnailStoreTest : public QObject
         return writeFile(m_folder.filePath(name), content);
     }
 
-    /// The store's answer, waited for; none when there is none within the test's patience.
+    /// The store's answer, waited for; none when there is none within the test's time limit.
     std::optional<QImage> answer(const QUrl &url)
     {
         std::optional<QImage> result;

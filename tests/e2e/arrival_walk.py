@@ -1,4 +1,4 @@
-"""What a person meets when photos arrive, and what may go wrong on the way."""
+"""Arrivals of photos, and the faults that may happen on the way."""
 
 import os
 import pathlib

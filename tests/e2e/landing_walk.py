@@ -1,4 +1,4 @@
-"""The main window as a person meets it: the welcome, a photo dragged from another program, and that nothing is drawn when nothing happens."""
+"""The main window: the welcome, a photo dragged from another program, and no frame drawn while nothing changes."""
 
 import re
 import sys

@@ -1,4 +1,4 @@
-"""One long day with the program, as a person has it: from the first start to the one after the last."""
+"""A whole session of a user, from the first start to the next one."""
 
 import sys
 import unittest

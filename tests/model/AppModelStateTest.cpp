@@ -56,19 +56,6 @@ private Q_SLOTS:
         QVERIFY(!m_fixture->appearance->isDark());
     }
 
-    void shouldFallBackWhereStoredValuesCannotBeRead()
-    {
-        const auto &defaults = m_fixture->defaults;
-        defaults->store("appearanceMode", QString("dark"));
-        defaults->store("conversionSettings", QByteArray("not a record"));
-        defaults->store("recentItems", QByteArray("[{}]"));
-        AppModel &model = m_fixture->launch();
-        QCOMPARE(model.appearanceMode(), AppearanceMode::system);
-        QCOMPARE(model.settings(), ConversionSettings());
-        QVERIFY(model.items().isEmpty());
-        QCOMPARE(*defaults->data("conversionSettings"), "not a record");
-    }
-
     void shouldStoreTwelveEntriesAndTakeTwelveOfMore()
     {
         QList<ConversionItem> items = readyItems(15);

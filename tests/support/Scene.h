@@ -3,6 +3,7 @@
 #include "SystemAppearance.h"
 #include "SystemAppearanceSingleton.h"
 
+#include <QAccessible>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -103,6 +104,12 @@ public:
             texts << item->property("text").toString();
         }
         return texts;
+    }
+
+    /// The item as assistive programs see it.
+    static QAccessibleInterface *accessible(QQuickItem *item)
+    {
+        return QAccessible::queryAccessibleInterface(item);
     }
 
     QPoint centre(const QQuickItem *item) const

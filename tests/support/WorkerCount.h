@@ -6,7 +6,7 @@
 
 #include <unistd.h>
 
-/// Children of process @p process, by all its threads.
+/// The child processes of @p process.
 inline QList<int> childrenOf(int process)
 {
     QList<int> children;
@@ -24,7 +24,7 @@ inline QList<int> childrenOf(int process)
     return children;
 }
 
-/// Workers that are there at this moment, whoever raised them.
+/// The number of worker processes at this moment.
 inline qsizetype workerCount()
 {
     qsizetype count = 0;
@@ -34,7 +34,7 @@ inline qsizetype workerCount()
     return count;
 }
 
-/// Waits until the time of each worker that has ended is booked to this process.
+/// Waits until each exited worker was reaped, so that its processor time counts as this process's.
 inline void awaitBookingOfWorkers()
 {
     const auto isUnbooked = [](int worker) {

@@ -153,65 +153,13 @@ private Q_SLOTS:
         QVERIFY2(resets.isEmpty(), "each card keeps its picture");
     }
 
-    void shouldShowTheNewestThreeAndExpandUnderThePointer()
+    void shouldShowTheNewestThree()
     {
         for (const char *name : {"1.heic", "2.heic", "3.heic", "4.heic"}) {
             m_fixture->model().convertManually({m_fixture->write(name)});
         }
         QCOMPARE(m_controller->stage()->rowCount(), 3);
         QCOMPARE(card(0) + card(1) + card(2), "4.heic/Photo/photo3.heic/Photo/photo2.heic/Photo/photo");
-        QSignalSpy changes(m_controller->stage(), &PhotoLandingStageController::changed);
-        m_controller->stage()->setHovered(true);
-        QCOMPARE(badge(), "still fluid, expanded");
-        QCOMPARE(changes.size(), 1);
-    }
-
-    void shouldTellDragsAndDropsOfPhotosFromOthers_data()
-    {
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<bool>("isDropTarget");
-        QTest::addColumn<bool>("isAccepted");
-        QTest::newRow("a photo and a text") << QStringList{"notes.txt", "IMG_1.HEIC"} << true << true;
-        QTest::newRow("no photo") << QStringList{"holiday.jpg"} << true << false;
-        QTest::newRow("the folder itself") << QStringList{""} << true << false;
-        QTest::newRow("a photo elsewhere") << QStringList{"https://example.org/IMG_1.HEIC"} << false << false;
-        QTest::newRow("nothing") << QStringList() << false << false;
-    }
-
-    void shouldTellDragsAndDropsOfPhotosFromOthers()
-    {
-        QFETCH(QStringList, names);
-        QList<QUrl> urls;
-        for (const QString &name : std::as_const(names)) {
-            urls << (name.startsWith("https:") ? QUrl(name) : m_fixture->url(name));
-        }
-        m_fixture->write("IMG_1.HEIC");
-        const AppModel &model = m_fixture->model();
-        QTEST(m_controller->dragEntered(urls), "isDropTarget");
-        QTEST(model.isDropTargeted(), "isDropTarget");
-        m_controller->dragLeft();
-        QVERIFY(!model.isDropTargeted());
-        m_controller->dragEntered(urls);
-        QTEST(m_controller->drop(urls), "isAccepted");
-        QVERIFY(!model.isDropTargeted());
-        QTEST(model.items().size() == 1, "isAccepted");
-        QCOMPARE(model.lastEventText(),
-                 model.items().isEmpty() ? "Drop HEIC or HEIF photos here" : "IMG_1.HEIC landed");
-    }
-
-    void shouldWelcomeOnTheFirstLaunchAndAgainOnRequest()
-    {
-        QSignalSpy changes(m_controller.get(), &MainViewController::showsWelcomeChanged);
-        QVERIFY(m_controller->showsWelcome());
-        m_controller->finishWelcome();
-        QVERIFY(!m_controller->showsWelcome());
-        QVERIFY(
-            !MainViewController(m_fixture->model(), m_fixture->defaults).showsWelcome()); // the next launch
-        m_fixture->model().setWelcomeReplayToken(1);
-        QVERIFY(m_controller->showsWelcome());
-        m_controller->finishWelcome();
-        QVERIFY(!m_controller->showsWelcome());
-        QCOMPARE(changes.size(), 3);
     }
 
 private:

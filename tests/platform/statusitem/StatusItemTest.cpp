@@ -1,5 +1,6 @@
 #include "DesktopStatusItem.h"
 #include "FakeService.h"
+#include "RecordingStatusItem.h"
 #include "StatusNotifierItem.h"
 #include "StatusNotifierMenu.h"
 #include "TrayIconItem.h"
@@ -55,17 +56,6 @@ public Q_SLOTS:
 
 namespace {
 
-/// Stands for the icon in an XEmbed tray.
-struct RecordingItem : StatusItem
-{
-    void setLook(const StatusItemLook &newLook) override { look = newLook; }
-    void setMenu(const QList<StatusMenuEntry> &newEntries) override { entries = newEntries; }
-    std::optional<QRect> place() const override { return QRect(5, 6, 22, 22); }
-
-    StatusItemLook look;
-    QList<StatusMenuEntry> entries;
-};
-
 StatusItemLook someLook()
 {
     QImage image(2, 1, QImage::Format_ARGB32_Premultiplied);
@@ -98,17 +88,6 @@ private Q_SLOTS:
     {
         m_item.reset();
         m_watcher.reset();
-    }
-
-    void shouldRegisterWithEveryWatcherThatComes()
-    {
-        QVERIFY(m_watcher->items.last().startsWith("org.kde.StatusNotifierItem-"));
-        const QSignalSpy presence(m_item.get(), &StatusNotifierItem::hostPresenceChanged);
-        m_watcher->leave();
-        QTRY_VERIFY(!presence.isEmpty() && !presence.last().first().toBool());
-        m_watcher->come();
-        QTRY_VERIFY(presence.last().first().toBool());
-        QCOMPARE(m_watcher->items.size(), 2);
     }
 
     void shouldShowItsLookOnTheBus()
@@ -223,10 +202,11 @@ private Q_SLOTS:
     {
         m_watcher->hasHost = false;
         m_item.reset();
-        QPointer<RecordingItem> fallback; // null when it is gone
+        QPointer<RecordingStatusItem> fallback; // null when it is gone
         DesktopStatusItem item(std::make_unique<StatusNotifierItem>(QDBusConnection::sessionBus()),
                                [&fallback] {
-                                   auto made = std::make_unique<RecordingItem>();
+                                   auto made = std::make_unique<RecordingStatusItem>();
+                                   made->placeOnScreen = QRect(5, 6, 22, 22);
                                    fallback = made.get();
                                    return made;
                                });
@@ -247,6 +227,11 @@ private Q_SLOTS:
         QCOMPARE(activated.size(), 2);
         m_watcher->leave();
         QTRY_VERIFY(fallback);
+        const auto registrations = m_watcher->items.size();
+        m_watcher->come();
+        QTRY_VERIFY(!fallback);
+        QVERIFY(m_watcher->items.last().startsWith("org.kde.StatusNotifierItem-"));
+        QVERIFY(m_watcher->items.size() > registrations);
     }
 };
 

@@ -1,10 +1,50 @@
-#include "ShellFixture.h"
+#include "AppDelegate.h"
+
+#include "AppModelSingleton.h"
+#include "ModelFixture.h"
+#include "PanelWindow.h"
+#include "RecordingStatusItem.h"
 #include "Symbol.h"
+#include "SystemAppearanceSingleton.h"
 
 #include <QDir>
 #include <QFile>
+#include <QQmlEngine>
+#include <QTest>
 
 using namespace std::chrono_literals;
+
+namespace {
+
+/// The delegate with a model, its panel and a status item, on a desktop without a tray.
+class ShellFixture : public ModelFixture
+{
+public:
+    ShellFixture()
+    {
+        SystemAppearanceSingleton::provide(*appearance);
+        AppModelSingleton::provide(launch());
+        QObject::connect(&qmlEngine, &QQmlEngine::warnings, &qmlEngine, [](const QList<QQmlError> &warnings) {
+            QFAIL(qPrintable(warnings.constFirst().toString()));
+        });
+        delegate.configureMenuBar(model(), [this] { ++mainOpened; });
+        for (QWindow *window : QGuiApplication::topLevelWindows()) {
+            panelWindow = panelWindow ? panelWindow : qobject_cast<PanelWindow *>(window);
+        }
+    }
+
+    int mainOpened = 0;
+    RecordingStatusItem *item = nullptr;
+    PanelWindow *panelWindow = nullptr;
+    QQmlEngine qmlEngine;
+    AppDelegate delegate{qmlEngine, jobs, [this] {
+                             auto made = std::make_unique<RecordingStatusItem>();
+                             item = made.get();
+                             return made;
+                         }};
+};
+
+} // namespace
 
 class AppDelegateTest : public QObject
 {

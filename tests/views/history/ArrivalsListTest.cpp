@@ -1,5 +1,4 @@
 #include "ArrivalsListController.h"
-#include "ModelFixture.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -108,29 +107,6 @@ private Q_SLOTS:
                  item.outputURL.value_or(item.sourceURL));
         QCOMPARE(shown(list, 0, ArrivalsListModel::RevealLabel).toString(),
                  item.outputName ? "Reveal out.png in Finder" : "Reveal a.heic in Finder");
-    }
-
-    void shouldActOnTheModel()
-    {
-        ModelFixture fixture;
-        AppModel &model = fixture.launch();
-        ArrivalsListController controller(model);
-        QVERIFY(controller.isEmpty());
-        QVERIFY2(!controller.canClear(), "nor by a button that has the focus but is not shown");
-        QCOMPARE(controller.emptyHint(), "AirDrop into Photos, or choose a HEIC photo above.");
-
-        ConversionItem ready = photo("b.heic");
-        finish(ready);
-        ConversionItem failed = ConversionItem::queuedFor(fixture.write("again.heic"), {});
-        failed.status = ConversionStatus::failed;
-        failed.outputURL = fixture.write("copy.heic");
-        model.setItems({ready, failed});
-        QVERIFY(controller.canClear());
-        controller.reveal(0);
-        QCOMPARE(fixture.workspace->revealed, QList<QUrl>{*ready.outputURL});
-        controller.tryAgain(1);
-        QCOMPARE(model.items().first().sourceURL, failed.sourceURL);
-        QVERIFY2(!controller.canClear(), "not while a conversion is running");
     }
 };
 

@@ -1,6 +1,5 @@
 #include "ModelScene.h"
 
-#include <QAccessible>
 #include <QDir>
 
 namespace {
@@ -30,6 +29,7 @@ private Q_SLOTS:
         QVERIFY(scene.find("emptyState"));
         QVERIFY(!scene.find("clearHistory"));
         QVERIFY(!scene.find("readyCount"));
+        QVERIFY(scene.findText("AirDrop into Photos, or choose a HEIC photo above."));
         scene.model.setItems({scene.item("a.heic", ConversionStatus::ready)});
         QVERIFY(!scene.find("emptyState"));
         QVERIFY(scene.findText("1 ready"));
@@ -43,9 +43,11 @@ private Q_SLOTS:
     {
         ModelScene scene;
         scene.show(list);
-        const QList<ConversionItem> items{scene.item("a.heic", ConversionStatus::ready),
-                                          scene.item("b.heic", ConversionStatus::failed),
-                                          scene.item("c.heic", ConversionStatus::queued)};
+        QList<ConversionItem> items{scene.item("a.heic", ConversionStatus::ready),
+                                    scene.item("b.heic", ConversionStatus::failed),
+                                    scene.item("c.heic", ConversionStatus::queued)};
+        items[0].outputURL = scene.fixture.url("a.png");
+        items[1].outputURL = scene.fixture.write("copy.heic");
         scene.model.setItems(items);
         const QColor attention(0xAD, 0x3E, 0x20);
         for (int number = 0; number < 3; ++number) {
@@ -59,12 +61,11 @@ private Q_SLOTS:
         }
         QVERIFY(!scene.find("clearHistory")->isEnabled());
         QQuickItem *reveal = scene.find("reveal");
-        QCOMPARE(QAccessible::queryAccessibleInterface(reveal)->text(QAccessible::Name),
-                 "Reveal a.png in Finder");
+        QCOMPARE(Scene::accessible(reveal)->text(QAccessible::Name), "Reveal a.png in Finder");
         scene.click(reveal);
-        QCOMPARE(scene.fixture.workspace->revealed.size(), 1);
+        QCOMPARE(scene.fixture.workspace->revealed, QList{*items[0].outputURL});
         scene.click(scene.find("tryAgain"));
-        QCOMPARE(scene.model.items().first().sourceName, "b.heic");
+        QCOMPARE(scene.model.items().first().sourceURL, items[1].sourceURL);
         scene.model.setItems({items[0]});
         QVERIFY(!scene.find("divider"));
     }
@@ -150,62 +151,47 @@ private Q_SLOTS:
                 QVERIFY(scene.findText(QStringLiteral("%1% quality").arg(percent)));
             }
         }
-        scene.model.setSettings({.format = OutputFormat::png});
-        QVERIFY(!scene.find("quality"));
-    }
-
-    void shouldTruncateAStoredQualityToWholePercentAndLeaveItAlone()
-    {
-        ModelScene scene;
-        scene.show(panel);
+        // What was stored is truncated to whole percent where it is shown, and stays as it is.
         for (const auto &[quality, percent] :
              {std::pair{0.85, 85}, std::pair{0.7999999, 79}, std::pair{0.3, 30}, std::pair{1.7, 170}}) {
             setQuality(scene.model, quality);
             QVERIFY(scene.findText(QStringLiteral("%1% quality").arg(percent)));
             QCOMPARE(scene.model.settings().jpegQuality, quality);
         }
-    }
-
-    void shouldChooseFromAPickerByKeys_data()
-    {
-        QTest::addColumn<QString>("picker");
-        QTest::addColumn<Qt::Key>("key");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<QStringList>("texts"); // before and after
-        QTest::newRow("folder") << "outputLocation" << Qt::Key_Up << "Save converted photos"
-                                << QStringList{"Lumaport folder", "Beside originals"};
-        QTest::newRow("originals") << "originalPolicy" << Qt::Key_Down << "Original photos"
-                                   << QStringList{"Keep originals", "Move to Originals"};
+        scene.model.setSettings({.format = OutputFormat::png});
+        QVERIFY(!scene.find("quality"));
     }
 
     void shouldChooseFromAPickerByKeys()
     {
-        QFETCH(QString, picker);
-        QFETCH(Qt::Key, key);
-        QFETCH(QStringList, texts);
         ModelScene scene;
         scene.show(panel);
-        QQuickItem *box = scene.find(picker);
-        QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(box);
-        QTEST(spoken->text(QAccessible::Name), "title");
-        QCOMPARE(spoken->text(QAccessible::Description), texts.at(0));
-        box->forceActiveFocus(Qt::TabFocusReason);
-        scene.press(Qt::Key_Return);
-        QTRY_VERIFY(box->property("down").toBool());
-        const auto *menu =
-            box->property("popup").value<QObject *>()->property("contentItem").value<QQuickItem *>();
-        const auto isSaidToBeChosen = [menu] {
-            auto *entry = menu->property("currentItem").value<QQuickItem *>();
-            return QAccessible::queryAccessibleInterface(entry)->state().selected;
+        const auto choose = [&scene](const char *picker, const QString &title, const QString &before,
+                                     Qt::Key key, const QString &after) {
+            QQuickItem *box = scene.find(picker);
+            QAccessibleInterface *spoken = Scene::accessible(box);
+            QCOMPARE(spoken->text(QAccessible::Name), title);
+            QCOMPARE(spoken->text(QAccessible::Description), before);
+            box->forceActiveFocus(Qt::TabFocusReason);
+            scene.press(Qt::Key_Return);
+            QTRY_VERIFY(box->property("down").toBool());
+            const auto *menu =
+                box->property("popup").value<QObject *>()->property("contentItem").value<QQuickItem *>();
+            const auto isSaidToBeChosen = [menu] {
+                return Scene::accessible(menu->property("currentItem").value<QQuickItem *>())
+                    ->state()
+                    .selected;
+            };
+            QVERIFY(isSaidToBeChosen());
+            scene.press(key);
+            QVERIFY(!isSaidToBeChosen());
+            scene.press(Qt::Key_Return);
+            QCOMPARE(spoken->text(QAccessible::Description), after);
         };
-        QVERIFY(isSaidToBeChosen());
-        scene.press(key);
-        QVERIFY(!isSaidToBeChosen());
-        scene.press(Qt::Key_Return);
-        QCOMPARE(spoken->text(QAccessible::Description), texts.at(1));
-        const ConversionSettings settings = scene.model.settings();
-        QVERIFY((settings.outputLocation == OutputLocation::alongside) !=
-                (settings.originalPolicy == OriginalPolicy::archive));
+        choose("outputLocation", "Save converted photos", "Lumaport folder", Qt::Key_Up, "Beside originals");
+        QCOMPARE(scene.model.settings().outputLocation, OutputLocation::alongside);
+        choose("originalPolicy", "Original photos", "Keep originals", Qt::Key_Down, "Move to Originals");
+        QCOMPARE(scene.model.settings().originalPolicy, OriginalPolicy::archive);
     }
 
     void shouldToggleNotificationsByEveryWay()
@@ -221,8 +207,7 @@ private Q_SLOTS:
         QVERIFY(isOn());
         scene.press(Qt::Key_Return);
         QVERIFY(!isOn());
-        QAccessible::queryAccessibleInterface(notify)->actionInterface()->doAction(
-            QAccessibleActionInterface::toggleAction());
+        Scene::accessible(notify)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
         QVERIFY(isOn());
         QVERIFY(notify->property("checked").toBool());
     }

@@ -1,10 +1,11 @@
 #include "MainViewController.h"
+#include "MenuBarViewController.h"
 #include "ModelScene.h"
 
 #include <QAccessible>
 #include <QTranslator>
 
-// Every text of the main view in a language whose texts are longer, each in brackets.
+// Every text of the window and the panel in a language whose texts are longer, each in brackets.
 class PseudoLocaleTest : public QObject
 {
     Q_OBJECT
@@ -30,30 +31,47 @@ private Q_SLOTS:
 
     void shouldTranslateEveryTextAndWrapLongerOnes_data()
     {
+        QTest::addColumn<QByteArray>("view");
         QTest::addColumn<bool>("history");
-        QTest::newRow("where photos land") << false;
-        QTest::newRow("the history") << true;
+        QTest::addColumn<int>("leastTexts");
+        const QByteArray window = "import Lumaport.Views\nMainView { width: 800; height: 900 }";
+        QTest::newRow("where photos land") << window << false << 30;
+        QTest::newRow("the history") << window << true << 30;
+        QTest::newRow("the panel") << QByteArray("import Lumaport.StatusItem\nMenuBarView {}") << false << 15;
     }
 
     void shouldTranslateEveryTextAndWrapLongerOnes()
     {
+        QFETCH(QByteArray, view);
         QFETCH(bool, history);
+        QFETCH(int, leastTexts);
         ModelScene scene;
-        MainViewController controller(scene.model, scene.fixture.defaults);
-        controller.finishWelcome();
-        controller.setProperty("optionsVisible", true);
-        controller.setProperty("showingHistory", history);
+        MainViewController window(scene.model, scene.fixture.defaults);
+        MenuBarViewController panel(scene.model, [] {});
+        window.finishWelcome();
+        window.setProperty("optionsVisible", true);
+        window.setProperty("showingHistory", history);
         scene.model.setSettings({.format = OutputFormat::jpeg});
         scene.model.setItems({scene.item("a.heic", ConversionStatus::ready),
                               scene.item("b.heic", ConversionStatus::failed),
                               scene.item("c.heic", ConversionStatus::converting)});
         scene.appearance.setMotion(SystemAppearance::Motion::Reduced);
-        QQuickItem *view = scene.show("import Lumaport.Views\nMainView { width: 800; height: 900 }",
-                                      {{"controller", QVariant::fromValue(&controller)}});
-        QCOMPARE(scene.cutTexts(view), QStringList());
+        const bool isPanel = view.contains("MenuBarView");
+        QQuickItem *shown = scene.show(
+            view, {{"controller", isPanel ? QVariant::fromValue(&panel) : QVariant::fromValue(&window)}});
+        QCOMPARE(scene.cutTexts(shown), QStringList());
+        if (isPanel) {
+            for (const auto &[left, right] :
+                 {std::pair{"formatCaption", "formatControl"}, std::pair{"openButton", "quitButton"}}) {
+                const QQuickItem *item = scene.find(left);
+                QVERIFY(item->x() + item->width() < scene.find(right)->x());
+            }
+        } else {
+            QCOMPARE(scene.cutTexts(scene.find("scroll")), QStringList());
+        }
         QStringList all = texts(QAccessible::queryAccessibleInterface(&scene.window));
         all.removeDuplicates();
-        QVERIFY2(all.size() > 30, qPrintable(QString::number(all.size())));
+        QVERIFY2(all.size() > leastTexts, qPrintable(QString::number(all.size())));
         const QStringList data{"",      "Lumaport", "JPEG",   "PNG",
                                "a.png", "b.heic",   "c.heic", scene.model.watchFolder().toLocalFile()};
         for (const QString &text : std::as_const(all)) {
