@@ -133,7 +133,7 @@ private Q_SLOTS:
 
     void shouldShowTheMainWindowWhenTheMainViewGoesOrTheWindowIsClosed()
     {
-        expectChangesOfOpacity(6);
+        expectChangesOfOpacity(4);
         Presentation scene(PresentationView::Surface::Panel);
         scene.present();
         scene.window.hide();
