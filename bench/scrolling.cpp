@@ -10,8 +10,8 @@
 #include <cstdio>
 #include <vector>
 
-// Measures what a list of 20 photos costs the main thread: the making of one thumbnail's picture, its
-// painting, and the time between frames while the list scrolls on the present platform. Usage: scrolling
+// Measures what a list of 20 photos costs the main thread: creating the image of one thumbnail, painting
+// it, and the time between frames while the list scrolls on the present platform. Usage: scrolling
 
 namespace {
 

@@ -1,4 +1,4 @@
-"""What every run of the real program in a session shares: the program, photos made on the spot, and the desktop around it."""
+"""Tools to run the real program in a desktop session: the program itself, generated photos, other programs of the desktop."""
 
 import json
 import os
@@ -30,7 +30,7 @@ def fresh(settings="[General]\nhasSeenSignatureWelcome=true\n"):
 
 
 def wait_until(condition, what):
-    """Waits for a truthy answer and gives it back."""
+    """Waits until the condition is true and returns its value."""
     limit = time.monotonic() + PATIENCE
     while not (answer := condition()):
         if time.monotonic() > limit:
@@ -40,12 +40,12 @@ def wait_until(condition, what):
 
 
 def run(*command):
-    """What a command prints, whatever it ends with."""
+    """The output of a command, whatever its exit status."""
     return subprocess.run(command, capture_output=True, text=True, check=False).stdout
 
 
 def windows(pattern, by="--name"):
-    """The visible windows whose title, or what else is asked for, fits."""
+    """The visible windows whose title matches; `by` names another property to search."""
     return run("xdotool", "search", "--onlyvisible", by, pattern).split()
 
 
@@ -82,7 +82,7 @@ def picture(path, width, height):
 
 
 def photo(folder, name, width=64, height=48):
-    """A HEIC photo, written elsewhere and moved into `folder` whole."""
+    """Generates a HEIC photo and moves it into `folder` when it is complete."""
     with tempfile.TemporaryDirectory(dir=HOME) as making:
         making = pathlib.Path(making)
         picture(making / "made.png", width, height)
@@ -93,7 +93,7 @@ def photo(folder, name, width=64, height=48):
 
 
 def stored(name):
-    """A plain value of the settings, as it stands in their file; None without one."""
+    """The value in the settings file; None when it is missing."""
     text = SETTINGS.read_text(encoding="utf-8", errors="replace") if SETTINGS.exists() else ""
     found = re.search(rf"^{name}=(.*)$", text, re.MULTILINE)
     return found and found.group(1).strip('"')
@@ -119,12 +119,12 @@ def entry(name):
 
 
 def ended(name):
-    """The same, once it is there."""
+    """Waits for that entry."""
     return wait_until(lambda: entry(name), f"the end of {name}")
 
 
 def ready(name):
-    """The same, which must not have failed."""
+    """Waits for that entry, which must be ready."""
     done = ended(name)
     assert done["status"] == "ready", done
     return done
@@ -135,7 +135,7 @@ def everything_in(folder):
 
 
 def resident(process):
-    """Megabytes of memory that the process holds."""
+    """Resident memory of the process in megabytes."""
     status = pathlib.Path(f"/proc/{process.pid}/status").read_text(encoding="utf-8")
     return int(re.search(r"VmRSS:\s+(\d+)", status).group(1)) / 1e3
 
@@ -168,7 +168,7 @@ class Application:
             raise AssertionError(f"ended with {status} and printed:\n{''.join(self.printed)}")
 
     def kill(self):
-        """Ends it as the kernel does when memory runs out."""
+        """Kills it, as the kernel does when memory runs out."""
         self.end = -signal.SIGKILL
         self.process.kill()
         self.process.wait(timeout=PATIENCE)
@@ -183,7 +183,7 @@ class Application:
         return False
 
     def start_again(self, *arguments):
-        """A further start, which hands over to this one."""
+        """Starts the program once more, which hands over to this process and exits."""
         again = subprocess.run([*self.command, *arguments], capture_output=True, text=True, timeout=PATIENCE, cwd=HOME)
         assert (again.returncode, again.stdout + again.stderr) == (0, ""), again
 

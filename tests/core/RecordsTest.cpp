@@ -118,6 +118,7 @@ private Q_SLOTS:
         row("identifier in braces", itemRecord, "id", "{0D3F2A51-9C1E-4B7A-8E21-5A6B7C8D9EAF}");
         row("date as text", itemRecord, "createdAt", "2026-01-01");
         row("no URL", itemRecord, "sourceURL", "file:///%zz");
+        row("URL of another machine", itemRecord, "sourceURL", "sftp://there/a.HEIC");
         row("empty URL", itemRecord, "outputURL", "");
         row("name as number", itemRecord, "outputName", 3);
     }

@@ -34,6 +34,7 @@ private Q_SLOTS:
 
     void shouldChooseByPointerAndKeys()
     {
+        m_scene->model.setSettings({.jpegQuality = 0.7, .notificationsEnabled = false});
         QSignalSpy writes(&m_scene->model, &AppModel::settingsChanged);
         m_scene->click(m_jpeg);
         QCOMPARE(chosen(), OutputFormat::jpeg);
@@ -45,7 +46,9 @@ private Q_SLOTS:
             QVERIFY2(m_png->hasActiveFocus(), "the focus follows the choice");
         }
         m_scene->press(Qt::Key_Right);
-        QCOMPARE(chosen(), OutputFormat::jpeg);
+        const ConversionSettings expected{
+            .format = OutputFormat::jpeg, .jpegQuality = 0.7, .notificationsEnabled = false};
+        QCOMPARE(m_scene->model.settings(), expected);
         QVERIFY(Scene::accessible(m_jpeg)->state().selected);
         QVERIFY(!Scene::accessible(m_png)->state().selected);
         QQuickItem *light = m_scene->find("segment1", m_scene->find("appearance"));
