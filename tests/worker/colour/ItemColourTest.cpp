@@ -36,8 +36,8 @@ TEST(ItemColour, ShouldFollowTheGreyProfileOfAGreyPictureAndIgnoreProfilesThatDo
     const Bytes photo = makePhoto({.chroma = PhotoRecipe::Chroma::None, .iccProfile = greyProfile});
     auto expected = decodeIndependently(photo);
     ASSERT_TRUE(expected);
-    for (std::size_t index = 0; index < expected->rgba.size(); ++index) {
-        expected->rgba[index] = codeOf(srgbOfLinear(std::pow(expected->rgba[index] / 255.0, Gamma)));
+    for (std::uint8_t &code : expected->rgba) {
+        code = codeOf(srgbOfLinear(std::pow(code / 255.0, Gamma)));
     }
     expectShown(photo, expected, 3);
     Bytes broken = savedProfile(displayP3().get());

@@ -66,7 +66,8 @@ TEST(DerivedPictures, ShouldBePutInTheirPlacesAsTilesOfAGrid)
         const auto first = shown(file.bytes(other));
         const auto second = shown(file.bytes(plain));
         ASSERT_TRUE(first && second);
-        const auto [width, height] = first->size;
+        const int width = first->size.width;
+        const int height = first->size.height;
         const auto gridOfWidth = [&](int canvas) {
             return file.bytes(file.addGrid(2, 2, {canvas, 2 * height}, {other, plain, plain, other},
                                            {crop({2 * width - 2, 2 * height}, 0, 0), rotation(1)}));
