@@ -19,26 +19,27 @@ struct CloseDirectory
     void operator()(DIR *directory) const { ::closedir(directory); }
 };
 
-QStringList photoNames(const QByteArray &path)
+std::optional<QStringList> photoNames(const QByteArray &path)
 {
     const std::unique_ptr<DIR, CloseDirectory> directory(::opendir(path.constData()));
-    QStringList names;
     if (!directory) {
-        return names;
+        return std::nullopt;
     }
+    QStringList names;
     for (;;) {
         errno = 0;
         // readdir is safe on a stream that no other thread has.
         const dirent *entry = ::readdir(directory.get()); // NOLINT(concurrency-mt-unsafe)
         if (!entry) {
-            return errno == 0 ? names : QStringList(); // a part must not pass for the whole folder
+            // A part must not pass for the whole folder.
+            return errno == 0 ? std::optional(names) : std::nullopt;
         }
         const QByteArrayView bytes(&entry->d_name[0]);
         if (bytes.startsWith('.') || bytes.size() < 6 || bytes[bytes.size() - 5] != '.') {
             continue; // not decoded: a folder may have tens of thousands of other names
         }
         const QString name = QFile::decodeName(bytes.toByteArray());
-        if (PhotoFileName::isHeic(name)) {
+        if (PhotoFileName::isHeic(name) && QFile::encodeName(name) == bytes) {
             names.append(name);
         }
     }
@@ -65,15 +66,32 @@ void sortAsInFileManager(QStringList &names)
 
 } // namespace
 
-QList<QUrl> FolderListing::photos(const QUrl &folder)
+std::optional<QList<QUrl>> FolderListing::photos(const QUrl &folder)
 {
     const QString path = folder.toLocalFile();
-    QStringList names = photoNames(QFile::encodeName(path));
-    sortAsInFileManager(names);
+    auto names = photoNames(QFile::encodeName(path));
+    if (!names) {
+        return std::nullopt;
+    }
+    sortAsInFileManager(*names);
     QList<QUrl> urls;
-    urls.reserve(names.size());
-    for (const QString &name : names) {
+    urls.reserve(names->size());
+    for (const QString &name : *names) {
         urls.append(QUrl::fromLocalFile(FileOperations::pathIn(path, name)));
     }
     return urls;
+}
+
+std::optional<FolderListing::Contents> FolderListing::contents(const QUrl &folder)
+{
+    const auto urls = photos(folder);
+    if (!urls) {
+        return std::nullopt;
+    }
+    Contents contents;
+    contents.reserve(urls->size());
+    for (const QUrl &url : *urls) {
+        contents.append({url, FileSignature::of(url)});
+    }
+    return contents;
 }

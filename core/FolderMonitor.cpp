@@ -39,6 +39,12 @@ void FolderMonitor::stop()
     // Ends here, outside the lock: ending waits for a report that is being delivered.
 }
 
+bool FolderMonitor::hasLostFolder() const
+{
+    const std::lock_guard guard(m_lock);
+    return m_source && m_source->hasLostFolder();
+}
+
 bool FolderMonitor::mayMissChanges() const
 {
     const std::lock_guard guard(m_lock);

@@ -29,6 +29,10 @@ public:
     /// The watched folder may change without a report, as folders of other machines do.
     virtual bool mayMissChanges() const;
 
+    /// The watched folder was deleted, renamed or unmounted since `start`: what its path leads to now, if
+    /// anything, is not watched.
+    virtual bool hasLostFolder() const;
+
 private:
     mutable std::mutex m_lock; ///< guards the two below
     std::unique_ptr<FolderWatch> m_source;

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QUrl>
 
+#include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -20,4 +22,18 @@ FileDescriptor openPhoto(const QUrl &file)
     struct stat status = {};
     const bool isRegular = photo.isOpen() && ::fstat(photo.number(), &status) == 0 && S_ISREG(status.st_mode);
     return isRegular ? std::move(photo) : FileDescriptor();
+}
+
+bool isBeingWritten(const QUrl &file)
+{
+    const FileDescriptor photo = openPhoto(file);
+    // A writer that comes while the lease is held is announced by a signal; this one is ignored by default.
+    if (!photo.isOpen() || ::fcntl(photo.number(), F_SETSIG, SIGURG) != 0) {
+        return false;
+    }
+    if (::fcntl(photo.number(), F_SETLEASE, F_RDLCK) != 0) {
+        return errno == EAGAIN;
+    }
+    ::fcntl(photo.number(), F_SETLEASE, F_UNLCK);
+    return false;
 }

@@ -1,6 +1,7 @@
 #include "AppModel.h"
 
 #include "DefaultsStore.h"
+#include "FolderLook.h"
 #include "FolderMonitor.h"
 #include "JobScheduler.h"
 #include "NotificationManager.h"

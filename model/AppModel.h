@@ -6,14 +6,15 @@
 #include "ConversionItem.h"
 #include "ConversionSettings.h"
 #include "FileSignature.h"
+#include "FolderListing.h"
 
 #include <QHash>
 #include <QObject>
 #include <QProperty>
-#include <QSet>
 
 #include <chrono>
 
+class FolderLook;
 class ScheduledJob;
 
 /// All state of the application: settings, history, watched folder and status line. It runs the conversion
@@ -130,10 +131,13 @@ private:
     void clearStatus();
 
     // Watching and scanning: AppModelWatching.cpp
+    static constexpr std::chrono::milliseconds changeDebounce{350};
     void startMonitoringFolder();
     void seedKnownFiles();
     void scheduleScan(std::chrono::milliseconds after);
     void scanForNewFiles();
+    void scan(const std::optional<FolderListing::Contents> &contents);
+    void returnToFolder(const FolderListing::Contents &contents);
     void pollSilentFolder();
     void reactToWatching();
     MonitorTexts monitorTexts() const;
@@ -156,7 +160,10 @@ private:
     std::unique_ptr<ScheduledJob> m_pendingScanTask;
     std::unique_ptr<ScheduledJob> m_pollTask; ///< for folders that change without a report
     std::unique_ptr<ScheduledJob> m_statusClearTask;
+    std::unique_ptr<FolderLook> m_look;         ///< under way
+    bool m_isFolderLost = false;                ///< it was watched, and its path is looked for
     QHash<QString, FileSignature> m_knownFiles; ///< by path: photos that need no conversion
     QHash<QString, FileSignature> m_candidates; ///< by path: new or changed photos waiting to settle
-    QSet<QString> m_processingPaths;            ///< photos with a conversion under way
+    /// By path: photos with a conversion under way, as they were when it was asked for.
+    QHash<QString, std::optional<FileSignature>> m_processingPaths;
 };

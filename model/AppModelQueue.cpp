@@ -38,7 +38,7 @@ void AppModel::enqueue(const QList<QUrl> &urls)
         if (m_processingPaths.contains(url.toLocalFile())) {
             continue;
         }
-        m_processingPaths.insert(url.toLocalFile());
+        m_processingPaths.insert(url.toLocalFile(), signature(url));
         accepted.append(
             ConversionItem::queuedFor(url, ReferenceDate::fromSystemTime(m_services.clock->now())));
         m_items.prepend(accepted.last());
@@ -90,8 +90,13 @@ void AppModel::endConversion(const ConversionItem &accepted, const ConversionSet
     // Known from now on, so that scans leave the file alone until it changes. A file that was moved away has
     // no signature.
     const QString path = accepted.sourceURL.toLocalFile();
+    const auto attempted = m_processingPaths.take(path);
     if (const auto current = signature(accepted.sourceURL)) {
-        m_knownFiles.insert(path, *current);
+        // One that changed meanwhile may be whole only now.
+        m_knownFiles.insert(path, attempted.value_or(*current));
+        if (attempted && *attempted != *current) {
+            scheduleScan(changeDebounce);
+        }
     }
     setLastEventText(outcome ? tr("Ready: %1").arg(outcome->outputURL.fileName())
                              : tr("Couldn’t convert %1").arg(accepted.sourceName));
@@ -105,7 +110,6 @@ void AppModel::endConversion(const ConversionItem &accepted, const ConversionSet
     if (outcome && settings.notificationsEnabled) {
         m_services.notifications->notifyConversionFinished(outcome->outputURL);
     }
-    m_processingPaths.remove(path);
     saveItems();
 }
 

@@ -1,16 +1,18 @@
 // Watching and scanning of AppModel: which files of the watched folder are new, and when they have settled.
 
 #include "AppModel.h"
-#include "FolderListing.h"
+#include "FolderLook.h"
 #include "FolderMonitor.h"
 #include "JobScheduler.h"
 #include "OpenPanel.h"
+#include "PhotoFile.h"
+
+#include <QSet>
 
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto changeDebounce = 350ms;
 constexpr auto settleCheck = 850ms;
 constexpr auto resumeDelay = 100ms;
 constexpr auto pollingInterval = 10s;
@@ -19,6 +21,7 @@ constexpr auto pollingInterval = 10s;
 
 void AppModel::startMonitoringFolder()
 {
+    m_isFolderLost = false;
     // Reports come on the monitor's thread; they end before the model does.
     m_monitorAvailable = m_services.folderMonitor->start(watchFolder(), [this] {
         QMetaObject::invokeMethod(
@@ -32,7 +35,7 @@ void AppModel::startMonitoringFolder()
 
 QList<QUrl> AppModel::heicFiles(const QUrl &folder)
 {
-    return FolderListing::photos(folder);
+    return FolderListing::photos(folder).value_or(QList<QUrl>());
 }
 
 std::optional<FileSignature> AppModel::signature(const QUrl &file)
@@ -44,6 +47,7 @@ void AppModel::seedKnownFiles()
 {
     m_knownFiles.clear();
     m_candidates.clear();
+    m_look.reset();
     const QList<QUrl> files = heicFiles(m_watchFolder);
     for (const QUrl &file : files) {
         if (const auto current = signature(file)) {
@@ -62,13 +66,43 @@ void AppModel::scheduleScan(std::chrono::milliseconds after)
 
 void AppModel::scanForNewFiles()
 {
+    if (!m_isWatching || m_look) {
+        return;
+    }
+    if (!m_services.folderMonitor->mayMissChanges() && !m_isFolderLost) {
+        scan(FolderListing::contents(m_watchFolder));
+        return;
+    }
+    m_look = std::make_unique<FolderLook>(m_watchFolder, this, [this](const auto &contents) {
+        m_look.reset();
+        scan(contents);
+    });
+}
+
+void AppModel::scan(const std::optional<FolderListing::Contents> &contents)
+{
     if (!m_isWatching) {
         return;
     }
-    const QList<QUrl> files = heicFiles(m_watchFolder);
+    const FolderMonitor &monitor = *m_services.folderMonitor;
+    const bool isServed = monitor.mayMissChanges();
+    m_isFolderLost |= m_monitorAvailable && (monitor.hasLostFolder() || (!contents && !isServed));
+    if (m_isFolderLost) {
+        m_knownFiles.clear();
+        m_candidates.clear();
+        if (contents) {
+            returnToFolder(*contents);
+        }
+        pollSilentFolder();
+        return;
+    }
+    if (!contents && isServed) {
+        return; // may answer the next time: its photos are no new ones then
+    }
+    const FolderListing::Contents photos = contents.value_or(FolderListing::Contents());
     QSet<QString> present;
-    for (const QUrl &file : files) {
-        present.insert(file.toLocalFile());
+    for (const auto &photo : photos) {
+        present.insert(photo.url.toLocalFile());
     }
     const auto isGone = [&present](const auto &entry) { return !present.contains(entry.key()); };
     m_knownFiles.removeIf(isGone);
@@ -76,16 +110,16 @@ void AppModel::scanForNewFiles()
 
     QList<QUrl> settled;
     bool needsSettleCheck = false;
-    for (const QUrl &file : files) {
+    for (const auto &[file, current] : photos) {
         const QString path = file.toLocalFile();
         if (m_processingPaths.contains(path)) {
             continue;
         }
-        const auto current = signature(file);
         if (!current || m_knownFiles.value(path, FileSignature{.size = -1}) == *current) {
             continue;
         }
-        if (m_candidates.contains(path) && m_candidates.value(path) == *current) {
+        const bool hasSettled = m_candidates.contains(path) && m_candidates.value(path) == *current;
+        if (hasSettled && (isServed || !isBeingWritten(file))) {
             m_candidates.remove(path);
             settled.append(file);
         } else {
@@ -100,10 +134,22 @@ void AppModel::scanForNewFiles()
     }
 }
 
+/// Watches the folder that has its path again. What it holds already counts as known.
+void AppModel::returnToFolder(const FolderListing::Contents &contents)
+{
+    for (const auto &[file, current] : contents) {
+        if (current) {
+            m_knownFiles.insert(file.toLocalFile(), *current);
+        }
+    }
+    startMonitoringFolder();
+    scheduleScan(settleCheck); // for what came before the watch, or was mounted over the folder since
+}
+
 void AppModel::pollSilentFolder()
 {
     m_pollTask.reset();
-    if (!m_isWatching || !m_services.folderMonitor->mayMissChanges()) {
+    if (!m_isWatching || (!m_isFolderLost && !m_services.folderMonitor->mayMissChanges())) {
         return;
     }
     m_pollTask = m_services.jobs->after(pollingInterval, [this] {

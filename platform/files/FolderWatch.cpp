@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <linux/magic.h>
 #include <poll.h>
@@ -38,22 +39,29 @@ bool concernsFolder(const inotify_event &event)
            ((event.mask & IN_ATTRIB) != 0 && event.len == 0);
 }
 
-/// Takes everything that waits in the queue. True when any of it concerns the folder.
-bool drain(const FileDescriptor &queue)
+struct Changes
+{
+    bool concernFolder = false;
+    bool folderIsLost = false; ///< its path no longer leads to it
+};
+
+/// Takes everything that waits in the queue.
+Changes drain(const FileDescriptor &queue)
 {
     alignas(inotify_event) std::array<char, bufferLength> buffer;
-    bool changed = false;
+    Changes changes;
     for (;;) {
         const ssize_t length = ::read(queue.number(), buffer.data(), buffer.size());
         if (length < 0 && errno == EINTR) {
             continue;
         }
         if (length <= 0) {
-            return changed;
+            return changes;
         }
         for (std::size_t offset = 0; offset < static_cast<std::size_t>(length);) {
             const auto *event = reinterpret_cast<const inotify_event *>(buffer.data() + offset);
-            changed |= concernsFolder(*event);
+            changes.concernFolder |= concernsFolder(*event);
+            changes.folderIsLost |= (event->mask & (IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT)) != 0;
             offset += sizeof(inotify_event) + event->len;
         }
     }
@@ -66,6 +74,7 @@ struct FolderWatch::State
     FileDescriptor queue;
     FileDescriptor ending;
     std::function<void()> onChange;
+    std::atomic<bool> hasLostFolder = false;
     bool hasEndedItself = false; ///< from within a report, which was the last one then
 };
 
@@ -83,8 +92,16 @@ tl::expected<std::unique_ptr<FolderWatch>, std::error_code> FolderWatch::open(co
             0) {
         return tl::unexpected(lastError());
     }
-    return std::unique_ptr<FolderWatch>(new FolderWatch(std::make_shared<State>(
-        State{.queue = std::move(queue), .ending = std::move(ending), .onChange = std::move(onChange)})));
+    auto state = std::make_shared<State>();
+    state->queue = std::move(queue);
+    state->ending = std::move(ending);
+    state->onChange = std::move(onChange);
+    return std::unique_ptr<FolderWatch>(new FolderWatch(std::move(state)));
+}
+
+bool FolderWatch::hasLostFolder() const
+{
+    return m_state->hasLostFolder;
 }
 
 bool FolderWatch::seesEveryChange(const QByteArray &path)
@@ -127,7 +144,11 @@ void FolderWatch::deliverReports(State &state)
             }
             return;
         }
-        if (drain(state.queue)) {
+        const Changes changes = drain(state.queue);
+        if (changes.folderIsLost) {
+            state.hasLostFolder = true;
+        }
+        if (changes.concernFolder) {
             state.onChange();
         }
         if (state.hasEndedItself || waiting[1].revents != 0) {

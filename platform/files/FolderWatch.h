@@ -23,6 +23,9 @@ public:
     /// Starts delivering, also what has happened since the watch was opened. Called once.
     void resume();
 
+    /// The watched folder was deleted, renamed or unmounted: nothing that now has its path is watched.
+    bool hasLostFolder() const;
+
     /// Whether the kernel sees every change of the folder. On file systems of other machines, and on those
     /// that a program serves, it sees only the changes that are made through it here.
     static bool seesEveryChange(const QByteArray &path);

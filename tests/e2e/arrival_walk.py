@@ -2,6 +2,7 @@
 
 import os
 import pathlib
+import shutil
 import subprocess
 import sys
 import unittest
@@ -16,6 +17,12 @@ UNWRITABLE = "The converted image could not be written."
 def size_of(path):
     """Width and height by an independent reader, which also reads every pixel."""
     return subprocess.check_output(["identify", "-format", "%w %h %[pixel:p{5,5}]", path], text=True).split()[:2]
+
+
+def is_watched(application, folder):
+    """Whether the kernel reports this folder's changes to the program."""
+    watch = f"inotify wd:1 ino:{folder.stat().st_ino:x} "
+    return any(watch in path.read_text() for path in pathlib.Path(f"/proc/{application.process.pid}/fdinfo").iterdir())
 
 
 class ArrivalWalk(unittest.TestCase):
@@ -65,6 +72,26 @@ class ArrivalWalk(unittest.TestCase):
                 self.assertEqual(everything_in(DOWNLOADS), ["Lumaport", "Lumaport/next.png", "big.heic", "next.heic"])
         finally:
             subprocess.run(["umount", DOWNLOADS], check=True)
+
+    def test_a_stalled_transfer_and_a_folder_that_goes_and_comes_back(self):
+        with Application(PROGRAM) as application:
+            whole = photo(HOME, "whole.heic", 640, 480).read_bytes()
+            with open(DOWNLOADS / "stalled.heic", "wb", buffering=0) as stalled:
+                stalled.write(whole[: len(whole) // 2])
+                for name in ["first.heic", "second.heic"]:  # each settles after the stalled one could have
+                    photo(DOWNLOADS, name)
+                    ready(name)
+                stalled.write(whole[len(whole) // 2 :])
+            ready("stalled.heic")
+            self.assertEqual([item["sourceName"] for item in history()], ["stalled.heic", "second.heic", "first.heic"])
+            shutil.rmtree(DOWNLOADS)
+            DOWNLOADS.mkdir()
+            photo(DOWNLOADS, "known.heic")
+            # Until the folder has been found again, photos count as those that it came back with.
+            wait_until(lambda: is_watched(application, DOWNLOADS), "the watch on the new folder")
+            photo(DOWNLOADS, "new.heic")
+            ready("new.heic")
+            self.assertEqual(history()[1]["sourceName"], "stalled.heic")
 
     def test_being_killed_leaves_no_part_and_the_next_start_works(self):
         with Application(PROGRAM) as application:

@@ -17,6 +17,13 @@ class WatchingTest : public QObject
     {
         return QFile::rename(m_fixture->path(from), m_fixture->path(to));
     }
+    /// Time goes by, and what lists the folder on a thread of its own comes back.
+    void look(std::chrono::milliseconds after)
+    {
+        const int scans = m_fixture->monitor->scans;
+        m_fixture->pass(after);
+        QTRY_VERIFY(m_fixture->monitor->scans > scans);
+    }
     /// The sources that the engine was given, in order.
     QStringList converted() const
     {
@@ -95,23 +102,64 @@ private Q_SLOTS:
         m_fixture->monitor->missesChanges = true;
         m_fixture->launch();
         m_fixture->write("a.heic");
-        m_fixture->pass(10s); // the scan that finds it
-        m_fixture->pass(850ms);
+        look(10s); // finds it
+        look(850ms);
         QCOMPARE(converted(), QStringList{"a.heic"});
 
         model().setIsWatching(false);
         QCOMPARE(m_fixture->jobs->waitingJobs(), 0);
         model().setIsWatching(true);
-        m_fixture->pass(100ms);
+        look(100ms);
+        QVERIFY(rename("", "../gone")); // does not answer once
+        look(9'900ms);
+        QVERIFY(QDir(m_fixture->home.path()).rename("gone", "Photos"));
         m_fixture->write("b.heic");
-        m_fixture->pass(9'900ms);
-        m_fixture->pass(850ms);
-        QCOMPARE(converted().size(), 2);
+        look(10s);
+        look(850ms);
+        QCOMPARE(converted(), (QStringList{"a.heic", "b.heic"}));
 
         m_fixture->monitor->missesChanges = false; // the next folder is one of this machine
         model().retryMonitoring();
         m_fixture->pass(100ms);
         QCOMPARE(m_fixture->jobs->waitingJobs(), 0);
+    }
+
+    void shouldWatchAgainWhatHasThePathOfALostFolder()
+    {
+        QDir folder(m_fixture->path(""));
+        QVERIFY(folder.removeRecursively());
+        m_fixture->monitor->lostFolder = true;
+        m_fixture->scan();
+        QCOMPARE(model().monitorTitle(), "Auto-convert: On");
+        look(10s);
+        QVERIFY(m_fixture->monitor->lostFolder);
+        QVERIFY(folder.mkpath("."));
+        m_fixture->write("other.heic");
+        look(10s);
+        QVERIFY(!m_fixture->monitor->lostFolder);
+        m_fixture->write("a.heic");
+        m_fixture->settle();
+        QCOMPARE(converted(), QStringList{"a.heic"});
+        QCOMPARE(m_fixture->jobs->waitingJobs(), 0); // it is not looked for any more
+    }
+
+    void shouldWaitUntilAStalledWriterHasClosedThePhoto()
+    {
+        QFile photo(m_fixture->path("a.heic"));
+        QVERIFY(photo.open(QFile::WriteOnly));
+        photo.write("half");
+        QVERIFY(photo.flush());
+        m_fixture->settle();
+        m_fixture->pass(850ms);
+        QVERIFY(converted().isEmpty());
+        photo.close();
+        m_fixture->pass(850ms);
+        QCOMPARE(converted(), QStringList{"a.heic"});
+        m_fixture->write("a.heic", 99); // another writer, while it is converted
+        m_fixture->engine->fail(ConversionError::unreadableImage);
+        m_fixture->pass(350ms);
+        m_fixture->pass(850ms);
+        QCOMPARE(converted(), QStringList{"a.heic"});
     }
 
     void shouldConvertAgainOnlyWhatChanged()

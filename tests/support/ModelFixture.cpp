@@ -23,6 +23,7 @@ void ManualEngine::end(const ConversionOutcome &outcome)
 bool ManualFolderMonitor::start(const QUrl &at, std::function<void()> onChange)
 {
     const bool isThere = QDir(at.toLocalFile()).exists();
+    lostFolder &= !isThere;
     report = isThere ? std::move(onChange) : nullptr;
     return isThere;
 }

@@ -48,9 +48,16 @@ struct ManualFolderMonitor : FolderMonitor
     bool start(const QUrl &at, std::function<void()> onChange) override;
     void stop() override { report = {}; }
     bool mayMissChanges() const override { return missesChanges; }
+    bool hasLostFolder() const override
+    {
+        ++scans;
+        return lostFolder;
+    }
 
     std::function<void()> report;
     bool missesChanges = false; ///< as on another machine's folder
+    bool lostFolder = false;    ///< until the next start
+    mutable int scans = 0;      ///< each asks once whether the folder is lost
 };
 
 /// Keeps every value for as long as the test lasts.
