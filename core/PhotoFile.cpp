@@ -3,6 +3,7 @@
 #include "PhotoFileName.h"
 
 #include <QFile>
+#include <QSysInfo>
 #include <QUrl>
 
 #include <cerrno>
@@ -13,6 +14,18 @@
 bool isPhotoFile(const QUrl &url)
 {
     return url.isLocalFile() && PhotoFileName::isHeic(url.fileName());
+}
+
+QUrl withoutOwnHost(const QUrl &url)
+{
+    const QString host = url.host();
+    const bool isOwn = host.compare(QLatin1String("localhost"), Qt::CaseInsensitive) == 0 ||
+                       host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
+    QUrl file = url;
+    if (url.isLocalFile() && isOwn) {
+        file.setHost(QString());
+    }
+    return file;
 }
 
 FileDescriptor openPhoto(const QUrl &file)

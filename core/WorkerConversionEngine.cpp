@@ -22,23 +22,13 @@ QString folderOf(const QUrl &file)
     return QFileInfo(file.toLocalFile()).path();
 }
 
-/// "name.ext", then "name 2.ext", "name 3.ext" and so on.
-QString numberedName(const QString &base, const QString &extension, int number)
-{
-    QString name = base;
-    if (number > 1) {
-        name += QLatin1Char(' ') + QString::number(number);
-    }
-    return extension.isEmpty() ? name : name + QLatin1Char('.') + extension;
-}
-
 /// The path of the first of these names that is free in `folder`.
 QString freePath(const QString &folder, const QString &base, const QString &extension)
 {
     int number = 1;
     QString path;
     do {
-        path = FileOperations::pathIn(folder, numberedName(base, extension, number));
+        path = FileOperations::pathIn(folder, PhotoFileName::numbered(base, extension, number));
         ++number;
     } while (FileOperations::exists(path));
     return path;

@@ -5,6 +5,7 @@
 #include "NotificationManager.h"
 #include "OpenPanel.h"
 #include "PhotoFile.h"
+#include "PhotoFileName.h"
 #include "WallClock.h"
 #include "Workspace.h"
 
@@ -23,7 +24,11 @@ constexpr auto failureShownFor = 6s;
 void AppModel::convertManually(const QList<QUrl> &urls)
 {
     QList<QUrl> photos;
-    std::copy_if(urls.begin(), urls.end(), std::back_inserter(photos), isPhotoFile);
+    for (const QUrl &url : urls) {
+        if (isPhotoFile(url)) {
+            photos.append(withoutOwnHost(url));
+        }
+    }
     if (photos.isEmpty()) {
         setLastEventText(tr("Drop HEIC or HEIF photos here"));
         return;
@@ -47,7 +52,7 @@ void AppModel::enqueue(const QList<QUrl> &urls)
         return;
     }
     trimAndSaveItems(); // once for all of a burst: each time may wait for the disk
-    setLastEventText(tr("%1 landed").arg(accepted.last().sourceName));
+    setLastEventText(tr("%1 landed").arg(PhotoFileName::shown(accepted.last().sourceName)));
     showStatus(ConversionStatus::queued);
     m_services.engine->prepare();
     QMetaObject::invokeMethod(
@@ -98,8 +103,8 @@ void AppModel::endConversion(const ConversionItem &accepted, const ConversionSet
             scheduleScan(changeDebounce);
         }
     }
-    setLastEventText(outcome ? tr("Ready: %1").arg(outcome->outputURL.fileName())
-                             : tr("Couldn’t convert %1").arg(accepted.sourceName));
+    setLastEventText(outcome ? tr("Ready: %1").arg(PhotoFileName::shown(outcome->outputURL.fileName()))
+                             : tr("Couldn’t convert %1").arg(PhotoFileName::shown(accepted.sourceName)));
     if (isBusy()) {
         showStatus(ConversionStatus::converting);
     } else if (outcome) {

@@ -6,6 +6,7 @@
 #include "JobScheduler.h"
 #include "OpenPanel.h"
 #include "PhotoFile.h"
+#include "PhotoFileName.h"
 
 #include <QSet>
 
@@ -29,7 +30,7 @@ void AppModel::startMonitoringFolder()
     });
     pollSilentFolder();
     if (!m_monitorAvailable) {
-        setLastEventText(tr("Couldn’t watch %1").arg(watchFolder().fileName()));
+        setLastEventText(tr("Couldn’t watch %1").arg(PhotoFileName::shown(watchFolder().fileName())));
     }
 }
 
@@ -184,7 +185,8 @@ void AppModel::chooseWatchFolder()
                                    setWatchFolder(chosen.first());
                                    seedKnownFiles();
                                    startMonitoringFolder();
-                                   setLastEventText(tr("Watching %1").arg(watchFolder().fileName()));
+                                   setLastEventText(
+                                       tr("Watching %1").arg(PhotoFileName::shown(watchFolder().fileName())));
                                });
 }
 
@@ -200,7 +202,8 @@ void AppModel::convertExistingFiles()
 {
     const QList<QUrl> files = heicFiles(m_watchFolder);
     if (files.isEmpty()) {
-        setLastEventText(tr("No HEIC photos found in %1").arg(watchFolder().fileName()));
+        setLastEventText(
+            tr("No HEIC photos found in %1").arg(PhotoFileName::shown(watchFolder().fileName())));
         return;
     }
     enqueue(files);
@@ -213,7 +216,8 @@ AppModel::MonitorTexts AppModel::monitorTexts() const
                 QStringLiteral("exclamationmark.triangle.fill")};
     }
     if (m_isWatching) {
-        return {tr("Auto-convert: On"), tr("Watching %1 for new HEIC photos.").arg(watchFolder().fileName()),
+        return {tr("Auto-convert: On"),
+                tr("Watching %1 for new HEIC photos.").arg(PhotoFileName::shown(watchFolder().fileName())),
                 QStringLiteral("checkmark.circle.fill")};
     }
     return {tr("Auto-convert: Paused"), tr("New arrivals won’t convert until you resume."),

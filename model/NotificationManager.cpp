@@ -1,6 +1,7 @@
 #include "NotificationManager.h"
 
 #include "NotificationCenter.h"
+#include "PhotoFileName.h"
 #include "Workspace.h"
 
 #include <QUuid>
@@ -38,7 +39,7 @@ void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
     m_center->add({.identifier = QStringLiteral("lumaport-ready-") +
                                  QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(),
                    .title = tr("Photo landed ready"),
-                   .subtitle = outputURL.fileName(),
+                   .subtitle = PhotoFileName::shown(outputURL.fileName()),
                    .body = tr("Converted locally. Click to reveal it in Finder."),
                    .categoryIdentifier = QStringLiteral("LUMAPORT_CONVERSION_READY"),
                    .action = {.identifier = showActionIdentifier, .title = tr("Show in Finder")},

@@ -22,6 +22,15 @@ void keepModeAndTimes(const struct stat &original, const FileDescriptor &copy)
     ::futimens(copy.number(), times.data());
 }
 
+/// This path leads to the same file, and its content has not changed.
+bool isStill(const QByteArray &path, const struct stat &before)
+{
+    struct stat now = {};
+    return ::lstat(path.constData(), &now) == 0 && now.st_dev == before.st_dev &&
+           now.st_ino == before.st_ino && now.st_size == before.st_size &&
+           now.st_mtim.tv_sec == before.st_mtim.tv_sec && now.st_mtim.tv_nsec == before.st_mtim.tv_nsec;
+}
+
 std::error_code moveAcrossFileSystems(const QString &from, const QString &to)
 {
     const QByteArray source = QFile::encodeName(from);
@@ -44,6 +53,17 @@ std::error_code moveAcrossFileSystems(const QString &from, const QString &to)
     // Once more: where no link could be made, the file of this name is a copy of the copy.
     const QByteArray target = QFile::encodeName(to);
     keepModeAndTimes(status, FileDescriptor(::open(target.constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC)));
+    auto error = SystemCalls::flush(target);
+    if (!error) {
+        error = SystemCalls::flush(QFile::encodeName(QFileInfo(to).path()));
+    }
+    if (!error && !isStill(source, status)) {
+        error = make_error_code(std::errc::text_file_busy);
+    }
+    if (error) {
+        ::unlink(target.constData());
+        return error;
+    }
     // The photo is whole in both places now, and stays so when this fails.
     return ::unlink(source.constData()) == 0 ? std::error_code() : SystemCalls::lastError();
 }

@@ -6,21 +6,16 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/sendfile.h>
+#include <unistd.h>
 
 namespace {
 
-/// For file systems that cannot rename without replacing: an empty file takes the name first, so that it is
-/// the only file that the rename can replace.
-std::error_code renameOverReservation(const QByteArray &from, const QByteArray &to)
+/// For file systems that cannot rename without replacing. A kill between the two steps leaves the file under
+/// both names, whole.
+std::error_code renameByLink(const QByteArray &from, const QByteArray &to)
 {
-    const FileDescriptor reservation(::open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-    if (!reservation.isOpen()) {
+    if (::link(from.constData(), to.constData()) != 0 || ::unlink(from.constData()) != 0) {
         return SystemCalls::lastError();
-    }
-    if (::rename(from.constData(), to.constData()) != 0) {
-        const auto error = SystemCalls::lastError();
-        ::unlink(to.constData());
-        return error;
     }
     return {};
 }
@@ -40,7 +35,7 @@ std::error_code renameWithoutReplacing(const QByteArray &from, const QByteArray 
         return {};
     }
     const bool isUnsupported = errno == EINVAL || errno == ENOSYS;
-    return isUnsupported ? renameOverReservation(from, to) : lastError();
+    return isUnsupported ? renameByLink(from, to) : lastError();
 }
 
 std::error_code copyContents(int from, int to)
@@ -59,6 +54,14 @@ std::error_code copyContents(int from, int to)
             return lastError();
         }
     }
+}
+
+std::error_code flush(const QByteArray &path)
+{
+    const FileDescriptor file(::open(path.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    // Some file systems do not flush folders.
+    return file.isOpen() && (::fsync(file.number()) == 0 || errno == EINVAL) ? std::error_code()
+                                                                             : lastError();
 }
 
 } // namespace SystemCalls

@@ -113,6 +113,11 @@ private Q_SLOTS:
         m_launcher->afterWriting = [this] { write("IMG_1 4.jpg", "quick"); };
         QCOMPARE(converted("IMG_1.HEIC", jpegBeside), "IMG_1 5.jpg");
         QCOMPARE(content("IMG_1.jpg") + ' ' + content("IMG_1 4.jpg"), "mine quick");
+
+        const QString longest(125, QChar(0xe9)); // with its extension 255 bytes
+        write(longest + ".heic");
+        write(longest + ".jpg", "mine");
+        QCOMPARE(converted(longest + ".heic", jpegBeside), longest.left(124) + " 2.jpg");
     }
 
     void shouldArchiveTheOriginalAfterItsCopyIsWritten()

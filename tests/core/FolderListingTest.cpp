@@ -46,7 +46,8 @@ private Q_SLOTS:
                                    "b.heic.part", "heic", ".heic", "c.heics", "über.heic", "zebra.HEIF"}) {
             writeFile(folder.filePath(name), "");
         }
-        const QByteArray latin1 = QFile::encodeName(folder.path()) + "/\xfc" "ber.heic";
+        const QByteArray latin1 = QFile::encodeName(folder.path()) + "/\xfc"
+                                                                     "ber.heic";
         FileDescriptor(::open(latin1.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
         QVERIFY(QDir(folder.path()).mkdir("sub.heic"));
         writeFile(folder.filePath("sub.heic/d.heic"), "");

@@ -134,7 +134,8 @@ private Q_SLOTS:
         QVERIFY(model().items().isEmpty() && !model().activeStatus());
 
         m_fixture->panel->answer = {remote, m_fixture->write("a.HEIC"), m_fixture->write("b.txt"),
-                                    m_fixture->url("a.HEIC")};
+                                    m_fixture->url("a.HEIC"),
+                                    QUrl("file://localhost" + m_fixture->path("a.HEIC"))};
         model().choosePhotos();
         QCOMPARE(m_fixture->panel->requests.last().prompt, "Convert photos");
         convertTurned({"a.HEIC"});

@@ -1,6 +1,7 @@
 #include "ArrivalsListController.h"
 
 #include "AppModelSingleton.h"
+#include "PhotoFileName.h"
 
 ArrivalsListController::ArrivalsListController(AppModel &model, QObject *parent)
     : QObject(parent)
@@ -23,7 +24,8 @@ bool ArrivalsListController::canClear() const
 
 QString ArrivalsListController::emptyHint() const
 {
-    return tr("AirDrop into %1, or choose a HEIC photo above.").arg(m_model.watchFolder().fileName());
+    return tr("AirDrop into %1, or choose a HEIC photo above.")
+        .arg(PhotoFileName::shown(m_model.watchFolder().fileName()));
 }
 
 void ArrivalsListController::reveal(int row)

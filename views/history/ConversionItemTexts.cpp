@@ -1,12 +1,14 @@
 #include "ConversionItemTexts.h"
 
+#include "PhotoFileName.h"
+
 #include <QCoreApplication>
 
 namespace ConversionItemTexts {
 
 QString displayName(const ConversionItem &item)
 {
-    return item.outputName.value_or(item.sourceName);
+    return PhotoFileName::shown(item.outputName.value_or(item.sourceName));
 }
 
 QUrl displayFile(const ConversionItem &item)

@@ -1,6 +1,7 @@
 #include "OptionsController.h"
 
 #include "AppModelSingleton.h"
+#include "PhotoFileName.h"
 
 #include <QCoreApplication>
 
@@ -60,7 +61,7 @@ void OptionsController::changeSettings(Change change)
 
 QString OptionsController::watchFolderName() const
 {
-    return m_model.watchFolder().fileName();
+    return PhotoFileName::shown(m_model.watchFolder().fileName());
 }
 
 QString OptionsController::watchFolderPath() const

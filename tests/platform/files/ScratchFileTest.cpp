@@ -174,6 +174,19 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(here("photo")));
     }
 
+    void shouldNotMoveAnOriginalThatChangesMeanwhile()
+    {
+        makeFolders("/dev/shm", true);
+        if (!m_there->isValid() || statusOf(there()).st_dev == statusOf(here()).st_dev) {
+            QSKIP("there is no second file system to write to");
+        }
+        put(here("photo"), "half");
+        whenPartHasOpened = [this] { put(here("photo"), "whole photo"); };
+        QVERIFY(FileOperations::move(here("photo"), there("photo")) == std::errc::text_file_busy);
+        QCOMPARE(content(here("photo")), "whole photo");
+        QCOMPARE(fileCount(there()), 0);
+    }
+
     void shouldLeaveAFileAloneThatAnotherProcessHasJustFinished()
     {
         makeFolders("/dev/shm", true);

@@ -66,6 +66,8 @@ private Q_SLOTS:
         QVERIFY(!changes.contains("reset"));
         QCOMPARE(show({items[3], items[1], items[5]}), "cae");
         QCOMPARE(show({}), "");
+        QCOMPARE(show({photo("two\nlines"), photo(u"\u05d0.heic"_qs)}),
+                 u"two lines\u2068\u05d0.heic\u2069"_qs);
     }
 
     void shouldShowEachStateWithItsSymbolTextAndAction_data()
