@@ -1,5 +1,6 @@
 #include "ThumbnailStore.h"
 
+#include "ConversionActivity.h"
 #include "FakeImageWorkerLauncher.h"
 #include "WriteFile.h"
 
@@ -86,6 +87,23 @@ private Q_SLOTS:
         m_launcher->gate.release(6);
         QTRY_COMPARE(m_answered, 6);
         QCOMPARE(m_launcher->mostRunning.load(), 2);
+    }
+
+    void shouldWaitForConversionsButNotForEver()
+    {
+        m_store.emplace(m_launcher, std::chrono::hours(1));
+        ThumbnailStore impatient(m_launcher, std::chrono::milliseconds(0));
+        auto conversion = std::make_optional<ConversionActivity>();
+        int beside = 0;
+        const auto other = impatient.image(write("beside.heic"), [&](const QImage &) { ++beside; });
+        QTRY_COMPARE(beside, 1);
+        const auto request = m_store->image(write("after.heic"), [this](const QImage &) { ++m_answered; });
+        const auto more = impatient.image(QUrl("file:///missing.heic"), [&](const QImage &) { ++beside; });
+        QCoreApplication::processEvents();
+        QCOMPARE(m_launcher->launched.load(), 1);
+        conversion.reset();
+        QTRY_COMPARE(m_answered, 1);
+        QTRY_COMPARE(beside, 2);
     }
 
     void shouldNotReadWhatWasGivenUpBeforeItsTurn()

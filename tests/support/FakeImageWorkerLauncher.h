@@ -3,7 +3,6 @@
 #include "ImageWorker.h"
 #include "ImageWorkerLauncher.h"
 
-#include <QBuffer>
 #include <QColor>
 #include <QFile>
 #include <QImage>
@@ -78,16 +77,14 @@ private:
             return {};
         }
 
-        tl::expected<QByteArray, ImageWorkerFault> thumbnail(int maximumSide) override
+        tl::expected<QImage, ImageWorkerFault> thumbnail(int maximumSide) override
         {
             QImage image(maximumSide, maximumSide * 3 / 4, QImage::Format_RGB32);
             QLinearGradient colours(0, 0, 0, image.height());
             colours.setColorAt(0, top);
             colours.setColorAt(1, bottom);
             QPainter(&image).fillRect(image.rect(), colours);
-            QBuffer png;
-            image.save(&png, "PNG");
-            return png.data();
+            return image;
         }
 
         FakeImageWorkerLauncher &launcher;
