@@ -42,6 +42,7 @@ ThumbnailStore::ThumbnailStore(std::shared_ptr<ImageWorkerLauncher> launcher,
     , m_launcher(std::move(launcher))
     , m_longestWait(longestWait)
 {
+    ConversionActivity::addPreviews(m_launcher);
     m_readers.setMaxThreadCount(maximumReaders);
     m_readers.setThreadPriority(QThread::LowPriority);
 }

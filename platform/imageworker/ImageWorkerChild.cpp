@@ -99,7 +99,7 @@ FileDescriptor ImageWorkerChild::requestWorker() const
     return isSent ? std::move(ends.ours) : FileDescriptor();
 }
 
-tl::expected<std::unique_ptr<ImageWorkerChild>, ImageWorkerChild::StartFailure>
+tl::expected<std::shared_ptr<ImageWorkerChild>, ImageWorkerChild::StartFailure>
 ImageWorkerChild::receiveWorker(FileDescriptor socket, std::chrono::milliseconds limit)
 {
     if (!awaitMessage(socket, limit)) {
@@ -109,7 +109,7 @@ ImageWorkerChild::receiveWorker(FileDescriptor socket, std::chrono::milliseconds
     if (!started) {
         return tl::unexpected(StartFailure::Refused);
     }
-    auto worker = std::make_unique<ImageWorkerChild>(std::move(started->descriptor), std::move(socket));
+    auto worker = std::make_shared<ImageWorkerChild>(std::move(started->descriptor), std::move(socket));
     if (!awaitMessage(worker->socket(), limit)) {
         return tl::unexpected(StartFailure::TimedOut);
     }
@@ -143,9 +143,14 @@ std::optional<Reply> ImageWorkerChild::receiveReply(std::chrono::milliseconds li
     return reply;
 }
 
+void ImageWorkerChild::signal(int number) const
+{
+    ::syscall(SYS_pidfd_send_signal, m_process.number(), number, nullptr, 0);
+}
+
 void ImageWorkerChild::kill() const
 {
-    ::syscall(SYS_pidfd_send_signal, m_process.number(), SIGKILL, nullptr, 0);
+    signal(SIGKILL);
     pollfd exit = {m_process.number(), POLLIN, 0};
     while (::poll(&exit, 1, -1) < 0 && errno == EINTR) {
     }

@@ -31,13 +31,14 @@ public:
     enum class StartFailure { Refused, TimedOut };
     /// Waits for the first messages of the worker behind `socket`, for each at most `limit`. Refused when it
     /// has exited or is not locked down.
-    static tl::expected<std::unique_ptr<ImageWorkerChild>, StartFailure>
+    static tl::expected<std::shared_ptr<ImageWorkerChild>, StartFailure>
     receiveWorker(FileDescriptor socket, std::chrono::milliseconds limit);
 
     bool isRunning() const;
     const FileDescriptor &socket() const { return m_socket; }
     /// Waits for the next reply; none when something else comes, or nothing within `limit`.
     std::optional<imageworkerwire::Reply> receiveReply(std::chrono::milliseconds limit) const;
+    void signal(int number) const;
     /// Kills the process and waits until it has exited: its files are closed then.
     void kill() const;
 

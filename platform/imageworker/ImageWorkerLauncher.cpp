@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <csignal>
 #include <mutex>
 #include <vector>
 
@@ -37,6 +38,7 @@ public:
             }
             auto worker = ImageWorkerChild::receiveWorker(std::move(requested.socket), m_limits.start);
             if (worker && (*worker)->isRunning()) {
+                addRunning(*worker);
                 return std::make_unique<ImageWorkerProcess>(std::move(requested.forkServer),
                                                             std::move(*worker), m_limits);
             }
@@ -52,6 +54,9 @@ public:
         const std::lock_guard lock(m_mutex);
         requestWorker();
     }
+
+    void pause() override { setPaused(true); }
+    void resume() override { setPaused(false); }
 
     void endAll() override { killForkServers(); }
 
@@ -70,6 +75,30 @@ private:
         }
         m_forkServer.reset();
         m_requested = {};
+    }
+
+    void setPaused(bool isPaused)
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_isPaused == isPaused) {
+            return;
+        }
+        m_isPaused = isPaused;
+        for (const auto &each : m_running) {
+            if (const auto worker = each.lock()) {
+                worker->signal(isPaused ? SIGSTOP : SIGCONT);
+            }
+        }
+    }
+
+    void addRunning(const std::shared_ptr<ImageWorkerChild> &worker)
+    {
+        const std::lock_guard lock(m_mutex);
+        std::erase_if(m_running, [](const auto &each) { return each.expired(); });
+        m_running.push_back(worker);
+        if (m_isPaused) {
+            worker->signal(SIGSTOP);
+        }
     }
 
     struct RequestedWorker
@@ -121,7 +150,9 @@ private:
     bool m_hasEnded = false;
     std::shared_ptr<ImageWorkerChild> m_forkServer;
     std::vector<std::weak_ptr<ImageWorkerChild>> m_replaced; ///< fork servers that did not answer
-    RequestedWorker m_requested;                             ///< one that nobody has taken yet
+    bool m_isPaused = false;
+    std::vector<std::weak_ptr<ImageWorkerChild>> m_running; ///< workers, not fork servers
+    RequestedWorker m_requested;                            ///< one that nobody has taken yet
 };
 
 /// Beside the application as it is built; in the folder for helpers once installed.

@@ -12,7 +12,7 @@ class ImageWorkerProcess : public ImageWorker
 {
 public:
     /// `worker` is locked down, or null when none could be had. It lives no longer than `forkServer`.
-    ImageWorkerProcess(std::shared_ptr<ImageWorkerChild> forkServer, std::unique_ptr<ImageWorkerChild> worker,
+    ImageWorkerProcess(std::shared_ptr<ImageWorkerChild> forkServer, std::shared_ptr<ImageWorkerChild> worker,
                        ImageWorkerLimits limits)
         : m_forkServer(std::move(forkServer))
         , m_worker(std::move(worker))
@@ -36,7 +36,7 @@ private:
     bool isPlausible(const FileDescriptor &output, OutputFormat format) const;
 
     std::shared_ptr<ImageWorkerChild> m_forkServer; ///< kept alive for m_worker
-    std::unique_ptr<ImageWorkerChild> m_worker;     ///< null when it could not be had or has been killed
+    std::shared_ptr<ImageWorkerChild> m_worker;     ///< null when it could not be had or has been killed
     ImageWorkerLimits m_limits;
     std::int64_t m_sourceBytes = 0;
     QSize m_size; ///< of the upright picture

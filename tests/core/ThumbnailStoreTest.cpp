@@ -93,7 +93,11 @@ private Q_SLOTS:
     {
         m_store.emplace(m_launcher, std::chrono::hours(1));
         ThumbnailStore impatient(m_launcher, std::chrono::milliseconds(0));
+        auto first = std::make_optional<ConversionActivity>();
+        QVERIFY(m_launcher->isPaused);
         auto conversion = std::make_optional<ConversionActivity>();
+        first.reset();
+        QVERIFY(!m_launcher->isPaused); // those under way go on beside the second
         int beside = 0;
         const auto other = impatient.image(write("beside.heic"), [&](const QImage &) { ++beside; });
         QTRY_COMPARE(beside, 1);

@@ -21,11 +21,14 @@ class FakeImageWorkerLauncher : public ImageWorkerLauncher
 public:
     std::unique_ptr<ImageWorker> launch() override { return std::make_unique<Worker>(*this); }
     void prepare() override {}
+    void pause() override { isPaused = true; }
+    void resume() override { isPaused = false; }
     void endAll() override { gate.release(1000); }
 
     void hold() { m_holds = true; }
 
     QSemaphore gate; ///< each release lets one held worker go on
+    std::atomic<bool> isPaused = false;
     std::atomic<int> launched = 0;
     std::atomic<int> running = 0;
     std::atomic<int> mostRunning = 0;

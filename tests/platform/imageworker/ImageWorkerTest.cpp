@@ -170,6 +170,21 @@ private Q_SLOTS:
         QVERIFY(memory.rlim_max >= 250 * Mebibyte && memory.rlim_max < (330 + 16 * threads) * Mebibyte);
     }
 
+    void shouldStopWorkersUntilTheyMayGoOn()
+    {
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(IMAGE_WORKER), {});
+        const auto stateOf = [](qsizetype index) {
+            const int forkServer = childrenOf(::getpid()).first();
+            return contentOf(childrenOf(forkServer).value(index), "stat").split(' ').value(2);
+        };
+        const auto before = launcher->launch();
+        launcher->pause();
+        const auto after = launcher->launch();
+        QTRY_COMPARE(stateOf(0) + stateOf(1), "TT");
+        launcher->resume();
+        QVERIFY(before->open(fileHolding(pngOf({8, 8}))) && after->open(fileHolding(pngOf({8, 8}))));
+    }
+
     void shouldKeepWorkersOfAForkServerThatStalls()
     {
         const auto launcher = ImageWorkerLauncher::create(QStringLiteral(IMAGE_WORKER), ShortToStart);
