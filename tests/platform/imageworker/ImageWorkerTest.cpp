@@ -140,7 +140,7 @@ private Q_SLOTS:
 
     void shouldTrustNoAnswer_data()
     {
-        addNames("png-for-jpeg empty-copy huge-copy wide-preview flat-preview grown-preview");
+        addNames("png-for-jpeg empty-copy huge-copy wide-preview negative-preview grown-preview");
     }
     void shouldTrustNoAnswer()
     {

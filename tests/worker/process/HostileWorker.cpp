@@ -184,7 +184,7 @@ const std::map<std::string_view, bool (*)(int source)> actions = {
     {"empty-copy", [](int) { return writesCopy("", 0); }},
     {"huge-copy", [](int) { return writesCopy("\xFF\xD8\xFF", 3'000'000); }},
     {"wide-preview", [](int) { return claimsPreview(241, 1); }},
-    {"flat-preview", [](int) { return claimsPreview(240, 0); }},
+    {"negative-preview", [](int) { return claimsPreview(-1, -1); }},
     {"grown-preview", [](int) { return growsPreview(); }},
     {"endless-write", [](int) { return writesWithoutEnd(); }},
     // For the worker without a call filter: Landlock's error.
