@@ -1,5 +1,6 @@
 #include "ThumbnailStore.h"
 
+#include "ConversionActivity.h"
 #include "ImageWorker.h"
 #include "ImageWorkerLauncher.h"
 #include "PhotoFile.h"
@@ -14,7 +15,7 @@ constexpr int maximumReaders = 2;
 
 ThumbnailStore *replacement = nullptr;
 
-QByteArray readThumbnail(ImageWorkerLauncher &launcher, const QUrl &url)
+QImage readThumbnail(ImageWorkerLauncher &launcher, const QUrl &url)
 {
     const FileDescriptor photo = openPhoto(url);
     if (!photo.isOpen()) {
@@ -24,7 +25,7 @@ QByteArray readThumbnail(ImageWorkerLauncher &launcher, const QUrl &url)
     if (!worker->open(photo)) {
         return {};
     }
-    return worker->thumbnail(ThumbnailStore::maximumSide).value_or(QByteArray());
+    return worker->thumbnail(ThumbnailStore::maximumSide).value_or(QImage());
 }
 
 } // namespace
@@ -35,10 +36,13 @@ ThumbnailRequest::ThumbnailRequest(Answer answer)
 
 ThumbnailRequest::~ThumbnailRequest() = default;
 
-ThumbnailStore::ThumbnailStore(std::shared_ptr<ImageWorkerLauncher> launcher)
+ThumbnailStore::ThumbnailStore(std::shared_ptr<ImageWorkerLauncher> launcher,
+                               std::chrono::milliseconds longestWait)
     : m_cache(maximumCount)
     , m_launcher(std::move(launcher))
+    , m_longestWait(longestWait)
 {
+    ConversionActivity::addPreviews(m_launcher);
     m_readers.setMaxThreadCount(maximumReaders);
     m_readers.setThreadPriority(QThread::LowPriority);
 }
@@ -78,21 +82,21 @@ std::unique_ptr<ThumbnailRequest> ThumbnailStore::image(const QUrl &url, Thumbna
         if (waiting.expired()) {
             return; // cancelled before its turn
         }
-        const QByteArray png = readThumbnail(*m_launcher, url);
+        ConversionActivity::awaitNone(m_longestWait);
+        const QImage image = readThumbnail(*m_launcher, url);
         QMetaObject::invokeMethod(
-            this, [this, url, waiting, png] { finish(url, waiting, png); }, Qt::QueuedConnection);
+            this, [this, url, waiting, image] { finish(url, waiting, image); }, Qt::QueuedConnection);
     });
     return request;
 }
 
 void ThumbnailStore::finish(const QUrl &url, const std::weak_ptr<ThumbnailRequest::Answer> &waiting,
-                            const QByteArray &png)
+                            const QImage &image)
 {
     const std::shared_ptr<ThumbnailRequest::Answer> answer = waiting.lock();
     if (!answer) {
         return;
     }
-    const QImage image = QImage::fromData(png, "PNG");
     if (!image.isNull()) {
         m_cache.insert(url, new QImage(image));
     }

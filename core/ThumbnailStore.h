@@ -6,6 +6,7 @@
 #include <QThreadPool>
 #include <QUrl>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -29,8 +30,7 @@ private:
 
 /// Small pictures of photo files. The most recent are kept in memory.
 ///
-/// Used on the main thread. Image workers decode the photos, two at a time at most. Only the small PNG that
-/// comes back is decoded on the main thread.
+/// Used on the main thread. Image workers decode the photos, two at a time at most.
 class ThumbnailStore : public QObject
 {
     Q_OBJECT
@@ -39,7 +39,9 @@ public:
     /// The longer side of a thumbnail, in pixels, at most.
     static constexpr int maximumSide = 240;
 
-    explicit ThumbnailStore(std::shared_ptr<ImageWorkerLauncher> launcher);
+    /// A thumbnail waits for conversions under way, for `longestWait` at most.
+    explicit ThumbnailStore(std::shared_ptr<ImageWorkerLauncher> launcher,
+                            std::chrono::milliseconds longestWait = std::chrono::seconds(3));
     /// Ends the workers under way and drops what waits.
     ~ThumbnailStore() override;
 
@@ -54,10 +56,10 @@ public:
     [[nodiscard]] std::unique_ptr<ThumbnailRequest> image(const QUrl &url, ThumbnailRequest::Answer answer);
 
 private:
-    void finish(const QUrl &url, const std::weak_ptr<ThumbnailRequest::Answer> &waiting,
-                const QByteArray &png);
+    void finish(const QUrl &url, const std::weak_ptr<ThumbnailRequest::Answer> &waiting, const QImage &image);
 
     QCache<QUrl, QImage> m_cache;
     std::shared_ptr<ImageWorkerLauncher> m_launcher;
+    std::chrono::milliseconds m_longestWait;
     QThreadPool m_readers;
 };

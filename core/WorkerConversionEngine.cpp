@@ -1,5 +1,6 @@
 #include "WorkerConversionEngine.h"
 
+#include "ConversionActivity.h"
 #include "FileOperations.h"
 #include "ImageWorker.h"
 #include "ImageWorkerLauncher.h"
@@ -121,7 +122,10 @@ void WorkerConversionEngine::convert(const QUrl &sourceURL, const ConversionSett
                                      QObject *receiver, std::function<void(const ConversionOutcome &)> done)
 {
     ++m_waiting;
-    m_executor.start([this, sourceURL, settings, receiver = QPointer(receiver), done = std::move(done)] {
+    // Ends with the job, also when that is dropped.
+    auto activity = std::make_shared<ConversionActivity>();
+    m_executor.start([this, activity = std::move(activity), sourceURL, settings,
+                      receiver = QPointer(receiver), done = std::move(done)] {
         --m_waiting;
         const ConversionOutcome outcome = convertNow(sourceURL, settings);
         QMetaObject::invokeMethod(

@@ -11,7 +11,8 @@
 class ScratchFile
 {
 public:
-    /// A nameless file on the file system of `folder`; where that cannot have one, among the temporary files.
+    /// A nameless file on the file system of `folder`; where that cannot have one, among the temporary files
+    /// on a disk. `std::errc::no_space_on_device` when the file system has no more than its reserve left.
     static tl::expected<ScratchFile, std::error_code> create(const QString &folder);
 
     /// Open for reading and writing.

@@ -1,7 +1,6 @@
 #include "ImageWorkerChild.h"
 
 #include "DescriptorMessage.h"
-#include "ImageWorkerWire.h"
 
 #include <QDeadlineTimer>
 #include <QFile>
@@ -57,9 +56,21 @@ struct SocketPair
     }
 };
 
+/// Waits for a message or the other end's exit; false when neither comes within `limit`.
+bool awaitMessage(const FileDescriptor &socket, std::chrono::milliseconds limit)
+{
+    const QDeadlineTimer deadline(limit);
+    pollfd message = {socket.number(), POLLIN, 0};
+    int ready = 0;
+    do {
+        ready = ::poll(&message, 1, static_cast<int>(deadline.remainingTime()));
+    } while (ready < 0 && errno == EINTR);
+    return ready > 0;
+}
+
 } // namespace
 
-std::unique_ptr<ImageWorkerChild> ImageWorkerChild::startForkServer(const QString &program)
+std::shared_ptr<ImageWorkerChild> ImageWorkerChild::startForkServer(const QString &program)
 {
     SocketPair ends = SocketPair::create();
     SpawnActions actions;
@@ -78,7 +89,7 @@ std::unique_ptr<ImageWorkerChild> ImageWorkerChild::startForkServer(const QStrin
         ::waitpid(identifier, nullptr, 0);
         return nullptr;
     }
-    return std::make_unique<ImageWorkerChild>(std::move(process), std::move(ends.ours));
+    return std::make_shared<ImageWorkerChild>(std::move(process), std::move(ends.ours));
 }
 
 FileDescriptor ImageWorkerChild::requestWorker() const
@@ -88,21 +99,30 @@ FileDescriptor ImageWorkerChild::requestWorker() const
     return isSent ? std::move(ends.ours) : FileDescriptor();
 }
 
-std::unique_ptr<ImageWorkerChild> ImageWorkerChild::receiveWorker(FileDescriptor socket)
+tl::expected<std::shared_ptr<ImageWorkerChild>, ImageWorkerChild::StartFailure>
+ImageWorkerChild::receiveWorker(FileDescriptor socket, std::chrono::milliseconds limit)
 {
-    auto first = receiveWithDescriptor<Reply>(socket.number());
-    if (!first || first->record.fault != NoFault) {
-        return nullptr;
+    if (!awaitMessage(socket, limit)) {
+        return tl::unexpected(StartFailure::TimedOut);
     }
-    return std::make_unique<ImageWorkerChild>(std::move(first->descriptor), std::move(socket));
+    auto started = receiveWithDescriptor<WorkerStarted>(socket.number());
+    if (!started) {
+        return tl::unexpected(StartFailure::Refused);
+    }
+    auto worker = std::make_shared<ImageWorkerChild>(std::move(started->descriptor), std::move(socket));
+    if (!awaitMessage(worker->socket(), limit)) {
+        return tl::unexpected(StartFailure::TimedOut);
+    }
+    const auto reply = worker->receiveReply(limit);
+    if (!reply || reply->fault != NoFault) {
+        return tl::unexpected(StartFailure::Refused);
+    }
+    return worker;
 }
 
 ImageWorkerChild::~ImageWorkerChild()
 {
-    ::syscall(SYS_pidfd_send_signal, m_process.number(), SIGKILL, nullptr, 0);
-    pollfd exit = {m_process.number(), POLLIN, 0};
-    while (::poll(&exit, 1, -1) < 0 && errno == EINTR) { // its files are closed by then
-    }
+    kill();
     // Reaps the fork server. A worker is no child of this process; the fork server reaps it.
     ::waitid(P_PIDFD, static_cast<id_t>(m_process.number()), nullptr, WEXITED | WNOHANG);
 }
@@ -113,13 +133,25 @@ bool ImageWorkerChild::isRunning() const
     return ::poll(&exit, 1, 0) == 0;
 }
 
-bool ImageWorkerChild::awaitMessage(const FileDescriptor &socket, std::chrono::milliseconds limit)
+std::optional<Reply> ImageWorkerChild::receiveReply(std::chrono::milliseconds limit) const
 {
-    const QDeadlineTimer deadline(limit);
-    pollfd message = {socket.number(), POLLIN, 0};
-    int ready = 0;
-    do {
-        ready = ::poll(&message, 1, static_cast<int>(deadline.remainingTime()));
-    } while (ready < 0 && errno == EINTR);
-    return ready > 0;
+    Reply reply;
+    if (!awaitMessage(m_socket, limit) || ::recv(m_socket.number(), &reply, sizeof(reply),
+                                                 MSG_DONTWAIT | MSG_TRUNC) != ssize_t{sizeof(reply)}) {
+        return std::nullopt;
+    }
+    return reply;
+}
+
+void ImageWorkerChild::signal(int number) const
+{
+    ::syscall(SYS_pidfd_send_signal, m_process.number(), number, nullptr, 0);
+}
+
+void ImageWorkerChild::kill() const
+{
+    signal(SIGKILL);
+    pollfd exit = {m_process.number(), POLLIN, 0};
+    while (::poll(&exit, 1, -1) < 0 && errno == EINTR) {
+    }
 }

@@ -19,6 +19,9 @@ public:
     virtual std::unique_ptr<ImageWorker> launch() = 0;
     /// Requests a worker ahead of need, unless one is requested already. Returns at once.
     virtual void prepare() = 0;
+    /// Stops every worker where it is, also those launched later, until resume(). Their time goes on.
+    virtual void pause() = 0;
+    virtual void resume() = 0;
     /// Kills every worker at once, also while a thread waits for it. Workers launched later fail.
     virtual void endAll() = 0;
 

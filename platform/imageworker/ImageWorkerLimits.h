@@ -8,7 +8,6 @@ struct ImageWorkerLimits
 {
     /// Of one picture. Twice what the largest phone sensors write.
     static constexpr std::int32_t maximumPixels = 300'000'000;
-    static constexpr std::int64_t maximumThumbnailBytes = 4LL * 1024 * 1024;
 
     std::chrono::milliseconds start{15'000};
     std::chrono::milliseconds open{15'000};

@@ -2,6 +2,8 @@
 
 #include "DescriptorMessage.h"
 
+#include <algorithm>
+#include <fcntl.h>
 #include <optional>
 #include <sys/mman.h>
 #include <sys/stat.h>
@@ -10,14 +12,37 @@ using namespace imageworkerwire;
 
 namespace {
 
-std::optional<Reply> receiveReply(const FileDescriptor &socket, std::chrono::milliseconds limit)
+std::int64_t bytesOf(const FileDescriptor &file)
 {
-    Reply reply;
-    if (!ImageWorkerChild::awaitMessage(socket, limit) ||
-        ::recv(socket.number(), &reply, sizeof(reply), MSG_DONTWAIT | MSG_TRUNC) != ssize_t{sizeof(reply)}) {
-        return std::nullopt;
-    }
-    return reply;
+    struct stat status = {};
+    return ::fstat(file.number(), &status) == 0 ? status.st_size : -1;
+}
+
+QByteArray read(const FileDescriptor &file, std::int64_t length)
+{
+    QByteArray bytes(length, Qt::Uninitialized);
+    const ssize_t count = ::pread(file.number(), bytes.data(), static_cast<std::size_t>(length), 0);
+    return count == length ? bytes : QByteArray();
+}
+
+/// A file in memory whose size nobody can change; not open when there can be none.
+FileDescriptor memoryOf(std::int64_t bytes)
+{
+    FileDescriptor memory(::memfd_create("thumbnail", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+    constexpr int FixedSize = F_SEAL_GROW | F_SEAL_SHRINK | F_SEAL_SEAL;
+    const bool isFixed =
+        ::ftruncate(memory.number(), bytes) == 0 && ::fcntl(memory.number(), F_ADD_SEALS, FixedSize) == 0;
+    return isFixed ? std::move(memory) : FileDescriptor();
+}
+
+QSize announcedSize(const Reply &reply)
+{
+    return {reply.width, reply.height};
+}
+
+std::int64_t pixelsOf(QSize size)
+{
+    return std::int64_t{size.width()} * size.height();
 }
 
 tl::unexpected<ImageWorkerFault> failed(ImageWorkerFault fault)
@@ -31,7 +56,7 @@ tl::expected<Reply, ImageWorkerFault>
 ImageWorkerProcess::ask(const Request &request, const FileDescriptor &file, std::chrono::milliseconds limit)
 {
     const bool isSent = m_worker && sendWithDescriptor(m_worker->socket().number(), request, file.number());
-    const std::optional<Reply> reply = isSent ? receiveReply(m_worker->socket(), limit) : std::nullopt;
+    const std::optional<Reply> reply = isSent ? m_worker->receiveReply(limit) : std::nullopt;
     if (!reply) {
         m_worker.reset();
         return failed(ImageWorkerFault::Unreadable);
@@ -52,11 +77,12 @@ tl::expected<void, ImageWorkerFault> ImageWorkerProcess::open(const FileDescript
     if (!reply) {
         return failed(reply.error());
     }
-    if (reply->pixels <= 0 || reply->pixels > ImageWorkerLimits::maximumPixels) {
+    m_size = announcedSize(*reply);
+    if (m_size.isEmpty() || pixelsOf(m_size) > ImageWorkerLimits::maximumPixels) {
         m_worker.reset();
         return failed(ImageWorkerFault::Unreadable);
     }
-    m_pixels = reply->pixels;
+    m_sourceBytes = bytesOf(source);
     return {};
 }
 
@@ -64,31 +90,55 @@ tl::expected<void, ImageWorkerFault> ImageWorkerProcess::write(const FileDescrip
                                                                OutputFormat format, double jpegQuality)
 {
     const Request request = {.kind = RequestKind::Write, .format = format, .jpegQuality = jpegQuality};
-    return ask(request, output, writeLimit()).map([](const Reply & /*done*/) {});
+    const auto reply = ask(request, output, writeLimit());
+    m_worker.reset();
+    if (!reply) {
+        return failed(reply.error());
+    }
+    return isPlausible(output, format) ? tl::expected<void, ImageWorkerFault>()
+                                       : failed(ImageWorkerFault::Unreadable);
 }
 
-tl::expected<QByteArray, ImageWorkerFault> ImageWorkerProcess::thumbnail(int maximumSide)
+tl::expected<QImage, ImageWorkerFault> ImageWorkerProcess::thumbnail(int maximumSide)
 {
-    const FileDescriptor picture(::memfd_create("thumbnail", MFD_CLOEXEC));
+    constexpr std::int64_t PixelBytes = 4;
+    const FileDescriptor picture = memoryOf(PixelBytes * maximumSide * maximumSide);
     const auto reply =
         ask({.kind = RequestKind::Thumbnail, .maximumSide = maximumSide}, picture, writeLimit());
     if (!reply) {
         return failed(reply.error());
     }
-    struct stat status = {};
-    if (::fstat(picture.number(), &status) != 0 || status.st_size <= 0 ||
-        status.st_size > ImageWorkerLimits::maximumThumbnailBytes) {
+    const QSize size = announcedSize(*reply);
+    if (size.isEmpty() || std::max(size.width(), size.height()) > maximumSide) {
+        m_worker.reset();
         return failed(ImageWorkerFault::Unreadable);
     }
-    QByteArray bytes(static_cast<qsizetype>(status.st_size), Qt::Uninitialized);
-    if (::pread(picture.number(), bytes.data(), static_cast<std::size_t>(bytes.size()), 0) != bytes.size()) {
+    const QByteArray pixels = read(picture, PixelBytes * pixelsOf(size));
+    if (pixels.isEmpty()) {
         return failed(ImageWorkerFault::Unreadable);
     }
-    return bytes;
+    return QImage(reinterpret_cast<const uchar *>(pixels.constData()), size.width(), size.height(),
+                  PixelBytes * size.width(), QImage::Format_RGBA8888)
+        .convertToFormat(QImage::Format_ARGB32_Premultiplied); // what painting takes; a copy of its own
 }
 
 std::chrono::milliseconds ImageWorkerProcess::writeLimit() const
 {
     constexpr int Megapixel = 1'000'000;
-    return m_limits.write + m_limits.perMegapixel * (m_pixels / Megapixel);
+    return m_limits.write + m_limits.perMegapixel * (pixelsOf(m_size) / Megapixel);
+}
+
+bool ImageWorkerProcess::isPlausible(const FileDescriptor &output, OutputFormat format) const
+{
+    // Encoders work on blocks of up to 16 pixels square. Noise at the best quality takes up to five bytes for
+    // each pixel; metadata come from the source.
+    constexpr std::int64_t BytesOfPixel = 6;
+    constexpr std::int64_t Headers = std::int64_t{1} << 20;
+    constexpr int Block = 16;
+    const auto padded = [](std::int64_t side) { return (side + Block - 1) / Block * Block; };
+    const std::int64_t most =
+        BytesOfPixel * padded(m_size.width()) * padded(m_size.height()) + m_sourceBytes + Headers;
+    const QByteArray start = format == OutputFormat::png ? QByteArrayLiteral("\x89PNG\r\n\x1A\n")
+                                                         : QByteArrayLiteral("\xFF\xD8\xFF");
+    return read(output, start.size()) == start && bytesOf(output) <= most;
 }

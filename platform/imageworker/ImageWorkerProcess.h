@@ -11,16 +11,18 @@
 class ImageWorkerProcess : public ImageWorker
 {
 public:
-    /// `worker` is locked down, or null when none could be had.
-    ImageWorkerProcess(std::unique_ptr<ImageWorkerChild> worker, ImageWorkerLimits limits)
-        : m_worker(std::move(worker))
+    /// `worker` is locked down, or null when none could be had. It lives no longer than `forkServer`.
+    ImageWorkerProcess(std::shared_ptr<ImageWorkerChild> forkServer, std::shared_ptr<ImageWorkerChild> worker,
+                       ImageWorkerLimits limits)
+        : m_forkServer(std::move(forkServer))
+        , m_worker(std::move(worker))
         , m_limits(limits)
     {}
 
     tl::expected<void, ImageWorkerFault> open(const FileDescriptor &source) override;
     tl::expected<void, ImageWorkerFault> write(const FileDescriptor &output, OutputFormat format,
                                                double jpegQuality) override;
-    tl::expected<QByteArray, ImageWorkerFault> thumbnail(int maximumSide) override;
+    tl::expected<QImage, ImageWorkerFault> thumbnail(int maximumSide) override;
 
 private:
     using Reply = imageworkerwire::Reply;
@@ -30,8 +32,12 @@ private:
     tl::expected<Reply, ImageWorkerFault> ask(const imageworkerwire::Request &request,
                                               const FileDescriptor &file, std::chrono::milliseconds limit);
     std::chrono::milliseconds writeLimit() const;
+    /// Whether `output` begins as its format does and is no larger than the photo can need.
+    bool isPlausible(const FileDescriptor &output, OutputFormat format) const;
 
-    std::unique_ptr<ImageWorkerChild> m_worker; ///< null when it could not be had or has been killed
+    std::shared_ptr<ImageWorkerChild> m_forkServer; ///< kept alive for m_worker
+    std::shared_ptr<ImageWorkerChild> m_worker;     ///< null when it could not be had or has been killed
     ImageWorkerLimits m_limits;
-    std::int32_t m_pixels = 0;
+    std::int64_t m_sourceBytes = 0;
+    QSize m_size; ///< of the upright picture
 };

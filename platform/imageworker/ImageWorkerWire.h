@@ -10,8 +10,8 @@
 ///
 /// The program is a fork server and never sees a photo. It forks a worker for each SpawnRequest.
 ///
-/// The worker sends the first message: a Reply that says whether it is locked down, with a descriptor of its
-/// process. After that it answers each Request with one Reply, which has no descriptor.
+/// The worker first sends a WorkerStarted with a descriptor of its process, then a Reply that says whether it
+/// is locked down. After that it answers each Request with one Reply. No Reply has a descriptor.
 namespace imageworkerwire {
 
 /// The fork server's socket. Nothing else is open in it but the three standard streams.
@@ -23,10 +23,16 @@ struct SpawnRequest
     std::uint32_t reserved = 0;
 };
 
+struct WorkerStarted
+{
+    std::uint32_t reserved = 0;
+};
+
 enum class RequestKind : std::uint32_t {
     Open = 1,      ///< with the source, open for reading
     Write = 2,     ///< with the output file, open for writing
-    Thumbnail = 3, ///< with a file in memory that takes the PNG
+    Thumbnail = 3, ///< with a file in memory of a fixed size that takes the pixels, four bytes for each: red,
+                   ///< green, blue, opacity
 };
 
 struct Request
@@ -43,7 +49,8 @@ inline constexpr ImageWorkerFault NoFault{};
 struct Reply
 {
     ImageWorkerFault fault = NoFault;
-    std::int32_t pixels = 0; ///< Open: width times height of the picture
+    std::int32_t width = 0;  ///< Open: of the upright picture; Thumbnail: of the preview; in pixels
+    std::int32_t height = 0; ///< likewise
 };
 
 } // namespace imageworkerwire

@@ -1,8 +1,10 @@
 #include "ThumbnailStore.h"
 
+#include "ConversionActivity.h"
 #include "FakeImageWorkerLauncher.h"
 #include "WriteFile.h"
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -86,6 +88,27 @@ private Q_SLOTS:
         m_launcher->gate.release(6);
         QTRY_COMPARE(m_answered, 6);
         QCOMPARE(m_launcher->mostRunning.load(), 2);
+    }
+
+    void shouldGiveWayToConversionsButNotForEver()
+    {
+        auto first = std::make_optional<ConversionActivity>();
+        QVERIFY(m_launcher->isPaused);
+        auto second = std::make_optional<ConversionActivity>();
+        first.reset();
+        QVERIFY(!m_launcher->isPaused); // those under way go on beside the second
+
+        constexpr std::chrono::milliseconds Wait(50);
+        m_store.emplace(m_launcher, Wait);
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(answer(write("beside.heic")));
+        QVERIFY(timer.elapsed() >= Wait.count());
+
+        m_store.emplace(m_launcher, std::chrono::hours(1));
+        const auto request = m_store->image(write("after.heic"), [this](const QImage &) { ++m_answered; });
+        second.reset();
+        QTRY_COMPARE(m_answered, 1);
     }
 
     void shouldNotReadWhatWasGivenUpBeforeItsTurn()

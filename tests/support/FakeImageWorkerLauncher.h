@@ -3,7 +3,6 @@
 #include "ImageWorker.h"
 #include "ImageWorkerLauncher.h"
 
-#include <QBuffer>
 #include <QColor>
 #include <QFile>
 #include <QImage>
@@ -22,11 +21,14 @@ class FakeImageWorkerLauncher : public ImageWorkerLauncher
 public:
     std::unique_ptr<ImageWorker> launch() override { return std::make_unique<Worker>(*this); }
     void prepare() override {}
+    void pause() override { isPaused = true; }
+    void resume() override { isPaused = false; }
     void endAll() override { gate.release(1000); }
 
     void hold() { m_holds = true; }
 
     QSemaphore gate; ///< each release lets one held worker go on
+    std::atomic<bool> isPaused = false;
     std::atomic<int> launched = 0;
     std::atomic<int> running = 0;
     std::atomic<int> mostRunning = 0;
@@ -78,16 +80,14 @@ private:
             return {};
         }
 
-        tl::expected<QByteArray, ImageWorkerFault> thumbnail(int maximumSide) override
+        tl::expected<QImage, ImageWorkerFault> thumbnail(int maximumSide) override
         {
             QImage image(maximumSide, maximumSide * 3 / 4, QImage::Format_RGB32);
             QLinearGradient colours(0, 0, 0, image.height());
             colours.setColorAt(0, top);
             colours.setColorAt(1, bottom);
             QPainter(&image).fillRect(image.rect(), colours);
-            QBuffer png;
-            image.save(&png, "PNG");
-            return png.data();
+            return image;
         }
 
         FakeImageWorkerLauncher &launcher;

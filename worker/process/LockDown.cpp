@@ -1,5 +1,6 @@
 #include "LockDown.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
@@ -12,11 +13,16 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/syscall.h>
+#include <sys/sysinfo.h>
 #include <unistd.h>
 
 namespace imageworker {
 
 namespace {
+
+constexpr rlim_t Mebibyte = 1ULL << 20;
+constexpr rlim_t Gibibyte = 1ULL << 30;
+constexpr rlim_t AddressSpace = 3 * Gibibyte;
 
 bool limit(__rlimit_resource resource, rlim_t value)
 {
@@ -24,14 +30,29 @@ bool limit(__rlimit_resource resource, rlim_t value)
     return ::setrlimit(resource, &both) == 0;
 }
 
-/// Fixed and generous: limits computed from the free memory would refuse sound photos on a busy machine.
+/// The limit counts the threads of all processes of this user, so it is put above those of the whole system.
+/// When others start many more meanwhile, a photo is decoded on fewer threads.
+bool limitThreads()
+{
+    constexpr rlim_t Own = 64;
+    struct sysinfo system = {};
+    return ::sysinfo(&system) == 0 && limit(RLIMIT_NPROC, system.procs + Own);
+}
+
+/// Until limitMemory() is called, which can make more of it.
+bool limitMemoryForStructure()
+{
+    const rlimit data = {256 * Mebibyte, AddressSpace};
+    return limit(RLIMIT_AS, AddressSpace) && ::setrlimit(RLIMIT_DATA, &data) == 0;
+}
+
+/// Never computed from the free memory: that would refuse sound photos on a busy machine.
 bool limitResources()
 {
-    constexpr rlim_t Gibibyte = 1ULL << 30;
     constexpr rlim_t ProcessorSeconds = 1800;
     constexpr rlim_t Descriptors = 32;
     ::signal(SIGXFSZ, SIG_IGN); // a copy that grows too large is a failed write
-    return limit(RLIMIT_AS, 3 * Gibibyte) && limit(RLIMIT_FSIZE, 2 * Gibibyte) &&
+    return limitMemoryForStructure() && limitThreads() && limit(RLIMIT_FSIZE, 2 * Gibibyte) &&
            limit(RLIMIT_CPU, ProcessorSeconds) && limit(RLIMIT_NOFILE, Descriptors) && limit(RLIMIT_CORE, 0);
 }
 
@@ -108,7 +129,7 @@ bool filterCalls()
     CallFilter filter;
     // Transfer: the photo, the output and the socket are open already.
     filter.add(Allow, {"read", "write", "pread64", "pwrite64", "readv", "writev", "lseek", "fstat", "close",
-                       "recvmsg", "sendmsg", "sendto", "recvfrom"});
+                       "recvmsg", "sendto", "recvfrom"});
     // Memory: the allocator's calls. Memory that can be executed is not needed once the libraries are loaded.
     filter.add(Allow, {"munmap", "mremap", "madvise", "brk"});
     for (const char *call : {"mmap", "mprotect"}) {
@@ -124,8 +145,10 @@ bool filterCalls()
     // Clocks and random numbers: used inside the libraries.
     filter.add(Allow, {"clock_gettime", "clock_getres", "gettimeofday", "clock_nanosleep", "nanosleep",
                        "getrandom"});
-    // This process itself: the C library reads its limits, and a thumbnail lowers its priority.
+    // This process itself: the C library reads its limits, an opened photo settles the one of memory, and a
+    // thumbnail lowers its priority.
     filter.addIf(Allow, "prlimit64", {is(0, 0), is(2, 0)});
+    filter.addIf(Allow, "prlimit64", {is(0, 0), is(1, RLIMIT_DATA)});
     filter.addIf(Allow, "setpriority", {is(0, PRIO_PROCESS), is(1, 0)});
     // Files by name: the C library looks for some under /proc and /sys and does without. Nothing is created.
     filter.addIf(SCMP_ACT_ERRNO(ENOENT), "openat", {bits(2, O_ACCMODE, O_RDONLY)});
@@ -148,8 +171,14 @@ bool filterCalls()
 
 bool lockDown()
 {
-    return limitResources() && ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && closeFileSystem() &&
-           filterCalls();
+    // Not dumpable: no other process of the user may look into this one.
+    return limitResources() && ::prctl(PR_SET_DUMPABLE, 0) == 0 &&
+           ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && closeFileSystem() && filterCalls();
+}
+
+void limitMemory(std::uint64_t bytes)
+{
+    limit(RLIMIT_DATA, std::min<rlim_t>(bytes, AddressSpace));
 }
 
 } // namespace imageworker

@@ -2,6 +2,8 @@
 
 #include "DescriptorMessage.h"
 #include "ImageWorkerWire.h"
+#include "LockDown.h"
+#include "MemoryNeed.h"
 #include "PhotoConverter.h"
 #include "PhotoReader.h"
 #include "Thumbnail.h"
@@ -37,9 +39,10 @@ public:
         if (request.kind == RequestKind::Write) {
             return replyFor(writeCopy(*m_source, *m_photo, output, request.format, request.jpegQuality));
         }
-        constexpr int LeastUrgent = 19;
-        ::setpriority(PRIO_PROCESS, 0, LeastUrgent); // a thumbnail gives way to conversions
-        return replyFor(writeThumbnail(*m_source, *m_photo, output, request.maximumSide));
+        constexpr int Utility = 5; // gives way, and still comes within reasonable time on a busy machine
+        ::setpriority(PRIO_PROCESS, 0, Utility);
+        const auto size = writeThumbnail(*m_source, *m_photo, output, request.maximumSide);
+        return size ? Reply{NoFault, size->width, size->height} : Reply{size.error()};
     }
 
 private:
@@ -51,8 +54,9 @@ private:
         if (!m_photo) {
             return {ImageWorkerFault::Unreadable};
         }
+        limitMemory(memoryNeeded(*m_photo, m_source->size()));
         const PixelSize size = m_photo->transformation().size();
-        return {NoFault, size.width * size.height};
+        return {NoFault, size.width, size.height};
     }
 
     FileDescriptor m_file;

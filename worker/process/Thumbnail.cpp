@@ -1,9 +1,9 @@
 #include "Thumbnail.h"
 
 #include "AreaAverager.h"
+#include "OutputFile.h"
 #include "PhotoDecoder.h"
 #include "Pipeline.h"
-#include "PngEncoder.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,7 +27,7 @@ PixelSize sizeWithin(PixelSize size, int maximumSide)
 
 } // namespace
 
-Result<void> writeThumbnail(const Source &source, const Photo &photo, int output, int maximumSide)
+Result<PixelSize> writeThumbnail(const Source &source, const Photo &photo, int output, int maximumSide)
 {
     if (maximumSide < 1) {
         return unreadable();
@@ -43,9 +43,8 @@ Result<void> writeThumbnail(const Source &source, const Photo &photo, int output
         return unreadable();
     }
     OutputFile file(output);
-    const auto encoder = makePngEncoder(file, size, CopyMetadata());
-    RasterSource small(averager.take(), Transformation(size));
-    return runPipeline(small, *encoder, 1);
+    file.write(averager.take().rgba);
+    return file.outcome().map([size] { return size; });
 }
 
 } // namespace imageworker

@@ -6,7 +6,8 @@
 namespace imageworker {
 
 /// Decodes @p photo whole and writes it, upright, in sRGB and at most @p maximumSide pixels on its longer
-/// side, as PNG to the empty file @p output. Never enlarges.
-Result<void> writeThumbnail(const Source &source, const Photo &photo, int output, int maximumSide);
+/// side, to the file @p output: row by row, four bytes for each pixel (red, green, blue, opacity). Returns
+/// its size. Never enlarges.
+Result<PixelSize> writeThumbnail(const Source &source, const Photo &photo, int output, int maximumSide);
 
 } // namespace imageworker

@@ -12,14 +12,17 @@
 #include <csignal>
 #include <fcntl.h>
 #include <functional>
+#include <optional>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace {
 
 QByteArray lacking;                      ///< a folder whose file system lacks what newer ones have
 std::function<void()> whenPartHasOpened; ///< called once
+std::optional<struct statvfs> space;     ///< of every file system
 
 QByteArray content(const QString &path)
 {
@@ -67,6 +70,7 @@ void limitFiles(rlim_t bytes)
 // NOLINTBEGIN(bugprone-reserved-identifier,readability-identifier-naming,cert-dcl50-cpp): the linker's names
 extern "C" {
 int __real_open(const char *path, int flags, mode_t mode);
+int __real_fstatvfs(int file, struct statvfs *status);
 int __real_renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags);
 
 int __wrap_open(const char *path, int flags, mode_t mode)
@@ -80,6 +84,13 @@ int __wrap_open(const char *path, int flags, mode_t mode)
         std::exchange(whenPartHasOpened, {})();
     }
     return descriptor;
+}
+
+int __wrap_fstatvfs(int file, struct statvfs *status)
+{
+    const int result = __real_fstatvfs(file, status);
+    *status = space.value_or(*status);
+    return result;
 }
 
 int __wrap_renameat2(int fromFolder, const char *from, int toFolder, const char *to, unsigned flags)
@@ -121,6 +132,8 @@ private Q_SLOTS:
     {
         limitFiles(RLIM_INFINITY);
         lacking.clear();
+        space.reset();
+        ::qunsetenv("TMPDIR");
     }
 
     void shouldNeverReplaceAndBeWholeOrNotThere_data()
@@ -185,6 +198,40 @@ private Q_SLOTS:
         QVERIFY(FileOperations::move(here("photo"), there("photo")) == std::errc::text_file_busy);
         QCOMPARE(content(here("photo")), "whole photo");
         QCOMPARE(fileCount(there()), 0);
+    }
+
+    void shouldLeaveTheReserveOfAFileSystem()
+    {
+        makeFolders("/dev/shm", false);
+        struct Case
+        {
+            fsblkcnt_t total; // in MiB
+            fsblkcnt_t left;
+            bool isEnough;
+        };
+        const auto file = scratch(here(), QByteArray(2 << 20, 'p'));
+        for (const Case &each : {Case{100'000, 63, false}, Case{100'000, 65, true}, Case{160, 9, false},
+                                 Case{160, 11, true}, Case{0, 0, true}}) {
+            space = {.f_frsize = 1U << 20U, .f_blocks = each.total, .f_bavail = each.left};
+            QCOMPARE(ScratchFile::create(here()).has_value(), each.isEnough);
+        }
+        if (statusOf(there()).st_dev != statusOf(here()).st_dev) {
+            space = {.f_frsize = 1U << 20U, .f_blocks = 160, .f_bavail = 11}; // the copy takes two
+            QVERIFY(file.placeAs(there("copy")) == std::errc::no_space_on_device);
+            QCOMPARE(fileCount(there()), 0);
+        }
+    }
+
+    void shouldNotTakeMemoryForADisk()
+    {
+        makeFolders("/dev/shm", true);
+        if (!m_there->isValid() || statusOf(there()).st_dev == statusOf(here()).st_dev) {
+            QSKIP("there is no file system in memory");
+        }
+        ::qputenv("TMPDIR", "/dev/shm");
+        struct stat status = {};
+        QCOMPARE(::fstat(scratch(there(), "content").descriptor().number(), &status), 0);
+        QVERIFY(status.st_dev != statusOf("/dev/shm").st_dev);
     }
 
     void shouldLeaveAFileAloneThatAnotherProcessHasJustFinished()

@@ -12,8 +12,10 @@
 #include <future>
 #include <linux/landlock.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -32,6 +34,12 @@ QByteArray contentOf(const FileDescriptor &file)
     QByteArray content(100, Qt::Uninitialized);
     content.resize(::pread(file.number(), content.data(), static_cast<std::size_t>(content.size()), 0));
     return content;
+}
+
+QByteArray contentOf(int process, const char *file)
+{
+    QFile content(QStringLiteral("/proc/%1/%2").arg(process).arg(QLatin1String(file)));
+    return content.open(QFile::ReadOnly) ? content.readAll() : "missing";
 }
 
 QByteArray pngOf(QSize size)
@@ -83,8 +91,8 @@ private Q_SLOTS:
     void shouldContainHostileWorkers_data()
     {
         addNames("open look create socket exec fork clone vfork ptrace truncate-source slow-group "
-                 "limits-of-parent change-limit unlimited-time unlimited-files allocate crash spin sleep "
-                 "huge negative nonsense");
+                 "limits-of-parent change-limit unlimited-time unlimited-files unlimited-threads allocate "
+                 "allocate-data send-descriptor crash spin sleep huge flat negative nonsense");
     }
     void shouldContainHostileWorkers()
     {
@@ -128,6 +136,66 @@ private Q_SLOTS:
         QVERIFY(!written);
         QCOMPARE(written.error(), ImageWorkerFault::CannotWrite);
         QVERIFY(::lseek(output.number(), 0, SEEK_END) <= qint64(2) << 30);
+    }
+
+    void shouldTrustNoAnswer_data()
+    {
+        addNames("png-for-jpeg empty-copy huge-copy wide-preview negative-preview grown-preview");
+    }
+    void shouldTrustNoAnswer()
+    {
+        QFETCH(QByteArray, name);
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(HOSTILE_WORKER), {});
+        const auto worker = launcher->launch();
+        QVERIFY(worker->open(fileHolding(name)));
+        const auto fault = name.endsWith("preview")
+                               ? worker->thumbnail(240).map([](const QImage & /*picture*/) {})
+                               : worker->write(fileHolding({}), OutputFormat::jpeg, 1);
+        QVERIFY(!fault);
+        QCOMPARE(fault.error(), ImageWorkerFault::Unreadable);
+    }
+
+    void shouldGiveWorkersWhatTheirPhotoNeedsAndLetThemGoFirst()
+    {
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(IMAGE_WORKER), {});
+        const auto worker = launcher->launch();
+        const int forkServer = childrenOf(::getpid()).first();
+        const int process = childrenOf(forkServer).first();
+        QCOMPARE(contentOf(process, "oom_score_adj"), "1000\n");
+        constexpr rlim_t Mebibyte = 1U << 20U;
+        QVERIFY(worker->open(fileHolding(pngOf({4000, 3000}))));
+        rlimit memory = {};
+        QCOMPARE(::prlimit(process, RLIMIT_DATA, nullptr, &memory), 0);
+        const rlim_t threads = std::clamp(std::thread::hardware_concurrency(), 1U, 16U);
+        QVERIFY(memory.rlim_max >= 250 * Mebibyte && memory.rlim_max < (330 + 16 * threads) * Mebibyte);
+    }
+
+    void shouldStopWorkersUntilTheyMayGoOn()
+    {
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(IMAGE_WORKER), {});
+        const auto stateOf = [](qsizetype index) {
+            const int forkServer = childrenOf(::getpid()).first();
+            return contentOf(childrenOf(forkServer).value(index), "stat").split(' ').value(2);
+        };
+        const auto before = launcher->launch();
+        launcher->pause();
+        const auto after = launcher->launch();
+        QTRY_COMPARE(stateOf(0) + stateOf(1), "TT");
+        launcher->resume();
+        QVERIFY(before->open(fileHolding(pngOf({8, 8}))) && after->open(fileHolding(pngOf({8, 8}))));
+    }
+
+    void shouldKeepWorkersOfAForkServerThatStalls()
+    {
+        const auto launcher = ImageWorkerLauncher::create(QStringLiteral(IMAGE_WORKER), ShortToStart);
+        auto worker = launcher->launch();
+        const int stalled = childrenOf(::getpid()).first();
+        ::kill(stalled, SIGSTOP);
+        const FileDescriptor source = fileHolding(pngOf({8, 8}));
+        QVERIFY(!faultOf(*launcher, source)); // by another fork server
+        QVERIFY(worker->open(source));
+        worker.reset();
+        QCOMPARE(childrenOf(::getpid()).count(stalled), 0);
     }
 
     void shouldHandNothingToAProgramThatIsNoWorker_data()
@@ -176,9 +244,8 @@ private Q_SLOTS:
         QVERIFY(worker->open(fileHolding(pngOf({400, 300}))));
         const auto thumbnail = worker->thumbnail(240);
         QVERIFY(thumbnail);
-        const QImage small = QImage::fromData(*thumbnail, "PNG");
-        QCOMPARE(small.size(), QSize(240, 180));
-        QCOMPARE(small.pixelColor(100, 100), QColor(Qt::darkCyan));
+        QCOMPARE(thumbnail->size(), QSize(240, 180));
+        QCOMPARE(thumbnail->pixelColor(239, 179), QColor(Qt::darkCyan));
     }
 
     void shouldLeaveNothingBehindAfterManyPhotos()

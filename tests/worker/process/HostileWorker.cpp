@@ -35,9 +35,9 @@ void reply(const Reply &message)
     ::send(workerSocket, &message, sizeof(message), MSG_NOSIGNAL);
 }
 
-bool claimsPixels(std::int32_t pixels)
+bool claims(std::int32_t width, std::int32_t height)
 {
-    reply({NoFault, pixels});
+    reply({NoFault, width, height});
     return true;
 }
 
@@ -80,13 +80,41 @@ void spin()
 /// Leaves holes: the limit counts the size, and the disk is spared.
 bool writesWithoutEnd()
 {
-    claimsPixels(1);
+    claims(1, 1);
     const FileDescriptor output = receiveFile();
     const std::array<char, 65'536> block = {};
     while (::write(output.number(), block.data(), block.size()) > 0) {
         ::lseek(output.number(), 1'000'000'000, SEEK_CUR);
     }
     reply({ImageWorkerFault::CannotWrite});
+    return false;
+}
+
+/// A copy that begins with @p start and is @p length bytes long.
+bool writesCopy(std::string_view start, off_t length)
+{
+    claims(1, 1);
+    const FileDescriptor output = receiveFile();
+    return ::write(output.number(), start.data(), start.size()) == static_cast<ssize_t>(start.size()) &&
+           (length == 0 || ::pwrite(output.number(), "", 1, length - 1) == 1);
+}
+
+/// A preview of a size that nobody asked for.
+bool claimsPreview(std::int32_t width, std::int32_t height)
+{
+    claims(1, 1);
+    receiveFile();
+    return claims(width, height);
+}
+
+/// Writes beyond the end of the file that takes the preview.
+bool growsPreview()
+{
+    claims(1, 1);
+    const FileDescriptor output = receiveFile();
+    const off_t length = ::lseek(output.number(), 0, SEEK_END);
+    const bool isGrown = ::pwrite(output.number(), "", 1, length) == 1;
+    reply({isGrown ? NoFault : ImageWorkerFault::Unreadable, 1, 1});
     return false;
 }
 
@@ -105,6 +133,7 @@ bool survivesCall(const char *name)
     return number >= 0 && survives([number] { ::syscall(number); });
 }
 
+constexpr std::size_t HalfGibibyte = std::size_t{1} << 29;
 constexpr std::size_t FourGibibytes = std::size_t{4} << 30;
 const rlimit zero = {0, 0};
 
@@ -131,15 +160,32 @@ const std::map<std::string_view, bool (*)(int source)> actions = {
     {"change-limit", [](int) { return ::syscall(SYS_prlimit64, 0, RLIMIT_CORE, &zero, nullptr) == 0; }},
     {"unlimited-time", [](int) { return limitOf(0, RLIMIT_CPU) > 3600; }},
     {"unlimited-files", [](int) { return limitOf(0, RLIMIT_NOFILE) > 64; }},
+    {"unlimited-threads", [](int) { return limitOf(0, RLIMIT_NPROC) > 65'535 + 64; }},
+    {"send-descriptor",
+     [](int source) {
+         return sendWithDescriptor(workerSocket, Reply{NoFault, 1, 1}, source);
+     }},
     {"truncate-source", [](int source) { return ::ftruncate(source, 0) == 0; }},
     {"allocate",
      [](int) {
          return ::mmap(nullptr, FourGibibytes, PROT_READ, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1,
                        0) != MAP_FAILED;
      }},
-    {"huge", [](int) { return claimsPixels(2'000'000'000); }},
-    {"negative", [](int) { return claimsPixels(-20); }},
+    {"allocate-data",
+     [](int) {
+         return ::mmap(nullptr, HalfGibibyte, PROT_READ | PROT_WRITE,
+                       MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0) != MAP_FAILED;
+     }},
+    {"huge", [](int) { return claims(50'000, 50'000); }},
+    {"flat", [](int) { return claims(100, 0); }},
+    {"negative", [](int) { return claims(-5, -4); }},
     {"nonsense", [](int) { return ::send(workerSocket, "?", 1, MSG_NOSIGNAL) == 1; }},
+    {"png-for-jpeg", [](int) { return writesCopy("\x89PNG\r\n\x1A\n", 100); }},
+    {"empty-copy", [](int) { return writesCopy("", 0); }},
+    {"huge-copy", [](int) { return writesCopy("\xFF\xD8\xFF", 3'000'000); }},
+    {"wide-preview", [](int) { return claimsPreview(241, 1); }},
+    {"negative-preview", [](int) { return claimsPreview(-1, -1); }},
+    {"grown-preview", [](int) { return growsPreview(); }},
     {"endless-write", [](int) { return writesWithoutEnd(); }},
     // For the worker without a call filter: Landlock's error.
     {"open-unfiltered", [](int) { return opens(O_RDONLY, EACCES); }},
@@ -156,7 +202,7 @@ void act(int socket)
     const ssize_t length = ::read(source.number(), name.data(), name.size());
     const auto found = actions.find({name.data(), length > 0 ? static_cast<std::size_t>(length) : 0});
     const bool isSuccess = found == actions.end() || found->second(source.number());
-    reply({isSuccess ? NoFault : ImageWorkerFault::Unreadable, 1});
+    reply({isSuccess ? NoFault : ImageWorkerFault::Unreadable, 1, 1});
     receiveFile();
 }
 
@@ -167,7 +213,7 @@ int main(int argumentCount, char **arguments)
     program = arguments[0];
     if (argumentCount > 1) {
         workerSocket = std::atoi(arguments[1]);
-        reply({NoFault, 1});
+        reply({NoFault, 1, 1});
     } else if (imageworker::loadDecoders()) {
         imageworker::runForkServer(ForkServerDescriptor, act);
     }

@@ -57,8 +57,13 @@ std::optional<Raster> thumbnailOf(const Bytes &photo, int side)
     const auto source = sourceOfBytes(photo);
     const auto read = readPhoto(*source);
     const MemoryFile output;
-    const bool isWritten = read && writeThumbnail(*source, *read, output.descriptor(), side);
-    return isWritten ? readPng(output.bytes()) : std::nullopt;
+    const auto size = read ? writeThumbnail(*source, *read, output.descriptor(), side) : unreadable();
+    if (!size) {
+        return std::nullopt;
+    }
+    Raster pixels(*size);
+    pixels.rgba = output.bytes();
+    return pixels;
 }
 
 void expectShown(const Bytes &photo, const std::optional<Raster> &expected, int tolerance)
