@@ -4,6 +4,7 @@
 #include "LumaportApp.h"
 #include "SingleInstance.h"
 #include "TerminationSignals.h"
+#include "Translations.h"
 #include "Typeface.h"
 
 #include <QApplication>
@@ -35,6 +36,7 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName(QStringLiteral("io.lumaport.Lumaport"));
     QApplication::setApplicationVersion(QStringLiteral(LUMAPORT_VERSION));
     const QApplication application(argc, argv);
+    const Translations translations;
     QApplication::setWindowIcon(BrandAssets::icon());
     QApplication::setFont(Typeface::preferred(QApplication::font()));
     chooseRenderer();

@@ -6,7 +6,7 @@ import Lumaport.Vocabulary
 import Lumaport.Welcome
 
 // The content of the main window: the top bar, the column with the two workspaces, the options panel that slides in from
-// the right, and the welcome that takes their place while it is shown.
+// the trailing edge, and the welcome that takes their place while it is shown.
 Item {
     id: view
 
@@ -63,6 +63,7 @@ Item {
                 height: parent.height
                 objectName: "scroll"
                 width: parent.width - options.width * view.optionsShown
+                x: LayoutMirroring.enabled ? parent.width - width : 0
 
                 MainColumn {
                     id: column
@@ -87,7 +88,7 @@ Item {
                 opacity: view.optionsShown
                 visible: view.optionsShown > 0
                 width: 258
-                x: parent.width - width * view.optionsShown
+                x: LayoutMirroring.enabled ? width * (view.optionsShown - 1) : parent.width - width * view.optionsShown
                 onCloseRequested: reason => topBar.closeOptions(reason)
             }
         }

@@ -13,8 +13,8 @@ FocusScope {
 
     readonly property Item selected: controller.showingHistory ? recentPhotos : airDrop
 
-    Keys.onLeftPressed: controller.showingHistory = false
-    Keys.onRightPressed: controller.showingHistory = true
+    Keys.onLeftPressed: controller.showingHistory = LayoutMirroring.enabled
+    Keys.onRightPressed: controller.showingHistory = !LayoutMirroring.enabled
     implicitHeight: tabs.implicitHeight
     onSelectedChanged: activeFocus && selected.forceActiveFocus(Qt.TabFocusReason)
 
@@ -23,7 +23,7 @@ FocusScope {
 
         dampingFraction: 0.8
         response: 0.35
-        to: navigation.selected.x
+        to: tabs.x + navigation.selected.x
     }
 
     SpringValue {
@@ -66,6 +66,7 @@ FocusScope {
 
         Accessible.name: qsTr("Workspaces")
         Accessible.role: Accessible.PageTabList
+        anchors.left: parent.left
         spacing: 10
 
         WorkspaceTab {
@@ -95,6 +96,6 @@ FocusScope {
         color: LumaportPalette.mint
         font.weight: Font.Medium
         size: 11
-        text: qsTr("%1 ready").arg(AppModel.readyCount)
+        text: qsTr("%n ready", "", AppModel.readyCount)
     }
 }

@@ -15,6 +15,8 @@ Rectangle {
 
     Accessible.name: qsTr("Lumaport")
     Accessible.role: Accessible.Pane
+    LayoutMirroring.childrenInherit: true
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     border.color: LumaportPalette.softLine // the window behind may have the same colour
     border.width: 1
     color: LumaportPalette.panel

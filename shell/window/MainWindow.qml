@@ -11,6 +11,8 @@ ApplicationWindow {
     required property MainCommands commands
     required property MainViewController controller
 
+    LayoutMirroring.childrenInherit: true
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     color: LumaportPalette.night
     height: 780 + menuBar.height
     minimumHeight: 620 + menuBar.height

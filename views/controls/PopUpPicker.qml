@@ -28,8 +28,8 @@ T.ComboBox {
     Keys.onReleased: event => event.accepted = picker.opensBy(event.key)
     font.pixelSize: 12
     implicitHeight: 30
-    leftPadding: 10
-    rightPadding: 28
+    leftPadding: mirrored ? 28 : 10
+    rightPadding: mirrored ? 10 : 28
 
     background: Rectangle {
         border.color: LumaportPalette.softLine
@@ -63,7 +63,7 @@ T.ComboBox {
         color: LumaportPalette.muted
         name: "chevron.up.chevron.down"
         pointSize: 10
-        x: picker.width - width - 8
+        x: picker.mirrored ? 8 : picker.width - width - 8
         y: Math.round((picker.height - height) / 2)
     }
     popup: T.Popup {

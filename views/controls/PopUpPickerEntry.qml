@@ -15,7 +15,8 @@ T.ItemDelegate {
     font.pixelSize: 12
     hoverEnabled: true
     implicitHeight: 28
-    leftPadding: 28
+    leftPadding: mirrored ? 0 : 28
+    rightPadding: mirrored ? 28 : 0
 
     background: Rectangle {
         color: Qt.alpha(LumaportPalette.iris, entry.highlighted ? 0.12 : 0)

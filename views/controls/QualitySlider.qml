@@ -28,7 +28,8 @@ T.Slider {
             color: LumaportPalette.iris
             height: parent.height
             radius: 2
-            width: slider.visualPosition * parent.width
+            width: slider.position * parent.width
+            x: slider.mirrored ? parent.width - width : 0
         }
     }
     handle: Rectangle {

@@ -20,10 +20,18 @@ FocusScope {
     readonly property real padding: 4
     readonly property real lift: 2
 
+    // The step from the segment at the left of another to that one.
+    readonly property int forward: LayoutMirroring.enabled ? -1 : 1
+
     signal chosen(int choice)
 
+    function choose(choice: int): void {
+        chosen(Math.max(0, Math.min(segments.length - 1, choice)));
+    }
+
     function place(choice: int): real {
-        return padding + choice * (segmentWidth + spacing);
+        const column = LayoutMirroring.enabled ? segments.length - 1 - choice : choice;
+        return padding + column * (segmentWidth + spacing);
     }
 
     Accessible.role: Accessible.Grouping
@@ -71,8 +79,8 @@ FocusScope {
             x: control.place(index)
             y: control.padding
 
-            Keys.onLeftPressed: control.chosen(Math.max(0, index - 1))
-            Keys.onRightPressed: control.chosen(Math.min(control.segments.length - 1, index + 1))
+            Keys.onLeftPressed: control.choose(index - control.forward)
+            Keys.onRightPressed: control.choose(index + control.forward)
             onClicked: control.chosen(index)
             onSelectedChanged: selected && control.activeFocus && forceActiveFocus(Qt.TabFocusReason)
         }

@@ -9,6 +9,7 @@ TextEdit {
     activeFocusOnTab: true
     color: LumaportPalette.muted
     font.pixelSize: 11
+    horizontalAlignment: TextEdit.AlignLeft
     readOnly: true
     selectByMouse: true
     selectedTextColor: LumaportPalette.panel

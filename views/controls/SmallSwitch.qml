@@ -15,8 +15,9 @@ T.Switch {
     Keys.onReturnPressed: control.chosen(!control.checked)
     font.pixelSize: 12
     implicitHeight: Math.max(20, implicitContentHeight)
-    implicitWidth: implicitContentWidth + rightPadding
-    rightPadding: 38
+    implicitWidth: implicitContentWidth + leftPadding + rightPadding
+    leftPadding: mirrored ? 38 : 0
+    rightPadding: mirrored ? 0 : 38
 
     onToggled: control.chosen(control.checked)
 
@@ -40,7 +41,7 @@ T.Switch {
         height: 16
         radius: 8
         width: 28
-        x: control.width - width
+        x: control.mirrored ? 0 : control.width - width
         y: (control.height - height) / 2
 
         Rectangle {
@@ -48,7 +49,7 @@ T.Switch {
             height: 12
             radius: 6
             width: 12
-            x: 2 + 12 * parent.travel.value
+            x: 2 + 12 * (control.mirrored ? 1 - parent.travel.value : parent.travel.value)
             y: 2
         }
 

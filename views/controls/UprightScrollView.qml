@@ -9,7 +9,7 @@ ScrollView {
     ScrollBar.vertical: ThinScrollBar {
         height: view.availableHeight
         parent: view
-        x: view.width - width
+        x: view.mirrored ? 0 : view.width - width
     }
     contentWidth: availableWidth
 

@@ -28,7 +28,7 @@ ColumnLayout {
             color: LumaportPalette.muted
             objectName: "readyCount"
             size: 11
-            text: qsTr("%1 ready").arg(AppModel.readyCount)
+            text: qsTr("%n ready", "", AppModel.readyCount)
             visible: !ArrivalsListController.isEmpty
         }
 

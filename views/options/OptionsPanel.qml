@@ -176,6 +176,7 @@ Rectangle {
     }
 
     Rectangle {
+        anchors.left: parent.left
         color: LumaportPalette.softLine
         height: parent.height
         width: 1

@@ -13,6 +13,9 @@ Item {
 
     required property PhotoLandingStageController controller
 
+    // A picture, the same in every layout direction.
+    LayoutMirroring.childrenInherit: true
+    LayoutMirroring.enabled: false
     height: 222
     width: 330
 

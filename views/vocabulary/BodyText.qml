@@ -1,7 +1,8 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// A plain text in the palette's ink, with a name for a screen reader.
+// A plain text in the palette's ink, with a name for a screen reader. It stands at the leading edge of the window's
+// direction, whatever its own direction is.
 Text {
     property real size: 12
 
@@ -9,5 +10,6 @@ Text {
     Accessible.role: Accessible.StaticText
     color: LumaportPalette.ink
     font.pixelSize: size
+    horizontalAlignment: Text.AlignLeft
     textFormat: Text.PlainText
 }

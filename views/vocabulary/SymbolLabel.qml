@@ -16,6 +16,7 @@ Item {
     property alias elide: caption.elide
     property alias wrapMode: caption.wrapMode
 
+    readonly property real inset: centred ? Math.max(0, Math.round((width - implicitWidth) / 2)) : 0
     readonly property real leading: picture.visible ? picture.width + (caption.visible ? spacing : 0) : 0
 
     implicitHeight: Math.max(picture.visible ? picture.implicitHeight : 0, caption.visible ? caption.implicitHeight : 0)
@@ -29,7 +30,7 @@ Item {
         name: label.symbol
         pointSize: label.font.pixelSize
         visible: label.symbol !== ""
-        x: label.centred ? Math.max(0, Math.round((label.width - label.implicitWidth) / 2)) : 0
+        x: label.LayoutMirroring.enabled ? label.width - label.inset - width : label.inset
     }
 
     BodyText {
@@ -39,6 +40,6 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         visible: text !== ""
         width: Math.min(Math.ceil(implicitWidth), label.width - label.leading)
-        x: picture.x + label.leading
+        x: label.LayoutMirroring.enabled ? label.width - label.inset - label.leading - width : label.inset + label.leading
     }
 }
