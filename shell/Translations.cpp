@@ -6,7 +6,8 @@
 
 Translations::Translations()
 {
-    if (!m_texts.load(QLocale::system(), QStringLiteral("lumaport"), QStringLiteral("_"), QStringLiteral(":/translations"))) {
+    if (!m_texts.load(QLocale::system(), QStringLiteral("lumaport"), QStringLiteral("_"),
+                      QStringLiteral(":/translations"))) {
         return;
     }
     const QLocale language(m_texts.language());

@@ -12,7 +12,8 @@ Item {
     PlainButton {
         id: folder
 
-        Accessible.name: qsTr("Open watched folder: %1").arg(text)
+        Accessible.name: qsTr("Open watched folder: %1").arg(OptionsController.watchFolderName)
+        anchors.left: parent.left
         color: LumaportPalette.muted
         font.pixelSize: 11
         font.weight: Font.Medium

@@ -13,6 +13,7 @@ Item {
     BodyText {
         id: caption
 
+        anchors.left: parent.left
         anchors.verticalCenter: format.verticalCenter
         color: LumaportPalette.muted
         font.weight: Font.Medium

@@ -145,7 +145,7 @@ Rectangle {
                 anchors.verticalCenter: parent.verticalCenter
                 objectName: "openButton"
                 text: qsTr("Open Lumaport")
-                width: Math.min(implicitWidth, quitButton.x - view.spacing)
+                width: Math.min(implicitWidth, parent.width - quitButton.width - view.spacing)
                 wrapMode: Text.Wrap
                 onClicked: view.controller.openMain()
 

@@ -105,7 +105,7 @@ private Q_SLOTS:
         QVERIFY(start(watched));
         QVERIFY(change());
         QTRY_VERIFY(m_reports > 0);
-        QCOMPARE(m_monitor->hasLostFolder(), !QFile::exists(path(watched)));
+        QTRY_COMPARE(m_monitor->hasLostFolder(), !QFile::exists(path(watched)));
     }
 
     void shouldReportARenamedFolderAndKeepWatchingIt()
@@ -113,10 +113,10 @@ private Q_SLOTS:
         QVERIFY(start("watched"));
         QVERIFY(QDir().rename(path("watched"), path("elsewhere")));
         QTRY_COMPARE(m_reports, 1);
-        QVERIFY(m_monitor->hasLostFolder());
+        QTRY_VERIFY(m_monitor->hasLostFolder());
         writeFile(path("elsewhere/new.heic"), "");
         QTRY_COMPARE(m_reports, 2);
-        QVERIFY(start("watched/..") && !m_monitor->hasLostFolder());
+        QVERIFY(start("elsewhere") && !m_monitor->hasLostFolder());
     }
 
     void shouldNotReportWhatHappensInsideFilesAndSubfolders()

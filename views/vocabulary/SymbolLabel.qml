@@ -16,30 +16,36 @@ Item {
     property alias elide: caption.elide
     property alias wrapMode: caption.wrapMode
 
-    readonly property real inset: centred ? Math.max(0, Math.round((width - implicitWidth) / 2)) : 0
     readonly property real leading: picture.visible ? picture.width + (caption.visible ? spacing : 0) : 0
 
     implicitHeight: Math.max(picture.visible ? picture.implicitHeight : 0, caption.visible ? caption.implicitHeight : 0)
     implicitWidth: leading + (caption.visible ? Math.ceil(caption.implicitWidth) : 0)
 
-    Symbol {
-        id: picture
+    Item {
+        anchors.horizontalCenter: label.centred ? label.horizontalCenter : undefined
+        anchors.left: label.centred ? undefined : label.left
+        height: label.height
+        width: Math.min(label.implicitWidth, label.width)
 
-        anchors.verticalCenter: parent.verticalCenter
-        color: label.color
-        name: label.symbol
-        pointSize: label.font.pixelSize
-        visible: label.symbol !== ""
-        x: label.LayoutMirroring.enabled ? label.width - label.inset - width : label.inset
-    }
+        Symbol {
+            id: picture
 
-    BodyText {
-        id: caption
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            color: label.color
+            name: label.symbol
+            pointSize: label.font.pixelSize
+            visible: label.symbol !== ""
+        }
 
-        Accessible.ignored: !label.spoken
-        anchors.verticalCenter: parent.verticalCenter
-        visible: text !== ""
-        width: Math.min(Math.ceil(implicitWidth), label.width - label.leading)
-        x: label.LayoutMirroring.enabled ? label.width - label.inset - label.leading - width : label.inset + label.leading
+        BodyText {
+            id: caption
+
+            Accessible.ignored: !label.spoken
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text !== ""
+            width: Math.min(Math.ceil(implicitWidth), label.width - label.leading)
+        }
     }
 }
