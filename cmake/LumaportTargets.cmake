@@ -1,7 +1,7 @@
 # What every target of this project has in common.
 
-# lumaport_target(NAME): warnings as errors, sanitizers, hardening; its own folder as the include folder of whoever links
-# it, so that code reaches no header of a target that it does not link.
+# lumaport_target(NAME): warnings, sanitizers, hardening; its own folder as the include folder of whoever links it, so
+# that code reaches no header of a target that it does not link.
 function(lumaport_target name)
   get_target_property(type ${name} TYPE)
   if(type STREQUAL "STATIC_LIBRARY")
@@ -9,7 +9,10 @@ function(lumaport_target name)
   endif()
   target_compile_options(${name} PRIVATE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Woverloaded-virtual
-    -Wformat=2 -Wimplicit-fallthrough -Wno-missing-field-initializers -Werror)
+    -Wformat=2 -Wimplicit-fallthrough -Wno-missing-field-initializers)
+  if(LUMAPORT_WARNINGS_AS_ERRORS)
+    target_compile_options(${name} PRIVATE -Werror)
+  endif()
   target_compile_definitions(${name} PRIVATE
     QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
   if(NOT LUMAPORT_PLAIN_LITERALS)
