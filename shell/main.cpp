@@ -13,6 +13,9 @@
 #include <QQuickStyle>
 #include <QQuickWindow>
 
+#include <chrono>
+#include <cstdio>
+
 namespace {
 
 /// Chooses Qt's software renderer where there is no graphics processor, unless Qt's own environment variables
@@ -25,7 +28,9 @@ void chooseRenderer()
     }
 }
 
-constexpr int mostAttempts = 3; // to hand the files to the first process
+// To hand the files to the first process.
+constexpr int mostAttempts = 3;
+constexpr std::chrono::seconds patience{4};
 
 } // namespace
 
@@ -50,12 +55,14 @@ int main(int argc, char **argv)
     }
     SingleInstance instance(QDBusConnection::sessionBus());
     int attempts = 0;
+    const QDeadlineTimer deadline(patience);
     while (!instance.claim()) {
-        if (instance.forward(files)) {
+        if (instance.forward(files, deadline)) {
             return 0;
         }
         // The first process is ending, so that this one or another takes its place; or it hangs.
-        if (++attempts == mostAttempts) {
+        if (++attempts == mostAttempts || deadline.hasExpired()) {
+            std::fputs("lumaport: is running already, but does not answer\n", stderr);
             return 1;
         }
     }

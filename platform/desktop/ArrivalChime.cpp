@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QStandardPaths>
 
+#include <atomic>
 #include <canberra.h>
 
 namespace {
@@ -25,7 +26,7 @@ public:
     void play(const QString &soundName) override
     {
         const QString path = shippedFile(soundName);
-        if (path.isEmpty() || !hasAudio() || !isOpen()) {
+        if (m_isPlaying || path.isEmpty() || !hasAudio() || !isOpen()) {
             return;
         }
         ca_proplist *properties = nullptr;
@@ -35,7 +36,14 @@ public:
         ca_proplist_sets(properties, CA_PROP_MEDIA_FILENAME, QFile::encodeName(path).constData());
         ca_proplist_sets(properties, CA_PROP_MEDIA_ROLE, "event");
         ca_proplist_sets(properties, CA_PROP_EVENT_ID, "complete-transfer");
-        ca_context_play_full(m_context, 0, properties, nullptr, nullptr);
+        // The end is reported, on a thread of the library, for every sound that started.
+        m_isPlaying = true;
+        const auto ended = [](ca_context *, std::uint32_t, int, void *isPlaying) {
+            *static_cast<std::atomic<bool> *>(isPlaying) = false;
+        };
+        if (ca_context_play_full(m_context, 0, properties, ended, &m_isPlaying) != CA_SUCCESS) {
+            m_isPlaying = false;
+        }
         ca_proplist_destroy(properties);
     }
 
@@ -59,6 +67,7 @@ private:
     }
 
     ca_context *m_context = nullptr;
+    std::atomic<bool> m_isPlaying = false;
 };
 
 } // namespace

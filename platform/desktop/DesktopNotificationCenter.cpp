@@ -8,12 +8,14 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 
-#include <utility>
+#include <algorithm>
 
 namespace {
 
 constexpr QLatin1String service("org.freedesktop.Notifications");
 constexpr QLatin1String objectPath("/org/freedesktop/Notifications");
+
+constexpr qsizetype mostShown = 3; // a further one takes the place of the oldest
 
 QDBusMessage call(const QString &method)
 {
@@ -61,18 +63,18 @@ void DesktopNotificationCenter::add(const NotificationRequest &request)
     }
     m_waiting.insert(request.identifier, m_jobs->after(request.delay, [this, request] {
         m_waiting.remove(request.identifier);
-        postWhenCapabilitiesAreKnown(request);
+        m_due.append(request);
+        if (m_due.size() == 1) {
+            postFirstDue();
+        }
     }));
 }
 
-void DesktopNotificationCenter::postWhenCapabilitiesAreKnown(const NotificationRequest &request)
+void DesktopNotificationCenter::postFirstDue()
 {
     if (m_capabilities) {
-        post(request);
-        return;
-    }
-    m_due.append(request);
-    if (m_due.size() == 1) {
+        post(m_due.constFirst());
+    } else {
         askForCapabilities();
     }
 }
@@ -86,9 +88,7 @@ void DesktopNotificationCenter::askForCapabilities()
         if (reply.isValid()) {
             m_capabilities = reply.value();
         }
-        for (const NotificationRequest &request : std::exchange(m_due, {})) {
-            post(request);
-        }
+        post(m_due.constFirst());
         watcher->deleteLater();
     });
 }
@@ -107,15 +107,21 @@ void DesktopNotificationCenter::post(const NotificationRequest &request)
     // An empty title for the click on the notification itself: services draw a button for any other.
     const QStringList actions{defaultAction, QString(), request.action.identifier, request.action.title};
     constexpr int serviceDecides = -1; // how long it shows
-    message << QStringLiteral("Lumaport") << 0U << QStringLiteral("io.lumaport.Lumaport") << request.title
-            << bodyOf(request) << actions << hints << serviceDecides;
+    const uint replaced = m_shown.size() < mostShown ? 0 : m_shown.constFirst().number;
+    message << QStringLiteral("Lumaport") << replaced << QStringLiteral("io.lumaport.Lumaport")
+            << request.title << bodyOf(request) << actions << hints << serviceDecides;
 
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, request] {
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, replaced] {
+        const NotificationRequest posted = m_due.takeFirst();
         const QDBusPendingReply<uint> reply = *watcher;
         if (reply.isValid()) {
-            m_shown.insert(reply.value(), {.payload = request.payload});
-            m_chime->play(request.soundName);
+            forget(replaced);
+            m_shown.append({.number = reply.value(), .response = {.payload = posted.payload}});
+            m_chime->play(posted.soundName);
+        }
+        if (!m_due.isEmpty()) {
+            postFirstDue();
         }
         watcher->deleteLater();
     });
@@ -131,9 +137,9 @@ QString DesktopNotificationCenter::bodyOf(const NotificationRequest &request) co
 
 void DesktopNotificationCenter::actionInvoked(uint id, const QString &action)
 {
-    const auto shown = m_shown.constFind(id);
-    if (shown != m_shown.constEnd() && m_handler) {
-        NotificationResponse response = *shown;
+    const auto shown = std::ranges::find(m_shown, id, &Shown::number);
+    if (shown != m_shown.end() && m_handler) {
+        NotificationResponse response = shown->response;
         response.actionIdentifier = action;
         m_handler(response);
     }
@@ -141,15 +147,20 @@ void DesktopNotificationCenter::actionInvoked(uint id, const QString &action)
 
 void DesktopNotificationCenter::activationToken(uint id, const QString &token)
 {
-    const auto shown = m_shown.find(id); // it comes just before the action
+    const auto shown = std::ranges::find(m_shown, id, &Shown::number); // it comes just before the action
     if (shown != m_shown.end()) {
-        shown->activationToken = token;
+        shown->response.activationToken = token;
     }
 }
 
 void DesktopNotificationCenter::notificationClosed(uint id, uint /*reason*/)
 {
-    m_shown.remove(id);
+    forget(id);
+}
+
+void DesktopNotificationCenter::forget(uint number)
+{
+    m_shown.removeIf([number](const Shown &shown) { return shown.number == number; });
 }
 
 void DesktopNotificationCenter::forgetService()

@@ -34,9 +34,17 @@ private Q_SLOTS:
     void forgetService();
 
 private:
-    void postWhenCapabilitiesAreKnown(const NotificationRequest &request);
+    /// A notification that still shows, by the service's number, and what a click on it gives.
+    struct Shown
+    {
+        uint number;
+        NotificationResponse response;
+    };
+
+    void postFirstDue();
     void askForCapabilities();
     void post(const NotificationRequest &request);
+    void forget(uint number);
     QString bodyOf(const NotificationRequest &request) const;
 
     QDBusConnection m_bus;
@@ -45,6 +53,6 @@ private:
     std::function<void(const NotificationResponse &)> m_handler;
     std::optional<QStringList> m_capabilities;
     QHash<QString, std::shared_ptr<ScheduledJob>> m_waiting; ///< by request identifier
-    QList<NotificationRequest> m_due;                        ///< waiting for the capabilities only
-    QHash<uint, NotificationResponse> m_shown;               ///< what a click gives, by the service's number
+    QList<NotificationRequest> m_due;                        ///< posted one by one, the first one now
+    QList<Shown> m_shown;                                    ///< the oldest first
 };

@@ -3,6 +3,7 @@
 #include "ActivationToken.h"
 
 #include <QDBusMessage>
+#include <QStandardPaths>
 
 namespace {
 
@@ -19,7 +20,11 @@ void useTokenOf(const QVariantMap &platformData)
 SingleInstance::SingleInstance(const QDBusConnection &bus, QObject *parent)
     : QObject(parent)
     , m_bus(bus)
-{}
+    , m_lock(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+             QStringLiteral("/lumaport.lock"))
+{
+    m_lock.setStaleLockTime(0); // however old, it holds while its process lives
+}
 
 SingleInstance::~SingleInstance()
 {
@@ -32,7 +37,8 @@ SingleInstance::~SingleInstance()
 bool SingleInstance::claim()
 {
     if (!m_bus.isConnected()) {
-        return true;
+        // Where no lock can be made, nothing tells of another process.
+        return m_lock.tryLock() || m_lock.error() != QLockFile::LockFailedError;
     }
     // The object first: whoever sees the name may call at once.
     m_bus.registerObject(objectPath, this, QDBusConnection::ExportAllSlots);
@@ -43,7 +49,7 @@ bool SingleInstance::claim()
     return m_isClaimed;
 }
 
-bool SingleInstance::forward(const QList<QUrl> &files) const
+bool SingleInstance::forward(const QList<QUrl> &files, const QDeadlineTimer &patience) const
 {
     const QString method = files.isEmpty() ? QStringLiteral("Activate") : QStringLiteral("Open");
     QDBusMessage message = QDBusMessage::createMethodCall(
@@ -62,7 +68,8 @@ bool SingleInstance::forward(const QList<QUrl> &files) const
         platformData.insert(QStringLiteral("activation-token"), token);
     }
     message << platformData;
-    return m_bus.call(message).type() == QDBusMessage::ReplyMessage;
+    const auto remaining = static_cast<int>(patience.remainingTime());
+    return m_bus.call(message, QDBus::Block, remaining).type() == QDBusMessage::ReplyMessage;
 }
 
 void SingleInstance::Activate(const QVariantMap &platformData)

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDeadlineTimer>
 #include <QList>
+#include <QLockFile>
 #include <QObject>
 #include <QUrl>
 #include <QVariantMap>
 
 /// One process for each session: the first one owns the application's bus name and answers the others'
-/// requests by `org.freedesktop.Application` (the desktop entry standard, "D-Bus Activation").
+/// requests by `org.freedesktop.Application` (the desktop entry standard, "D-Bus Activation"). Without a bus
+/// it owns a lock file, and the others' requests fail.
 class SingleInstance : public QObject
 {
     Q_OBJECT
@@ -17,12 +20,12 @@ public:
     explicit SingleInstance(const QDBusConnection &bus, QObject *parent = nullptr);
     ~SingleInstance() override;
 
-    /// True when this process is the first, or when there is no bus to ask.
+    /// True when this process is the first.
     bool claim();
 
     /// Asks the first process to show its window, with the files that this one was given, and waits until it
-    /// has. False when it did not: it may just be ending.
-    bool forward(const QList<QUrl> &files) const;
+    /// has, as long as `patience` lasts. False when it did not: it may just be ending.
+    bool forward(const QList<QUrl> &files, const QDeadlineTimer &patience) const;
 
     // NOLINTBEGIN(readability-identifier-naming): the names on the bus.
 public Q_SLOTS:
@@ -38,5 +41,6 @@ Q_SIGNALS:
 
 private:
     QDBusConnection m_bus;
+    QLockFile m_lock;
     bool m_isClaimed = false;
 };

@@ -27,7 +27,11 @@ void install(void (*handler)(int))
     action.sa_handler = handler;
     action.sa_flags = SA_RESTART;
     for (const int signal : terminating) {
-        ::sigaction(signal, &action, nullptr);
+        struct sigaction present = {};
+        ::sigaction(signal, nullptr, &present);
+        if (present.sa_handler != SIG_IGN) { // nohup, for one, asks to go on
+            ::sigaction(signal, &action, nullptr);
+        }
     }
 }
 

@@ -70,6 +70,11 @@ void StatusNotifierItem::registerWithWatcher()
 
 void StatusNotifierItem::askForHost()
 {
+    if (!m_bus.isConnected()) { // a call would never be answered, not even by an error
+        QMetaObject::invokeMethod(
+            this, [this] { Q_EMIT hostPresenceChanged(false); }, Qt::QueuedConnection);
+        return;
+    }
     QDBusMessage message = QDBusMessage::createMethodCall(watcherService, watcherPath,
                                                           QStringLiteral("org.freedesktop.DBus.Properties"),
                                                           QStringLiteral("Get"));

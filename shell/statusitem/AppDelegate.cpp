@@ -55,8 +55,9 @@ void AppDelegate::updateMenuIcon(AppModel &model)
                                .toolTip = icon.toolTip,
                                .accessibilityLabel = icon.accessibilityLabel});
     }
-    const auto menu = StatusMenu::entries(
-        model, {.showQuickPanel = [this] { togglePopover(); }, .openMain = [this] { openMainFromPanel(); }});
+    const auto menu = StatusMenu::entries(model, {.showQuickPanel = [this] { togglePopover(); },
+                                                  .openMain = [this] { openMainFromPanel(); },
+                                                  .replayWelcome = [this, &model] { replayWelcome(model); }});
     // The menu may be open: it is replaced only when it looks different.
     if (!std::ranges::equal(menu, m_menu, &StatusMenuEntry::looksLike)) {
         m_menu = menu;

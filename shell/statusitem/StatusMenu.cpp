@@ -46,12 +46,14 @@ QList<StatusMenuEntry> StatusMenu::entries(AppModel &model, const Actions &actio
         {.title = model.monitorTitle(), .isEnabled = false},
         monitoring(model),
         revealing(model),
+        command(tr("Convert HEIC Photos in Watched Folder"), [&model] { model.convertExistingFiles(); }),
         separator,
         format(model, OutputFormat::png, tr("Convert to PNG")),
         format(model, OutputFormat::jpeg, tr("Convert to JPEG")),
         separator,
         command(tr("Show Quick Panel"), actions.showQuickPanel),
         command(tr("Open Lumaport"), actions.openMain),
+        command(tr("Replay Signature Welcome"), actions.replayWelcome),
         command(tr("Quit Lumaport"), &QCoreApplication::quit),
     };
 }

@@ -17,6 +17,7 @@ public:
     {
         std::function<void()> showQuickPanel;
         std::function<void()> openMain;
+        std::function<void()> replayWelcome;
     };
 
     /// The entries for the model's present state. Their actions use `model` when they are called.

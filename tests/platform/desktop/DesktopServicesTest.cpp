@@ -48,6 +48,7 @@ public:
 
     QStringList capabilities;
     QList<QVariantList> calls;
+    uint lastNumber = 0;
 
 public Q_SLOTS:
     QStringList GetCapabilities() const { return capabilities; } // NOLINT(readability-identifier-naming)
@@ -55,7 +56,7 @@ public Q_SLOTS:
                 const QString &body, const QStringList &actions, const QVariantMap &hints, int timeout)
     {
         calls << QVariantList{app, replaces, icon, title, body, actions, hints, timeout};
-        return static_cast<uint>(calls.size());
+        return replaces != 0 ? replaces : ++lastNumber;
     }
 };
 
@@ -154,6 +155,32 @@ private Q_SLOTS:
         post();
         QTRY_COMPARE(m_service->calls.size(), 2); // whatever was sent before has arrived by now
         QCOMPARE(m_responses.size(), 1);
+    }
+
+    void shouldLetNoMoreThanThreeShowAtOnce()
+    {
+        const auto add = [this](const QString &path) {
+            NotificationRequest photo = request();
+            photo.identifier = path;
+            photo.payload = {{"outputPath", path}};
+            m_center->add(photo);
+        };
+        for (const QString path : {"/1", "/2", "/3", "/4", "/5"}) {
+            add(path);
+        }
+        m_jobs->advance(250ms);
+        QTRY_COMPARE(m_chime->played.size(), 5);
+        add("/6");
+        m_jobs->advance(250ms);
+        QTRY_COMPARE(m_chime->played.size(), 6);
+        QList<uint> replaced;
+        for (const QVariantList &call : std::as_const(m_service->calls)) {
+            replaced << call[1].toUInt();
+        }
+        QCOMPARE(replaced, QList<uint>({0, 0, 0, 1, 2, 3}));
+        m_service->emitSignal("ActionInvoked", {1U, "default"});
+        QTRY_COMPARE(m_responses.size(), 1);
+        QCOMPARE(m_responses.first().payload.value("outputPath"), QVariant("/4"));
     }
 
     void shouldEscapeNamesForMarkupAndForgetAServiceThatIsGone()

@@ -180,6 +180,10 @@ private Q_SLOTS:
         command("Reveal in Finder").action();
         QCOMPARE(shell.workspace->revealed, QList{shell.url("IMG_1.png")});
 
+        shell.write("IMG_2.HEIC");
+        command("Convert HEIC Photos in Watched Folder").action();
+        QCOMPARE(shell.model().items().size(), 3); // also the photo that is converted already
+
         command("Show Quick Panel").action();
         QVERIFY(shell.panelWindow->isVisible());
         command("Open Lumaport").action();
@@ -196,7 +200,7 @@ private Q_SLOTS:
     void shouldOpenTheWindowThenReplayTheWelcomeOneTurnLater()
     {
         ShellFixture shell;
-        shell.delegate.replayWelcome(shell.model());
+        shell.item->command("Replay Signature Welcome").action();
         QCOMPARE(shell.mainOpened, 1);
         QCOMPARE(shell.model().welcomeReplayToken(), 0);
         shell.turn();
