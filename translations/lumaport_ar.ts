@@ -583,6 +583,14 @@
         <source>Resume Watching</source>
         <translation>استئناف المراقبة</translation>
     </message>
+    <message>
+        <source>Convert HEIC Photos in Watched Folder</source>
+        <translation>تحويل صور HEIC في المجلد المراقَب</translation>
+    </message>
+    <message>
+        <source>Replay Signature Welcome</source>
+        <translation>إعادة عرض الترحيب</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

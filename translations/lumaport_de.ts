@@ -579,6 +579,14 @@
         <source>Resume Watching</source>
         <translation>Überwachung fortsetzen</translation>
     </message>
+    <message>
+        <source>Convert HEIC Photos in Watched Folder</source>
+        <translation>HEIC-Fotos im überwachten Ordner umwandeln</translation>
+    </message>
+    <message>
+        <source>Replay Signature Welcome</source>
+        <translation>Begrüßung erneut abspielen</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

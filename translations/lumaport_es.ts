@@ -579,6 +579,14 @@
         <source>Resume Watching</source>
         <translation>Reanudar vigilancia</translation>
     </message>
+    <message>
+        <source>Convert HEIC Photos in Watched Folder</source>
+        <translation>Convertir fotos HEIC de la carpeta vigilada</translation>
+    </message>
+    <message>
+        <source>Replay Signature Welcome</source>
+        <translation>Repetir la bienvenida animada</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

@@ -579,6 +579,14 @@
         <source>Resume Watching</source>
         <translation>Reprendre la surveillance</translation>
     </message>
+    <message>
+        <source>Convert HEIC Photos in Watched Folder</source>
+        <translation>Convertir les photos HEIC du dossier surveillé</translation>
+    </message>
+    <message>
+        <source>Replay Signature Welcome</source>
+        <translation>Revoir l’accueil animé</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

@@ -579,6 +579,14 @@
         <source>Resume Watching</source>
         <translation>Riprendi monitoraggio</translation>
     </message>
+    <message>
+        <source>Convert HEIC Photos in Watched Folder</source>
+        <translation>Converti le foto HEIC nella cartella monitorata</translation>
+    </message>
+    <message>
+        <source>Replay Signature Welcome</source>
+        <translation>Rivedi il benvenuto animato</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

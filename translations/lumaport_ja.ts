@@ -578,6 +578,14 @@
         <source>Resume Watching</source>
         <translation>監視を再開</translation>
     </message>
+    <message>
+        <source>Convert HEIC Photos in Watched Folder</source>
+        <translation>監視フォルダーの HEIC 写真を変換</translation>
+    </message>
+    <message>
+        <source>Replay Signature Welcome</source>
+        <translation>ウェルカムをもう一度再生</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

@@ -580,6 +580,14 @@
         <source>Resume Watching</source>
         <translation>Wznów obserwowanie</translation>
     </message>
+    <message>
+        <source>Convert HEIC Photos in Watched Folder</source>
+        <translation>Konwertuj zdjęcia HEIC z obserwowanego folderu</translation>
+    </message>
+    <message>
+        <source>Replay Signature Welcome</source>
+        <translation>Odtwórz powitanie ponownie</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

@@ -579,6 +579,14 @@
         <source>Resume Watching</source>
         <translation>Retomar monitoramento</translation>
     </message>
+    <message>
+        <source>Convert HEIC Photos in Watched Folder</source>
+        <translation>Converter fotos HEIC da pasta monitorada</translation>
+    </message>
+    <message>
+        <source>Replay Signature Welcome</source>
+        <translation>Rever as boas-vindas animadas</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

@@ -578,6 +578,14 @@
         <source>Resume Watching</source>
         <translation>恢复监视</translation>
     </message>
+    <message>
+        <source>Convert HEIC Photos in Watched Folder</source>
+        <translation>转换监视文件夹中的 HEIC 照片</translation>
+    </message>
+    <message>
+        <source>Replay Signature Welcome</source>
+        <translation>重播欢迎动画</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>
