@@ -151,6 +151,15 @@ private Q_SLOTS:
                 QVERIFY(scene.findText(QStringLiteral("%1% quality").arg(percent)));
             }
         }
+        for (const auto &[key, percent] :
+             {std::pair{Qt::Key_Up, 70}, std::pair{Qt::Key_PageUp, 80}, std::pair{Qt::Key_End, 100},
+              std::pair{Qt::Key_Down, 95}, std::pair{Qt::Key_PageDown, 85}, std::pair{Qt::Key_Home, 65}}) {
+            scene.press(key);
+            QCOMPARE(scene.model.settings().jpegQuality, percent / 100.0);
+        }
+        const QAccessibleValueInterface *range = Scene::accessible(slider)->valueInterface();
+        QCOMPARE(range->minimumValue().toReal(), 0.65);
+        QCOMPARE(range->maximumValue().toReal(), 1.0);
         // What was stored is truncated to whole percent where it is shown, and stays as it is.
         for (const auto &[quality, percent] :
              {std::pair{0.85, 85}, std::pair{0.7999999, 79}, std::pair{0.3, 30}, std::pair{1.7, 170}}) {
