@@ -15,9 +15,9 @@ Item {
     Accessible.onPressAction: button.clicked()
     Accessible.selectable: true
     Accessible.selected: selected
-    Keys.onEnterPressed: button.clicked()
-    Keys.onReturnPressed: button.clicked()
-    Keys.onSpacePressed: button.clicked()
+    Keys.onEnterPressed: event => event.isAutoRepeat || button.clicked()
+    Keys.onReturnPressed: event => event.isAutoRepeat || button.clicked()
+    Keys.onSpacePressed: event => event.isAutoRepeat || button.clicked()
     activeFocusOnTab: selected || activeFocus
 
     TapHandler {

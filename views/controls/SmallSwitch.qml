@@ -11,8 +11,8 @@ T.Switch {
     Accessible.name: text
     Accessible.onPressAction: control.chosen(!control.checked)
     Accessible.onToggleAction: control.chosen(!control.checked)
-    Keys.onEnterPressed: control.chosen(!control.checked)
-    Keys.onReturnPressed: control.chosen(!control.checked)
+    Keys.onEnterPressed: event => event.isAutoRepeat || control.chosen(!control.checked)
+    Keys.onReturnPressed: event => event.isAutoRepeat || control.chosen(!control.checked)
     font.pixelSize: 12
     implicitHeight: Math.max(20, implicitContentHeight)
     implicitWidth: implicitContentWidth + leftPadding + rightPadding

@@ -66,12 +66,23 @@ Item {
         spacing: 4
 
         BodyText {
+            id: name
+
             elide: Text.ElideMiddle
             font.weight: Font.Medium
             maximumLineCount: 1
             objectName: "name"
             text: row.displayName
             width: parent.width
+
+            HoverHandler {
+                id: nameHover
+            }
+
+            HelpTip {
+                hovered: nameHover.hovered && name.truncated
+                text: row.displayName
+            }
         }
 
         BodyText {
@@ -101,6 +112,7 @@ Item {
         }
 
         QuietButton {
+            Accessible.description: row.displayName
             objectName: "tryAgain"
             text: qsTr("Try again")
             visible: row.rowAction === ArrivalsListModel.TryAgain

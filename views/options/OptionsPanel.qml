@@ -16,6 +16,7 @@ Rectangle {
 
     Accessible.name: qsTr("Make it yours")
     Accessible.role: Accessible.Pane
+    Keys.onEscapePressed: panel.closeRequested(Qt.ShortcutFocusReason)
     color: LumaportPalette.panel
     implicitWidth: 258
 

@@ -3,7 +3,7 @@ import QtQuick.Templates as T
 import Lumaport.Vocabulary
 
 // A button without a background: symbol, text, focus ring, and `help` as its tool tip. Space, Return and the assistive
-// interface press it.
+// interface press it; a key that is held presses it once.
 // With `display: AbstractButton.IconOnly` the text is only spoken.
 T.AbstractButton {
     id: control
@@ -17,8 +17,8 @@ T.AbstractButton {
     Accessible.description: help === text ? "" : help
     Accessible.name: text
     Accessible.onPressAction: control.enabled ? control.clicked() : undefined
-    Keys.onEnterPressed: control.clicked()
-    Keys.onReturnPressed: control.clicked()
+    Keys.onEnterPressed: event => event.isAutoRepeat || control.clicked()
+    Keys.onReturnPressed: event => event.isAutoRepeat || control.clicked()
     focusPolicy: Qt.StrongFocus
     font.pixelSize: 12
     hoverEnabled: true

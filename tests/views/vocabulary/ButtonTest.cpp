@@ -31,8 +31,11 @@ private Q_SLOTS:
             button->forceActiveFocus();
             scene.click(button);
             scene.press(Qt::Key_Space);
-            scene.press(Qt::Key_Return);
-            scene.press(Qt::Key_Enter);
+            for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+                scene.press(key);
+                QKeyEvent held(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+                QCoreApplication::sendEvent(&scene.window, &held);
+            }
             Scene::accessible(button)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         };
         pressInEveryWay();
