@@ -48,7 +48,8 @@ private Q_SLOTS:
         }
         const QByteArray latin1 = QFile::encodeName(folder.path()) + "/\xfc"
                                                                      "ber.heic";
-        FileDescriptor(::open(latin1.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
+        const FileDescriptor other(::open(latin1.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
+        QVERIFY(other.isOpen());
         QVERIFY(QDir(folder.path()).mkdir("sub.heic"));
         writeFile(folder.filePath("sub.heic/d.heic"), "");
 
