@@ -69,7 +69,8 @@ def make_mosaic(photo, tile_count):
             box(b"idat", struct.pack(">BBBBHH", 0, 0, ROWS - 1, COLUMNS - 1, COLUMNS * SIDE, ROWS * SIDE)),
             full_box(b"iloc", 1, b"\x44\x00", struct.pack(">H", grid), places))
 
+    # Each place has bytes of its own, as in a camera's photo.
+    placed = list(itertools.islice(itertools.cycle(tiles), total))
     start = len(header) + len(meta([(0, 0)] * total)) + 8
-    starts = itertools.accumulate(map(len, tiles), initial=start)
-    places = itertools.cycle(zip(starts, map(len, tiles)))
-    return header + meta(list(itertools.islice(places, total))) + box(b"mdat", *tiles)
+    starts = itertools.accumulate(map(len, placed), initial=start)
+    return header + meta(list(zip(starts, map(len, placed)))) + box(b"mdat", *placed)

@@ -178,6 +178,12 @@ private Q_SLOTS:
         QVERIFY(rename("a.heic", "b.heic"));
         m_fixture->settle();
         QCOMPARE(converted(), QStringList{"b.heic"});
+        m_fixture->engine->succeed("b.png");
+        QVERIFY(rename("b.heic", "b"));
+        m_fixture->scan();
+        QVERIFY(rename("b", "b.heic")); // arrives a second time, as it was
+        m_fixture->settle();
+        QCOMPARE(converted(), QStringList{"b.heic"});
     }
 
     void shouldConvertAfterResumingWhatArrivedDuringAPause()

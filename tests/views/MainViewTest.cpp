@@ -194,6 +194,10 @@ private Q_SLOTS:
         QVERIFY(button->hasActiveFocus());
         QVERIFY(button->property("visualFocus").toBool());
         m_scene->press(Qt::Key_Return);
+        m_scene->find("close")->forceActiveFocus(Qt::TabFocusReason);
+        m_scene->press(Qt::Key_Escape);
+        QVERIFY(!m_scene->find("optionsPanel") && button->hasActiveFocus());
+        m_scene->press(Qt::Key_Return);
         m_scene->click(m_scene->find("close"));
         QVERIFY(button->hasActiveFocus());
         QVERIFY2(!button->property("visualFocus").toBool(), "no ring after a click");
