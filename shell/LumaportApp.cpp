@@ -4,6 +4,7 @@
 #include "AppModel.h"
 #include "AppModelSingleton.h"
 #include "JobScheduler.h"
+#include "LoginItem.h"
 #include "MainCommands.h"
 #include "MainViewController.h"
 #include "MainWindow.h"
@@ -27,11 +28,12 @@ LumaportApp::LumaportApp(SingleInstance &instance)
     m_portal = std::make_unique<SettingsPortal>(QDBusConnection::sessionBus(), *m_appearance);
     SystemAppearanceSingleton::provide(*m_appearance);
 
-    m_delegate = std::make_unique<AppDelegate>(*m_engine, jobs, &StatusItem::create);
+    m_loginItem = std::make_unique<LoginItem>(LoginItem::userFolder());
+    m_delegate = std::make_unique<AppDelegate>(*m_engine, *m_loginItem, jobs, &StatusItem::create);
     AppDelegate::applicationDidFinishLaunching(*services.notifications);
     m_model = std::make_unique<AppModel>(std::move(services));
     AppModelSingleton::provide(*m_model);
-    m_commands = std::make_unique<MainCommands>(*m_model, *m_delegate, layout);
+    m_commands = std::make_unique<MainCommands>(*m_model, *m_delegate, *m_loginItem, layout);
     m_mainView = std::make_unique<MainViewController>(*m_model, defaults);
     m_window = std::make_unique<MainWindow>(
         *m_engine,
@@ -42,8 +44,14 @@ LumaportApp::LumaportApp(SingleInstance &instance)
     const auto openMain = [this] { m_window->open(); };
     QObject::connect(&instance, &SingleInstance::activated, m_commands.get(), openMain);
     QObject::connect(&instance, &SingleInstance::opened, m_model.get(), &AppModel::convertManually);
-    openMain();
+    const bool isStartedByBus = SingleInstance::takeStartByBus();
+    if (!isStartedByBus) {
+        openMain();
+    }
     m_delegate->configureMenuBar(*m_model, openMain);
+    if (isStartedByBus) {
+        m_delegate->openMainUnlessInTray();
+    }
 }
 
 LumaportApp::~LumaportApp() = default;

@@ -4,6 +4,7 @@
 
 class AppDelegate;
 class AppModel;
+class LoginItem;
 class MainCommands;
 class MainViewController;
 class MainWindow;
@@ -26,6 +27,7 @@ private:
     std::unique_ptr<SettingsPortal> m_portal;
     std::unique_ptr<AppModel> m_model;
     std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<LoginItem> m_loginItem;
     std::unique_ptr<AppDelegate> m_delegate;
     std::unique_ptr<MainCommands> m_commands;
     std::unique_ptr<MainViewController> m_mainView;

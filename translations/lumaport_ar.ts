@@ -200,6 +200,10 @@
         <source>Use Recommended Window Size</source>
         <translation>استخدام حجم النافذة الموصى به</translation>
     </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>التشغيل عند تسجيل الدخول</translation>
+    </message>
 </context>
 <context>
     <name>ConversionError</name>
@@ -590,6 +594,10 @@
     <message>
         <source>Replay Signature Welcome</source>
         <translation>إعادة عرض الترحيب</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>التشغيل عند تسجيل الدخول</translation>
     </message>
 </context>
 <context>

@@ -196,6 +196,10 @@
         <source>Use Recommended Window Size</source>
         <translation>Empfohlene Fenstergröße verwenden</translation>
     </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Bei Anmeldung starten</translation>
+    </message>
 </context>
 <context>
     <name>ConversionError</name>
@@ -586,6 +590,10 @@
     <message>
         <source>Replay Signature Welcome</source>
         <translation>Begrüßung erneut abspielen</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Bei Anmeldung starten</translation>
     </message>
 </context>
 <context>

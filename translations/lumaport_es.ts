@@ -196,6 +196,10 @@
         <source>Use Recommended Window Size</source>
         <translation>Usar el tamaño de ventana recomendado</translation>
     </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Iniciar al entrar en la sesión</translation>
+    </message>
 </context>
 <context>
     <name>ConversionError</name>
@@ -586,6 +590,10 @@
     <message>
         <source>Replay Signature Welcome</source>
         <translation>Repetir la bienvenida animada</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Iniciar al entrar en la sesión</translation>
     </message>
 </context>
 <context>

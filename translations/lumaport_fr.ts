@@ -196,6 +196,10 @@
         <source>Use Recommended Window Size</source>
         <translation>Utiliser la taille de fenêtre recommandée</translation>
     </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Lancer à l’ouverture de session</translation>
+    </message>
 </context>
 <context>
     <name>ConversionError</name>
@@ -586,6 +590,10 @@
     <message>
         <source>Replay Signature Welcome</source>
         <translation>Revoir l’accueil animé</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Lancer à l’ouverture de session</translation>
     </message>
 </context>
 <context>

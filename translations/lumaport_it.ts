@@ -196,6 +196,10 @@
         <source>Use Recommended Window Size</source>
         <translation>Usa le dimensioni finestra consigliate</translation>
     </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Avvia all’accesso</translation>
+    </message>
 </context>
 <context>
     <name>ConversionError</name>
@@ -586,6 +590,10 @@
     <message>
         <source>Replay Signature Welcome</source>
         <translation>Rivedi il benvenuto animato</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Avvia all’accesso</translation>
     </message>
 </context>
 <context>

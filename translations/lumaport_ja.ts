@@ -195,6 +195,10 @@
         <source>Use Recommended Window Size</source>
         <translation>推奨のウィンドウサイズにする</translation>
     </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>ログイン時に起動</translation>
+    </message>
 </context>
 <context>
     <name>ConversionError</name>
@@ -585,6 +589,10 @@
     <message>
         <source>Replay Signature Welcome</source>
         <translation>ウェルカムをもう一度再生</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>ログイン時に起動</translation>
     </message>
 </context>
 <context>

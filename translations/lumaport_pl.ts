@@ -197,6 +197,10 @@
         <source>Use Recommended Window Size</source>
         <translation>Użyj zalecanego rozmiaru okna</translation>
     </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Uruchamiaj przy logowaniu</translation>
+    </message>
 </context>
 <context>
     <name>ConversionError</name>
@@ -587,6 +591,10 @@
     <message>
         <source>Replay Signature Welcome</source>
         <translation>Odtwórz powitanie ponownie</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Uruchamiaj przy logowaniu</translation>
     </message>
 </context>
 <context>

@@ -196,6 +196,10 @@
         <source>Use Recommended Window Size</source>
         <translation>Usar tamanho de janela recomendado</translation>
     </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Iniciar ao entrar na sessão</translation>
+    </message>
 </context>
 <context>
     <name>ConversionError</name>
@@ -586,6 +590,10 @@
     <message>
         <source>Replay Signature Welcome</source>
         <translation>Rever as boas-vindas animadas</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Iniciar ao entrar na sessão</translation>
     </message>
 </context>
 <context>

@@ -195,6 +195,10 @@
         <source>Use Recommended Window Size</source>
         <translation>使用推荐的窗口大小</translation>
     </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>登录时启动</translation>
+    </message>
 </context>
 <context>
     <name>ConversionError</name>
@@ -585,6 +589,10 @@
     <message>
         <source>Replay Signature Welcome</source>
         <translation>重播欢迎动画</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>登录时启动</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,8 @@
 #include <QDBusMessage>
 #include <QStandardPaths>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr QLatin1String serviceName("io.lumaport.Lumaport");
@@ -32,6 +34,17 @@ SingleInstance::~SingleInstance()
         m_bus.unregisterService(serviceName);
         m_bus.unregisterObject(objectPath);
     }
+}
+
+bool SingleInstance::takeStartByBus()
+{
+    const bool isStarter = qEnvironmentVariableIsSet("DBUS_STARTER_BUS_TYPE");
+    qunsetenv("DBUS_STARTER_BUS_TYPE");
+    qunsetenv("DBUS_STARTER_ADDRESS");
+    // A terminal or a launcher that the bus started hands its variables on to what a person starts in it.
+    const bool isByHand = ::isatty(STDIN_FILENO) != 0 || qEnvironmentVariableIsSet("DESKTOP_STARTUP_ID") ||
+                          qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN");
+    return isStarter && !isByHand;
 }
 
 bool SingleInstance::claim()

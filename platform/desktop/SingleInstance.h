@@ -20,6 +20,10 @@ public:
     explicit SingleInstance(const QDBusConnection &bus, QObject *parent = nullptr);
     ~SingleInstance() override;
 
+    /// Whether the bus started this process, so that a window opens only when a call asks for it. Forgets it,
+    /// so that programs started by this one do not take it for theirs.
+    static bool takeStartByBus();
+
     /// True when this process is the first.
     bool claim();
 

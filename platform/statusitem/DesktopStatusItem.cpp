@@ -67,6 +67,11 @@ void DesktopStatusItem::setMenu(const QList<StatusMenuEntry> &entries)
     }
 }
 
+bool DesktopStatusItem::isShown() const
+{
+    return m_notifierItem->isShown() || (m_fallback && m_fallback->isShown());
+}
+
 std::optional<QRect> DesktopStatusItem::place() const
 {
     const auto inTray = m_fallback ? m_fallback->place() : std::nullopt;

@@ -19,6 +19,7 @@ public:
     void setLook(const StatusItemLook &look) override;
     void setMenu(const QList<StatusMenuEntry> &entries) override;
     std::optional<QRect> place() const override;
+    bool isShown() const override;
 
 private:
     void setHostPresent(bool isPresent);

@@ -22,12 +22,12 @@ struct StatusItemLook
 /// One line of the item's own menu.
 struct StatusMenuEntry
 {
-    enum class Kind { command, separator };
+    enum class Kind { command, toggle, separator };
 
     Kind kind = Kind::command;
     QString title;
     bool isEnabled = true;
-    std::optional<bool> isChecked; ///< one choice of several, marked while it holds
+    std::optional<bool> isChecked; ///< of a toggle; of a command that is one choice of several
     std::function<void()> action;
 
     /// Equal in all but the action, which does not show.
@@ -51,6 +51,8 @@ public:
     virtual void setMenu(const QList<StatusMenuEntry> &entries) = 0;
     /// Where on the desktop the item is, in device-independent pixels, as far as that is known.
     virtual std::optional<QRect> place() const = 0;
+    /// A tray shows the item at present.
+    virtual bool isShown() const = 0;
 
     /// A StatusNotifierItem where the desktop has a host for these, else an icon in an XEmbed tray; follows
     /// when either comes or goes.

@@ -82,7 +82,8 @@ void StatusNotifierItem::askForHost()
     auto *reply = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
     connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
         const QDBusPendingReply<QDBusVariant> answer = *reply;
-        Q_EMIT hostPresenceChanged(answer.isValid() && answer.value().variant().toBool());
+        m_hasHost = answer.isValid() && answer.value().variant().toBool();
+        Q_EMIT hostPresenceChanged(m_hasHost);
         reply->deleteLater();
     });
 }

@@ -34,6 +34,7 @@ public:
     void setMenu(const QList<StatusMenuEntry> &entries) override;
     /// Where the last click was.
     std::optional<QRect> place() const override { return m_place; }
+    bool isShown() const override { return m_hasHost; }
 
     static QString category() { return QStringLiteral("ApplicationStatus"); }
     static QString id() { return QStringLiteral("io.lumaport.Lumaport"); }
@@ -73,4 +74,5 @@ private:
     QString m_serviceName;
     StatusItemLook m_look;
     std::optional<QRect> m_place;
+    bool m_hasHost = false;
 };

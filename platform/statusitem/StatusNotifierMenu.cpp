@@ -134,7 +134,9 @@ QVariantMap StatusNotifierMenu::propertiesOf(int id) const
     label.replace(QLatin1Char('_'), QLatin1String("__"));
     QVariantMap properties{{QStringLiteral("label"), label}, {QStringLiteral("enabled"), entry->isEnabled}};
     if (entry->isChecked) {
-        properties.insert(QStringLiteral("toggle-type"), QStringLiteral("radio"));
+        properties.insert(QStringLiteral("toggle-type"), entry->kind == StatusMenuEntry::Kind::toggle
+                                                             ? QStringLiteral("checkmark")
+                                                             : QStringLiteral("radio"));
         properties.insert(QStringLiteral("toggle-state"), *entry->isChecked ? 1 : 0);
     }
     return properties;

@@ -66,7 +66,8 @@ void TrayIconItem::show(const StatusMenuEntry &entry, QAction &line)
     line.setText(entry.title);
     line.setEnabled(entry.isEnabled);
     line.setCheckable(entry.isChecked.has_value());
-    line.setActionGroup(entry.isChecked ? m_choices.get() : nullptr);
+    const bool isChoice = entry.isChecked && entry.kind == StatusMenuEntry::Kind::command;
+    line.setActionGroup(isChoice ? m_choices.get() : nullptr);
     line.setChecked(entry.isChecked.value_or(false));
 }
 
@@ -74,4 +75,9 @@ std::optional<QRect> TrayIconItem::place() const
 {
     const QRect geometry = m_icon->geometry();
     return geometry.isEmpty() ? std::nullopt : std::optional(geometry);
+}
+
+bool TrayIconItem::isShown() const
+{
+    return QSystemTrayIcon::isSystemTrayAvailable();
 }

@@ -2,6 +2,7 @@
 
 #include "AppModel.h"
 #include "JobScheduler.h"
+#include "LoginItem.h"
 #include "MenuBarViewController.h"
 #include "NotificationManager.h"
 #include "PanelWindow.h"
@@ -12,9 +13,17 @@
 
 #include <algorithm>
 
-AppDelegate::AppDelegate(QQmlEngine &engine, std::shared_ptr<JobScheduler> jobs,
+namespace {
+
+// At login a panel may come later than the program.
+constexpr std::chrono::seconds trayPatience{10};
+
+} // namespace
+
+AppDelegate::AppDelegate(QQmlEngine &engine, LoginItem &loginItem, std::shared_ptr<JobScheduler> jobs,
                          StatusItemMaker makeStatusItem)
     : m_engine(engine)
+    , m_loginItem(loginItem)
     , m_jobs(std::move(jobs))
     , m_makeStatusItem(std::move(makeStatusItem))
 {}
@@ -44,6 +53,7 @@ void AppDelegate::configureMenuBar(AppModel &model, std::function<void()> openMa
          {&AppModel::itemsChanged, &AppModel::monitorTextsChanged, &AppModel::settingsChanged}) {
         connect(&model, signal, this, [this, &model] { updateMenuIcon(model); });
     }
+    connect(&m_loginItem, &LoginItem::enabledChanged, this, [this, &model] { updateMenuIcon(model); });
 }
 
 void AppDelegate::updateMenuIcon(AppModel &model)
@@ -55,9 +65,10 @@ void AppDelegate::updateMenuIcon(AppModel &model)
                                .toolTip = icon.toolTip,
                                .accessibilityLabel = icon.accessibilityLabel});
     }
-    const auto menu = StatusMenu::entries(model, {.showQuickPanel = [this] { togglePopover(); },
-                                                  .openMain = [this] { openMainFromPanel(); },
-                                                  .replayWelcome = [this, &model] { replayWelcome(model); }});
+    const auto menu = StatusMenu::entries(model, m_loginItem,
+                                          {.showQuickPanel = [this] { togglePopover(); },
+                                           .openMain = [this] { openMainFromPanel(); },
+                                           .replayWelcome = [this, &model] { replayWelcome(model); }});
     // The menu may be open: it is replaced only when it looks different.
     if (!std::ranges::equal(menu, m_menu, &StatusMenuEntry::looksLike)) {
         m_menu = menu;
@@ -69,6 +80,15 @@ void AppDelegate::openMainFromPanel()
 {
     m_popover->hide();
     m_openMainWindow();
+}
+
+void AppDelegate::openMainUnlessInTray()
+{
+    m_trayTask = m_jobs->after(trayPatience, [this] {
+        if (!m_statusItem->isShown()) {
+            m_openMainWindow();
+        }
+    });
 }
 
 void AppDelegate::togglePopover()

@@ -1,6 +1,7 @@
 #include "StatusMenu.h"
 
 #include "AppModel.h"
+#include "LoginItem.h"
 
 namespace {
 
@@ -40,7 +41,7 @@ StatusMenuEntry format(AppModel &model, OutputFormat choice, const QString &titl
 
 } // namespace
 
-QList<StatusMenuEntry> StatusMenu::entries(AppModel &model, const Actions &actions)
+QList<StatusMenuEntry> StatusMenu::entries(AppModel &model, LoginItem &loginItem, const Actions &actions)
 {
     return {
         {.title = model.monitorTitle(), .isEnabled = false},
@@ -54,6 +55,10 @@ QList<StatusMenuEntry> StatusMenu::entries(AppModel &model, const Actions &actio
         command(tr("Show Quick Panel"), actions.showQuickPanel),
         command(tr("Open Lumaport"), actions.openMain),
         command(tr("Replay Signature Welcome"), actions.replayWelcome),
+        {.kind = StatusMenuEntry::Kind::toggle,
+         .title = tr("Start at Login"),
+         .isChecked = loginItem.isEnabled(),
+         .action = [&loginItem] { loginItem.setEnabled(!loginItem.isEnabled()); }},
         command(tr("Quit Lumaport"), &QCoreApplication::quit),
     };
 }

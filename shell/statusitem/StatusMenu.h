@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 
 class AppModel;
+class LoginItem;
 
 /// The status item's own menu. It offers what the panel does, for desktops that show only menus.
 struct StatusMenu
@@ -20,8 +21,8 @@ public:
         std::function<void()> replayWelcome;
     };
 
-    /// The entries for the model's present state. Their actions use `model` when they are called.
-    static QList<StatusMenuEntry> entries(AppModel &model, const Actions &actions);
+    /// The entries for the present state. Their actions use `model` and `loginItem` when they are called.
+    static QList<StatusMenuEntry> entries(AppModel &model, LoginItem &loginItem, const Actions &actions);
 
     /// The title of the command that pauses or resumes watching.
     static QString watchingTitle(const AppModel &model);

@@ -46,6 +46,16 @@ MenuBar {
         title: qsTr("&File")
 
         CommandMenuItem {
+            checkable: true
+            checked: bar.commands.startsAtLogin
+            text: qsTr("Start at Login")
+            onTriggered: {
+                bar.commands.toggleStartAtLogin();
+                checked = Qt.binding(() => bar.commands.startsAtLogin);
+            }
+        }
+
+        CommandMenuItem {
             keys: "Ctrl+W"
             reach: Qt.WindowShortcut
             text: qsTr("Close Window")

@@ -19,6 +19,8 @@ MenuItem {
         color: item.highlighted ? LumaportPalette.deck : "transparent"
         radius: 6
     }
+    indicator: null
+
     contentItem: Item {
         BodyText {
             Accessible.ignored: true
@@ -35,6 +37,15 @@ MenuItem {
             color: LumaportPalette.muted
             font: item.font
             text: shortcut.nativeText
+        }
+
+        Symbol {
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            color: LumaportPalette.ink
+            name: "checkmark"
+            pointSize: 11
+            visible: item.checked
         }
     }
 

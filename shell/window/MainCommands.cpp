@@ -2,6 +2,7 @@
 
 #include "AppDelegate.h"
 #include "AppModel.h"
+#include "LoginItem.h"
 #include "StatusMenu.h"
 
 #include <QGuiApplication>
@@ -9,13 +10,26 @@
 
 #include <algorithm>
 
-MainCommands::MainCommands(AppModel &model, AppDelegate &delegate, MainWindowLayout layout, QObject *parent)
+MainCommands::MainCommands(AppModel &model, AppDelegate &delegate, LoginItem &loginItem,
+                           MainWindowLayout layout, QObject *parent)
     : QObject(parent)
     , m_model(model)
     , m_delegate(delegate)
+    , m_loginItem(loginItem)
     , m_layout(std::move(layout))
 {
     connect(&model, &AppModel::isWatchingChanged, this, &MainCommands::watchingTitleChanged);
+    connect(&loginItem, &LoginItem::enabledChanged, this, &MainCommands::startsAtLoginChanged);
+}
+
+bool MainCommands::startsAtLogin() const
+{
+    return m_loginItem.isEnabled();
+}
+
+void MainCommands::toggleStartAtLogin()
+{
+    m_loginItem.setEnabled(!m_loginItem.isEnabled());
 }
 
 QString MainCommands::watchingTitle() const

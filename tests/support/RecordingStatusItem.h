@@ -18,6 +18,7 @@ struct RecordingStatusItem : StatusItem
         ++menus;
     }
     std::optional<QRect> place() const override { return placeOnScreen; }
+    bool isShown() const override { return shown; }
 
     /// The command of this title; one without an action when there is none.
     StatusMenuEntry command(const QString &title) const
@@ -31,4 +32,5 @@ struct RecordingStatusItem : StatusItem
     QList<StatusMenuEntry> entries;
     int menus = 0;
     std::optional<QRect> placeOnScreen;
+    bool shown = true;
 };

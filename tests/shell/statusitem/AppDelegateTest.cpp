@@ -1,11 +1,13 @@
 #include "AppDelegate.h"
 
 #include "AppModelSingleton.h"
+#include "LoginItem.h"
 #include "ModelFixture.h"
 #include "PanelWindow.h"
 #include "RecordingStatusItem.h"
 #include "Symbol.h"
 #include "SystemAppearanceSingleton.h"
+#include "WriteFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -37,7 +39,8 @@ public:
     RecordingStatusItem *item = nullptr;
     PanelWindow *panelWindow = nullptr;
     QQmlEngine qmlEngine;
-    AppDelegate delegate{qmlEngine, jobs, [this] {
+    LoginItem loginItem{home.filePath("autostart")};
+    AppDelegate delegate{qmlEngine, loginItem, jobs, [this] {
                              auto made = std::make_unique<RecordingStatusItem>();
                              item = made.get();
                              return made;
@@ -195,6 +198,39 @@ private Q_SLOTS:
         QVERIFY(QDir(shell.home.path()).mkdir("Photos"));
         command("Retry").action();
         QVERIFY(shell.model().monitorAvailable());
+    }
+
+    void shouldStartAtLoginAsLongAsTheEntryIsInForce()
+    {
+        ShellFixture shell;
+        const auto isChecked = [&shell] { return shell.item->command("Start at Login").isChecked; };
+        const QString entry = shell.home.filePath("autostart/io.lumaport.Lumaport.desktop");
+        QCOMPARE(isChecked(), std::optional(false));
+        shell.item->command("Start at Login").action();
+        QCOMPARE(isChecked(), std::optional(true));
+        for (const QByteArray key :
+             {"Hidden=true", "X-GNOME-Autostart-enabled=false"}) { // by another program
+            writeFile(entry, "[Desktop Entry]\nType=Application\n" + key + '\n');
+            QTRY_COMPARE(isChecked(), std::optional(false));
+            shell.item->command("Start at Login").action();
+            QCOMPARE(isChecked(), std::optional(true));
+        }
+        QVERIFY(QFile::remove(entry));
+        QTRY_COMPARE(isChecked(), std::optional(false));
+        shell.item->command("Start at Login").action();
+        shell.item->command("Start at Login").action();
+        QVERIFY(!QFile::exists(entry));
+    }
+
+    void shouldOpenTheWindowOfAStartAtLoginOnlyWithoutATray()
+    {
+        for (const bool hasTray : {true, false}) {
+            ShellFixture shell;
+            shell.delegate.openMainUnlessInTray();
+            shell.item->shown = hasTray;
+            shell.pass(10s);
+            QCOMPARE(shell.mainOpened, hasTray ? 0 : 1);
+        }
     }
 
     void shouldOpenTheWindowThenReplayTheWelcomeOneTurnLater()
