@@ -49,6 +49,13 @@ void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
                    .delay = announceDelay});
 }
 
+void NotificationManager::notifyStillWatching()
+{
+    m_center->add({.identifier = QStringLiteral("lumaport-still-watching"),
+                   .title = tr("Lumaport goes on watching"),
+                   .body = tr("New photos are still converted. Start Lumaport again to open its window.")});
+}
+
 void NotificationManager::didReceive(const NotificationResponse &response) const
 {
     if (response.actionIdentifier != NotificationCenter::defaultAction &&

@@ -24,6 +24,8 @@ public:
     /// From now on clicks are answered. This desktop asks for no permission to notify.
     void configure();
     void notifyConversionFinished(const QUrl &outputURL);
+    /// For the end of the last window where no tray shows the status item.
+    void notifyStillWatching();
 
 private:
     void didReceive(const NotificationResponse &response) const;

@@ -15,6 +15,7 @@
 #include "SystemAppearance.h"
 #include "SystemAppearanceSingleton.h"
 
+#include <QGuiApplication>
 #include <QQmlEngine>
 
 LumaportApp::LumaportApp(SingleInstance &instance)
@@ -44,6 +45,9 @@ LumaportApp::LumaportApp(SingleInstance &instance)
     const auto openMain = [this] { m_window->open(); };
     QObject::connect(&instance, &SingleInstance::activated, m_commands.get(), openMain);
     QObject::connect(&instance, &SingleInstance::opened, m_model.get(), &AppModel::convertManually);
+    QObject::connect(qGuiApp, &QGuiApplication::lastWindowClosed, m_commands.get(), [this, defaults] {
+        m_delegate->lastWindowClosed(NotificationManager::shared(), *defaults);
+    });
     const bool isStartedByBus = SingleInstance::takeStartByBus();
     if (!isStartedByBus) {
         openMain();

@@ -446,6 +446,14 @@
         <source>Show in Finder</source>
         <translation>إظهار في مدير الملفات</translation>
     </message>
+    <message>
+        <source>Lumaport goes on watching</source>
+        <translation>يواصل Lumaport المراقبة</translation>
+    </message>
+    <message>
+        <source>New photos are still converted. Start Lumaport again to open its window.</source>
+        <translation>ما زالت الصور الجديدة تُحوَّل. شغّل Lumaport مرة أخرى لفتح نافذته.</translation>
+    </message>
 </context>
 <context>
     <name>OpenPanel</name>

@@ -442,6 +442,14 @@
         <source>Show in Finder</source>
         <translation>Im Dateimanager anzeigen</translation>
     </message>
+    <message>
+        <source>Lumaport goes on watching</source>
+        <translation>Lumaport überwacht weiter</translation>
+    </message>
+    <message>
+        <source>New photos are still converted. Start Lumaport again to open its window.</source>
+        <translation>Neue Fotos werden weiterhin umgewandelt. Starte Lumaport erneut, um das Fenster zu öffnen.</translation>
+    </message>
 </context>
 <context>
     <name>OpenPanel</name>

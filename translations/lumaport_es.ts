@@ -442,6 +442,14 @@
         <source>Show in Finder</source>
         <translation>Mostrar en el gestor de archivos</translation>
     </message>
+    <message>
+        <source>Lumaport goes on watching</source>
+        <translation>Lumaport sigue vigilando</translation>
+    </message>
+    <message>
+        <source>New photos are still converted. Start Lumaport again to open its window.</source>
+        <translation>Las fotos nuevas se siguen convirtiendo. Inicia Lumaport de nuevo para abrir su ventana.</translation>
+    </message>
 </context>
 <context>
     <name>OpenPanel</name>

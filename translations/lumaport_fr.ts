@@ -442,6 +442,14 @@
         <source>Show in Finder</source>
         <translation>Afficher dans le gestionnaire de fichiers</translation>
     </message>
+    <message>
+        <source>Lumaport goes on watching</source>
+        <translation>Lumaport continue de surveiller</translation>
+    </message>
+    <message>
+        <source>New photos are still converted. Start Lumaport again to open its window.</source>
+        <translation>Les nouvelles photos sont toujours converties. Relancez Lumaport pour ouvrir sa fenêtre.</translation>
+    </message>
 </context>
 <context>
     <name>OpenPanel</name>

@@ -442,6 +442,14 @@
         <source>Show in Finder</source>
         <translation>Mostra nel gestore file</translation>
     </message>
+    <message>
+        <source>Lumaport goes on watching</source>
+        <translation>Lumaport continua a osservare</translation>
+    </message>
+    <message>
+        <source>New photos are still converted. Start Lumaport again to open its window.</source>
+        <translation>Le nuove foto vengono ancora convertite. Avvia di nuovo Lumaport per aprire la finestra.</translation>
+    </message>
 </context>
 <context>
     <name>OpenPanel</name>

@@ -441,6 +441,14 @@
         <source>Show in Finder</source>
         <translation>ファイルマネージャーで表示</translation>
     </message>
+    <message>
+        <source>Lumaport goes on watching</source>
+        <translation>Lumaport は監視を続けています</translation>
+    </message>
+    <message>
+        <source>New photos are still converted. Start Lumaport again to open its window.</source>
+        <translation>新しい写真は引き続き変換されます。ウインドウを開くには、Lumaport をもう一度起動してください。</translation>
+    </message>
 </context>
 <context>
     <name>OpenPanel</name>

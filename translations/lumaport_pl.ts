@@ -443,6 +443,14 @@
         <source>Show in Finder</source>
         <translation>Pokaż w menedżerze plików</translation>
     </message>
+    <message>
+        <source>Lumaport goes on watching</source>
+        <translation>Lumaport nadal obserwuje</translation>
+    </message>
+    <message>
+        <source>New photos are still converted. Start Lumaport again to open its window.</source>
+        <translation>Nowe zdjęcia są nadal konwertowane. Uruchom Lumaport ponownie, aby otworzyć okno.</translation>
+    </message>
 </context>
 <context>
     <name>OpenPanel</name>

@@ -442,6 +442,14 @@
         <source>Show in Finder</source>
         <translation>Mostrar no gerenciador de arquivos</translation>
     </message>
+    <message>
+        <source>Lumaport goes on watching</source>
+        <translation>O Lumaport continua observando</translation>
+    </message>
+    <message>
+        <source>New photos are still converted. Start Lumaport again to open its window.</source>
+        <translation>As novas fotos continuam sendo convertidas. Inicie o Lumaport de novo para abrir a janela.</translation>
+    </message>
 </context>
 <context>
     <name>OpenPanel</name>

@@ -441,6 +441,14 @@
         <source>Show in Finder</source>
         <translation>在文件管理器中显示</translation>
     </message>
+    <message>
+        <source>Lumaport goes on watching</source>
+        <translation>Lumaport 会继续监视</translation>
+    </message>
+    <message>
+        <source>New photos are still converted. Start Lumaport again to open its window.</source>
+        <translation>新照片仍会转换。再次启动 Lumaport 即可打开窗口。</translation>
+    </message>
 </context>
 <context>
     <name>OpenPanel</name>

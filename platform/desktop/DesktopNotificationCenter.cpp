@@ -96,16 +96,21 @@ void DesktopNotificationCenter::askForCapabilities()
 void DesktopNotificationCenter::post(const NotificationRequest &request)
 {
     QDBusMessage message = call(QStringLiteral("Notify"));
-    const QVariantMap hints{
+    QVariantMap hints{
         {QStringLiteral("desktop-entry"), QStringLiteral("io.lumaport.Lumaport")},
         {QStringLiteral("category"), QStringLiteral("transfer.complete")},
         {QStringLiteral("x-lumaport-category"), request.categoryIdentifier},
-        {QStringLiteral("image-path"), QString::fromLatin1(request.image.toEncoded())},
         {QStringLiteral("urgency"), QVariant::fromValue<uchar>(1)},
         {QStringLiteral("suppress-sound"), true},
     };
-    // An empty title for the click on the notification itself: services draw a button for any other.
-    const QStringList actions{defaultAction, QString(), request.action.identifier, request.action.title};
+    if (!request.image.isEmpty()) {
+        hints.insert(QStringLiteral("image-path"), QString::fromLatin1(request.image.toEncoded()));
+    }
+    QStringList actions;
+    if (!request.action.identifier.isEmpty()) {
+        // An empty title for the click on the notification itself: services draw a button for any other.
+        actions << defaultAction << QString() << request.action.identifier << request.action.title;
+    }
     constexpr int serviceDecides = -1; // how long it shows
     const uint replaced = m_shown.size() < mostShown ? 0 : m_shown.constFirst().number;
     message << QStringLiteral("Lumaport") << replaced << QStringLiteral("io.lumaport.Lumaport")
@@ -118,7 +123,9 @@ void DesktopNotificationCenter::post(const NotificationRequest &request)
         if (reply.isValid()) {
             forget(replaced);
             m_shown.append({.number = reply.value(), .response = {.payload = posted.payload}});
-            m_chime->play(posted.soundName);
+            if (!posted.soundName.isEmpty()) {
+                m_chime->play(posted.soundName);
+            }
         }
         if (!m_due.isEmpty()) {
             postFirstDue();
@@ -130,7 +137,8 @@ void DesktopNotificationCenter::post(const NotificationRequest &request)
 QString DesktopNotificationCenter::bodyOf(const NotificationRequest &request) const
 {
     // The service knows no subtitle: it becomes the body's first line.
-    const QString text = request.subtitle + QLatin1Char('\n') + request.body;
+    const QString text =
+        request.subtitle.isEmpty() ? request.body : request.subtitle + QLatin1Char('\n') + request.body;
     const bool readsMarkup = m_capabilities && m_capabilities->contains(QLatin1String("body-markup"));
     return readsMarkup ? text.toHtmlEscaped() : text;
 }

@@ -15,6 +15,7 @@ struct NotificationAction
     QString title;
 };
 
+/// What is empty is left out of the notification; without an action a click does nothing.
 struct NotificationRequest
 {
     QString identifier; ///< two requests of the same identifier are one notification

@@ -1,6 +1,7 @@
 #include "AppDelegate.h"
 
 #include "AppModel.h"
+#include "DefaultsStore.h"
 #include "JobScheduler.h"
 #include "LoginItem.h"
 #include "MenuBarViewController.h"
@@ -17,6 +18,8 @@ namespace {
 
 // At login a panel may come later than the program.
 constexpr std::chrono::seconds trayPatience{10};
+
+const QString hasToldKey = QStringLiteral("hasToldThatWatchingGoesOn");
 
 } // namespace
 
@@ -89,6 +92,14 @@ void AppDelegate::openMainUnlessInTray()
             m_openMainWindow();
         }
     });
+}
+
+void AppDelegate::lastWindowClosed(NotificationManager &notifications, DefaultsStore &defaults) const
+{
+    if (!m_statusItem->isShown() && !defaults.boolean(hasToldKey)) {
+        defaults.store(hasToldKey, true);
+        notifications.notifyStillWatching();
+    }
 }
 
 void AppDelegate::togglePopover()

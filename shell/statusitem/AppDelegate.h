@@ -9,6 +9,7 @@
 #include <memory>
 
 class AppModel;
+class DefaultsStore;
 class JobScheduler;
 class LoginItem;
 class MenuBarViewController;
@@ -42,6 +43,9 @@ public:
     /// For a start without a window: the status item is all that there is then. Where no tray has come after
     /// some seconds, shows the main window.
     void openMainUnlessInTray();
+
+    /// Tells once, ever, that watching goes on: where no tray shows the status item nothing else does.
+    void lastWindowClosed(NotificationManager &notifications, DefaultsStore &defaults) const;
 
     /// Opens the panel at the status item, or closes it. Nothing happens before there is an item.
     void togglePopover();

@@ -222,7 +222,7 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(entry));
     }
 
-    void shouldOpenTheWindowOfAStartAtLoginOnlyWithoutATray()
+    void shouldOpenAWindowAtLoginAndTellThatWatchingGoesOnOnlyWithoutATray()
     {
         for (const bool hasTray : {true, false}) {
             ShellFixture shell;
@@ -230,6 +230,11 @@ private Q_SLOTS:
             shell.item->shown = hasTray;
             shell.pass(10s);
             QCOMPARE(shell.mainOpened, hasTray ? 0 : 1);
+
+            NotificationManager notifications(shell.center, shell.workspace);
+            shell.delegate.lastWindowClosed(notifications, *shell.defaults);
+            shell.delegate.lastWindowClosed(notifications, *shell.defaults);
+            QCOMPARE(shell.center->requests.size(), hasTray ? 0 : 1);
         }
     }
 
