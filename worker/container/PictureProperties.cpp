@@ -24,7 +24,6 @@ bool isUnderstood(std::uint32_t itemType, const ItemProperty &property)
     case fourCharacters("av1C"):
     case fourCharacters("avcC"):
     case fourCharacters("jpgC"):
-        return true;
     // These tell what the coded data tell again, or what is not needed to show the picture (ISO/IEC 23008-12,
     // 6.5; ISO/IEC 14496-12, 12.1.4 to 12.1.7; AV1 image file format, 2.3.2.3).
     case fourCharacters("a1lx"): // where the layers begin
