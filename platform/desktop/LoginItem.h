@@ -14,7 +14,7 @@ public:
     /// `folder` holds the autostart entries; it need not exist.
     explicit LoginItem(const QString &folder, QObject *parent = nullptr);
 
-    /// The autostart folder of the user (freedesktop.org's Desktop Application Autostart Specification).
+    /// The autostart folder of the user, by the XDG autostart convention.
     static QString userFolder();
 
     bool isEnabled() const { return m_isEnabled; }
