@@ -20,12 +20,17 @@ Rectangle {
     implicitHeight: column.height + 2 * padding
     radius: 22
 
+    // The answer is always a copy: after a move, the source would delete the originals.
     DropArea {
         anchors.fill: parent
         keys: ["text/uri-list"]
-        onDropped: drop => drop.accepted = workspace.controller.drop(drop.urls)
+        onDropped: drop => {
+            drop.accept(Qt.CopyAction);
+            drop.accepted = workspace.controller.drop(drop.urls);
+        }
         onEntered: drag => drag.accepted = workspace.controller.dragEntered(drag.urls)
         onExited: workspace.controller.dragLeft()
+        onPositionChanged: drag => drag.accept(Qt.CopyAction)
     }
 
     Column {

@@ -76,21 +76,25 @@ private Q_SLOTS:
         names.isEmpty() ? files.setText("IMG_1.HEIC") : files.setUrls(urls);
         show();
         const QPoint headline = m_scene->centre(m_scene->find("headline"));
+        const Qt::DropActions proposed = Qt::CopyAction | Qt::MoveAction; // with Shift a move
         const auto send = [this](auto event) {
             QCoreApplication::sendEvent(&m_scene->window, &event);
-            return event.isAccepted();
+            return event.isAccepted() &&
+                   (event.type() == QEvent::DragEnter || event.dropAction() == Qt::CopyAction);
         };
         const auto enter = [&] {
-            return send(QDragEnterEvent(headline, Qt::CopyAction, &files, Qt::LeftButton, {}));
+            return send(QDragEnterEvent(headline, proposed, &files, Qt::LeftButton, Qt::ShiftModifier));
         };
         QCOMPARE(enter(), isDropTarget);
         QCOMPARE(m_scene->findText("Drop it. We’ve got it.") != nullptr, isDropTarget);
         QCOMPARE(m_controller->stage()->isExpanded(), isDropTarget);
-        send(QDragLeaveEvent());
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(&m_scene->window, &leave);
         QVERIFY(m_scene->findText("AirDrop it. It’s ready."));
         enter();
-        send(QDragMoveEvent(headline, Qt::CopyAction, &files, Qt::LeftButton, {}));
-        QCOMPARE(send(QDropEvent(headline, Qt::CopyAction, &files, Qt::LeftButton, {})), isAccepted);
+        QCOMPARE(send(QDragMoveEvent(headline, proposed, &files, Qt::LeftButton, Qt::ShiftModifier)),
+                 isDropTarget);
+        QCOMPARE(send(QDropEvent(headline, proposed, &files, Qt::LeftButton, Qt::ShiftModifier)), isAccepted);
         QCOMPARE(m_scene->findText("Your photo just landed.") != nullptr, isAccepted);
         QCOMPARE(m_scene->findText("IMG_1.HEIC landed") != nullptr, isAccepted);
         if (isDropTarget && !isAccepted) {
