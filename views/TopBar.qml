@@ -61,7 +61,13 @@ Rectangle {
             symbol: "slider.horizontal.3"
             text: qsTr("Conversion options")
             width: 20 + 2 * horizontalPadding
-            onClicked: bar.controller.optionsVisible = !bar.controller.optionsVisible
+            onClicked: {
+                if (bar.controller.optionsVisible) {
+                    bar.closeOptions(Qt.OtherFocusReason); // an assistive program presses without giving the focus
+                } else {
+                    bar.controller.optionsVisible = true;
+                }
+            }
         }
     }
 

@@ -211,6 +211,20 @@ private Q_SLOTS:
         }
     }
 
+    void shouldPassTheKeyboardOnWhenItsControlEnds()
+    {
+        show();
+        m_scene->model.setItems({m_scene->item("a.heic", ConversionStatus::ready)});
+        showOptions(true);
+        m_controller->setProperty("showingHistory", true);
+        for (const auto &[control, next] :
+             {std::pair{"clearHistory", "recentPhotosTab"}, std::pair{"convertExisting", "openFolder"}}) {
+            m_scene->find(control)->forceActiveFocus(Qt::TabFocusReason);
+            m_scene->press(Qt::Key_Return);
+            QTRY_COMPARE(m_scene->window.activeFocusItem()->objectName(), next);
+        }
+    }
+
     void shouldSlideItsOptionsAndTakeNoClicksOnTheirWayOut()
     {
         m_scene->appearance.setMotion(SystemAppearance::Motion::Full);

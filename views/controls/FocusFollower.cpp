@@ -6,7 +6,13 @@ namespace {
 
 constexpr double margin = 12.0; // points kept free around the control
 
+/// False for the group that has the focus when none of its controls has it.
+bool isControl(const QQuickItem *focused)
+{
+    return focused && (!focused->isFocusScope() || focused->activeFocusOnTab());
 }
+
+} // namespace
 
 void FocusFollower::itemChange(ItemChange change, const ItemChangeData &data)
 {
@@ -22,12 +28,44 @@ void FocusFollower::itemChange(ItemChange change, const ItemChangeData &data)
 
 void FocusFollower::follow()
 {
-    const QQuickItem *focused = window()->activeFocusItem();
-    auto *content = m_flickable ? m_flickable->property("contentItem").value<QQuickItem *>() : nullptr;
-    if (!focused || !content || !content->isAncestorOf(focused)) {
+    QQuickItem *focused = window()->activeFocusItem();
+    if (!isControl(focused)) {
+        // Later, because more controls may be about to end.
+        QMetaObject::invokeMethod(this, &FocusFollower::passOn, Qt::QueuedConnection);
         return;
     }
-    const QRectF control = focused->mapRectToItem(content, QRectF(0, 0, focused->width(), focused->height()));
+    m_before.clear();
+    if (holds(focused)) {
+        m_before = focused->nextItemInFocusChain(false);
+        m_reason = focused->property("focusReason").value<Qt::FocusReason>();
+        scrollTo(*focused);
+    }
+}
+
+void FocusFollower::passOn()
+{
+    QQuickItem *next = m_before;
+    if (!next || !window() || isControl(window()->activeFocusItem())) {
+        return;
+    }
+    if (!next->isVisible() || !next->isEnabled()) {
+        next = next->nextItemInFocusChain(false);
+    }
+    if (holds(next) && next->isVisible() && next->isEnabled()) {
+        next->forceActiveFocus(m_reason);
+    }
+}
+
+bool FocusFollower::holds(const QQuickItem *item) const
+{
+    const auto *content = m_flickable ? m_flickable->property("contentItem").value<QQuickItem *>() : nullptr;
+    return item && content && content->isAncestorOf(item);
+}
+
+void FocusFollower::scrollTo(const QQuickItem &focused)
+{
+    const auto *content = m_flickable->property("contentItem").value<QQuickItem *>();
+    const QRectF control = focused.mapRectToItem(content, QRectF(0, 0, focused.width(), focused.height()));
     const double top = m_flickable->property("contentY").toDouble();
     const double bottom = top + m_flickable->height();
     double wanted = top;
