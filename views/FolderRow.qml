@@ -14,13 +14,13 @@ Item {
 
         Accessible.name: qsTr("Open watched folder: %1").arg(OptionsController.watchFolderName)
         anchors.left: parent.left
+        caption: OptionsController.watchFolderName
         color: LumaportPalette.muted
         font.pixelSize: 11
         font.weight: Font.Medium
         help: OptionsController.watchFolderPath
         objectName: "folderButton"
         symbol: "folder"
-        text: OptionsController.watchFolderName
         width: Math.min(implicitWidth, row.width - (busy.visible ? busy.width + 8 : 0))
         onClicked: AppModel.openWatchFolder()
 

@@ -256,6 +256,10 @@ private Q_SLOTS:
         QCOMPARE(m_fixture->panel->requests.size(), 2);
         m_scene->click(m_scene->find("folderButton"));
         QCOMPARE(m_fixture->workspace->opened.size(), 1);
+        m_scene->watch("R&D");
+        QVERIFY(m_scene->findText("R&D"));
+        QTest::keyClick(&m_scene->window, Qt::Key_D, Qt::AltModifier);
+        QCOMPARE(m_fixture->workspace->opened.size(), 1);
     }
 
     void shouldHideEverythingWhileTheWelcomeIsShown()

@@ -102,11 +102,11 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
 
         QuietButton {
+            caption: row.revealLabel
             display: QuietButton.IconOnly
             help: qsTr("Reveal in Finder")
             objectName: "reveal"
             symbol: "folder"
-            text: row.revealLabel
             visible: row.rowAction === ArrivalsListModel.Reveal
             onClicked: row.reveal()
         }

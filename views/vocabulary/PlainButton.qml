@@ -4,18 +4,20 @@ import Lumaport.Vocabulary
 
 // A button without a background: symbol, text, focus ring, and `help` as its tool tip. Space, Return and the assistive
 // interface press it; a key that is held presses it once.
-// With `display: AbstractButton.IconOnly` the text is only spoken.
+// With `display: AbstractButton.IconOnly` the text is only spoken. A text that holds a file's name is given as `caption`: in
+// `text` an ampersand would make the letter after it a shortcut.
 T.AbstractButton {
     id: control
 
     property string symbol
     property string help
+    property string caption: text
     property color color: LumaportPalette.ink
     property real cornerRadius: 9
     property int wrapMode: Text.NoWrap
 
-    Accessible.description: help === text ? "" : help
-    Accessible.name: text
+    Accessible.description: help === caption ? "" : help
+    Accessible.name: caption
     Accessible.onPressAction: control.enabled ? control.clicked() : undefined
     Keys.onEnterPressed: event => event.isAutoRepeat || control.clicked()
     Keys.onReturnPressed: event => event.isAutoRepeat || control.clicked()
@@ -33,7 +35,7 @@ T.AbstractButton {
         font: control.font
         spoken: false
         symbol: control.display === T.AbstractButton.TextOnly ? "" : control.symbol
-        text: control.display === T.AbstractButton.IconOnly ? "" : control.text
+        text: control.display === T.AbstractButton.IconOnly ? "" : control.caption
         wrapMode: control.wrapMode
     }
 
