@@ -23,10 +23,11 @@ MenuBar {
         verticalPadding: 6
 
         background: Rectangle {
-            color: heading.highlighted ? LumaportPalette.deck : "transparent"
+            color: heading.highlighted ? LumaportPalette.iris : "transparent"
         }
         contentItem: BodyText {
             Accessible.ignored: true
+            color: heading.highlighted ? LumaportPalette.panel : LumaportPalette.ink
             font: heading.font
             text: heading.text.replace(/&(.)/, "<u>$1</u>")
             textFormat: Text.StyledText

@@ -10,13 +10,15 @@ MenuItem {
     property string keys
     property alias reach: shortcut.context
 
+    readonly property color ink: highlighted ? LumaportPalette.panel : LumaportPalette.ink
+
     Accessible.onPressAction: item.triggered()
     font.pixelSize: 12
     height: 30
     horizontalPadding: 10
 
     background: Rectangle {
-        color: item.highlighted ? LumaportPalette.deck : "transparent"
+        color: item.highlighted ? LumaportPalette.iris : "transparent"
         radius: 6
     }
     indicator: null
@@ -26,6 +28,7 @@ MenuItem {
             Accessible.ignored: true
             anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
+            color: item.ink
             font: item.font
             text: item.text
         }
@@ -34,7 +37,7 @@ MenuItem {
             Accessible.ignored: true
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            color: LumaportPalette.muted
+            color: item.highlighted ? item.ink : LumaportPalette.muted
             font: item.font
             text: shortcut.nativeText
         }
@@ -42,7 +45,7 @@ MenuItem {
         Symbol {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            color: LumaportPalette.ink
+            color: item.ink
             name: "checkmark"
             pointSize: 11
             visible: item.checked

@@ -8,6 +8,8 @@ T.ItemDelegate {
 
     required property bool chosen
 
+    readonly property color accent: highlighted ? LumaportPalette.panel : LumaportPalette.iris
+
     Accessible.name: text
     Accessible.onPressAction: entry.clicked()
     Accessible.selectable: true
@@ -19,14 +21,14 @@ T.ItemDelegate {
     rightPadding: mirrored ? 28 : 0
 
     background: Rectangle {
-        color: Qt.alpha(LumaportPalette.iris, entry.highlighted ? 0.12 : 0)
+        color: entry.highlighted ? LumaportPalette.iris : "transparent"
         radius: 8
 
         Symbol {
             anchors.left: parent.left
             anchors.leftMargin: 9
             anchors.verticalCenter: parent.verticalCenter
-            color: LumaportPalette.iris
+            color: entry.accent
             name: "checkmark"
             pointSize: 9
             visible: entry.chosen
@@ -34,6 +36,7 @@ T.ItemDelegate {
     }
     contentItem: BodyText {
         Accessible.ignored: true
+        color: entry.highlighted ? LumaportPalette.panel : LumaportPalette.ink
         elide: Text.ElideRight
         font: entry.font
         text: entry.text
