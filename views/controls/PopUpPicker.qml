@@ -32,7 +32,7 @@ T.ComboBox {
     rightPadding: mirrored ? 10 : 28
 
     background: Rectangle {
-        border.color: LumaportPalette.softLine
+        border.color: Qt.alpha(LumaportPalette.muted, 0.75) // 3:1 against the panel
         border.width: 1
         color: LumaportPalette.night
         radius: 9

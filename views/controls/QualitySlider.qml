@@ -10,6 +10,7 @@ T.Slider {
     required property string name
 
     readonly property real knob: 18
+    readonly property color outline: Qt.alpha(LumaportPalette.muted, 0.75) // 3:1 against the panel
     readonly property real maximumValue: to // read by assistive programs, as is the minimum
     readonly property real minimumValue: from
 
@@ -40,7 +41,7 @@ T.Slider {
     padding: 3
 
     background: Rectangle {
-        color: LumaportPalette.softLine
+        color: slider.outline
         height: 4
         radius: 2
         width: slider.availableWidth
@@ -56,7 +57,7 @@ T.Slider {
         }
     }
     handle: Rectangle {
-        border.color: LumaportPalette.softLine
+        border.color: slider.outline
         border.width: 1
         color: slider.pressed ? LumaportPalette.deck : "white"
         height: slider.knob

@@ -45,7 +45,7 @@ T.Switch {
         y: (control.height - height) / 2
 
         Rectangle {
-            color: control.checked ? LumaportPalette.panel : "white"
+            color: control.checked ? LumaportPalette.panel : LumaportPalette.muted
             height: 12
             radius: 6
             width: 12
