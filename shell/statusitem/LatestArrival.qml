@@ -47,6 +47,7 @@ Rectangle {
             objectName: "arrivalName"
             size: 12
             text: row.controller.arrivalName
+            verbatim: true
             width: parent.width
         }
 

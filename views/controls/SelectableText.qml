@@ -1,7 +1,7 @@
 import QtQuick
 import Lumaport.Vocabulary
 
-// A text that can be selected and copied, and wraps wherever it must.
+// A path that can be selected and copied, and wraps wherever it must. It is shown verbatim, as in BodyText.
 TextEdit {
     Accessible.name: text
     Accessible.readOnly: true
@@ -9,6 +9,7 @@ TextEdit {
     activeFocusOnTab: true
     color: LumaportPalette.muted
     font.pixelSize: 11
+    font.preferShaping: /[^\u0000-\u02ff]/.test(text)
     horizontalAlignment: TextEdit.AlignLeft
     readOnly: true
     selectByMouse: true

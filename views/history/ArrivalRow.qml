@@ -73,6 +73,7 @@ Item {
             maximumLineCount: 1
             objectName: "name"
             text: row.displayName
+            verbatim: true
             width: parent.width
 
             HoverHandler {

@@ -35,6 +35,7 @@ Loader {
             Accessible.ignored: true
             size: 11
             text: bubble.text
+            verbatim: true // it may be a file's name
             wrapMode: Text.Wrap
         }
     }

@@ -4,8 +4,8 @@ import Lumaport.Vocabulary
 
 // A button without a background: symbol, text, focus ring, and `help` as its tool tip. Space, Return and the assistive
 // interface press it; a key that is held presses it once.
-// With `display: AbstractButton.IconOnly` the text is only spoken. A text that holds a file's name is given as `caption`: in
-// `text` an ampersand would make the letter after it a shortcut.
+// With `display: AbstractButton.IconOnly` the text is only spoken. A text that holds a file's name is given as `caption`, to
+// be shown verbatim as in BodyText: in `text` an ampersand would make the letter after it a shortcut.
 T.AbstractButton {
     id: control
 
@@ -23,6 +23,7 @@ T.AbstractButton {
     Keys.onReturnPressed: event => event.isAutoRepeat || control.clicked()
     focusPolicy: Qt.StrongFocus
     font.pixelSize: 12
+    font.preferShaping: caption === text || /[^\u0000-\u02ff]/.test(caption)
     hoverEnabled: true
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
