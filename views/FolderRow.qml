@@ -16,6 +16,7 @@ Item {
         anchors.left: parent.left
         caption: OptionsController.watchFolderName
         color: LumaportPalette.muted
+        cornerRadius: 3
         font.pixelSize: 11
         font.weight: Font.Medium
         help: OptionsController.watchFolderPath

@@ -11,6 +11,7 @@ Column {
     required property MainViewController controller
     required property bool compact
     required property real stageHeight
+    required property Flickable view
 
     spacing: compact ? 10 : 14
 
@@ -23,10 +24,10 @@ Column {
         width: parent.width
     }
 
-    // One workspace fades into the other; meanwhile there is room for the higher one. The landing workspace is covered and
+    // One workspace fades into the other, and the room for them goes from one height to the other. The landing workspace is covered and
     // not made transparent, because its overlapping items would show through each other.
     Item {
-        height: Math.max(landing.visible ? landing.height : 0, history.visible ? history.height : 0)
+        height: landing.height + (history.height - landing.height) * switching.value
         width: parent.width
 
         SpringValue {
@@ -49,7 +50,7 @@ Column {
         }
 
         Rectangle {
-            anchors.fill: parent
+            anchors.fill: landing
             color: LumaportPalette.night
             opacity: switching.value
             visible: landing.visible
@@ -58,7 +59,7 @@ Column {
         Loader {
             id: history
 
-            active: column.controller.showingHistory || switching.moving
+            active: column.controller.showingHistory || switching.moving || switching.value > 0
             enabled: column.controller.showingHistory
             opacity: switching.value
             visible: opacity > 0
@@ -66,6 +67,8 @@ Column {
 
             sourceComponent: ArrivalsList {
             }
+
+            onLoaded: (item as ArrivalsList).view = column.view
         }
     }
 
@@ -73,15 +76,8 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         color: LumaportPalette.muted
         font.pixelSize: 11
-        opacity: switching.moving ? 0 : 1 // hidden while it changes its place
         spacing: 7
         symbol: "lock.shield"
         text: qsTr("Private by design. Converted on your Mac.")
-
-        Behavior on opacity {
-            EasedAnimation {
-                span: 120
-            }
-        }
     }
 }

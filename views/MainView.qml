@@ -16,6 +16,9 @@ Item {
     property real optionsShown: controller.optionsVisible ? 1 : 0
     readonly property bool compact: controller.isCompact(workspace.height)
 
+    Keys.forwardTo: [scroll]
+    focus: true // for the keys that scroll, while no control has the keyboard
+
     Behavior on optionsShown {
         EasedAnimation {
             span: 220
@@ -73,6 +76,7 @@ Item {
                     compact: view.compact
                     controller: view.controller
                     stageHeight: view.controller.stageHeight(workspace.height, view.optionsShown)
+                    view: scroll.content
                     width: scroll.availableWidth - 2 * padding
                     x: padding
                     y: padding

@@ -22,15 +22,17 @@ Item {
     Rectangle {
         anchors.fill: parent
         color: LumaportPalette.iris
-        opacity: feedback.hovered && feedback.enabled ? 0.09 : 0
+        opacity: feedback.hovered ? 0.09 : 0
         radius: 9
+        visible: feedback.enabled
 
         Behavior on opacity {
             enabled: !SystemAppearance.reduceMotion
 
             NumberAnimation {
                 duration: 150
-                easing.type: Easing.OutQuad
+                easing.bezierCurve: [0, 0, 0.58, 1, 1, 1] // ease-out
+                easing.type: Easing.BezierSpline
             }
         }
     }

@@ -211,6 +211,32 @@ private Q_SLOTS:
         }
     }
 
+    void shouldScrollByKeysAndKeepItsPlaceWhilePhotosArrive()
+    {
+        show();
+        QList<ConversionItem> items;
+        for (const char *name : {"a", "b", "c", "d", "e", "f", "g", "h", "i"}) {
+            items << m_scene->item(name, ConversionStatus::queued);
+        }
+        m_scene->model.setItems(items);
+        m_controller->setProperty("showingHistory", true);
+        m_scene->window.grabWindow(); // the rows get their places with the next frame
+        const auto placeOfLast = [&] { return m_scene->findText("i")->mapToScene(QPointF()).y(); };
+        QVERIFY(placeOfLast() > 620);
+        m_scene->press(Qt::Key_End);
+        const double place = placeOfLast();
+        QVERIFY(place < 620);
+        m_scene->model.setItems(QList{m_scene->item("new", ConversionStatus::queued)} + items);
+        m_scene->window.grabWindow();
+        QCOMPARE(placeOfLast(), place);
+        m_scene->press(Qt::Key_Home);
+        QVERIFY(placeOfLast() > 620);
+        m_scene->press(Qt::Key_PageDown);
+        QVERIFY(placeOfLast() < 620);
+        m_scene->press(Qt::Key_PageUp);
+        QVERIFY(placeOfLast() > 620);
+    }
+
     void shouldPassTheKeyboardOnWhenItsControlEnds()
     {
         show();

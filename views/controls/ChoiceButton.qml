@@ -7,6 +7,7 @@ Item {
     id: button
 
     required property bool selected
+    property alias pressed: tap.pressed
     property alias ring: focusRing
 
     signal clicked
@@ -21,6 +22,8 @@ Item {
     activeFocusOnTab: selected || activeFocus
 
     TapHandler {
+        id: tap
+
         gesturePolicy: TapHandler.ReleaseWithinBounds
         onTapped: button.clicked()
     }

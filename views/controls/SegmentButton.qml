@@ -57,6 +57,7 @@ ChoiceButton {
 
     HelpTip {
         hovered: hover.hovered
+        pressed: button.pressed
         text: button.segment.help
     }
 }

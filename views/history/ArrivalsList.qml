@@ -7,11 +7,30 @@ import Lumaport.History
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
-// The "Recent photos" workspace: the history, newest first. It is as high as its rows and does not scroll by itself.
+// The "Recent photos" workspace: the history, newest first. It is as high as its rows and does not scroll by itself. In the
+// `view` around it, the row at the top keeps its place while photos arrive above it.
 ColumnLayout {
     id: list
 
+    property Flickable view
+    property Item topRow
+    property real topRowY
+
+    function noteTopRow(): void {
+        const top = view ? view.contentItem.mapToItem(rows, 0, view.contentY).y : 0;
+        topRow = top > 0 ? rows.childAt(0, top) : null;
+        topRowY = topRow?.y ?? 0;
+    }
+
     spacing: 14
+
+    Connections {
+        function onContentYChanged() {
+            list.noteTopRow();
+        }
+
+        target: list.view
+    }
 
     RowLayout {
         spacing: 8
@@ -85,6 +104,13 @@ ColumnLayout {
         Accessible.role: Accessible.List
         Layout.fillWidth: true
         visible: !ArrivalsListController.isEmpty
+
+        onPositioningComplete: {
+            if (list.topRow) {
+                list.view.contentY += list.topRow.y - list.topRowY;
+            }
+            list.noteTopRow();
+        }
 
         Repeater {
             id: repeater

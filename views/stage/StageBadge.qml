@@ -44,7 +44,7 @@ Item {
     }
 
     ConversionFluid {
-        active: badge.controller.fluidActive
+        active: badge.controller.fluidActive || !badge.controller.showsFluid // it moves on while it fades out
         anchors.fill: parent
         opacity: badge.controller.showsFluid ? 1 : 0
         reduceMotion: SystemAppearance.reduceMotion

@@ -2,14 +2,19 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Lumaport.Vocabulary
 
-// A tool tip of the control around it. It is made when the pointer enters the control.
+// A tool tip of the control around it. It is made when the pointer enters the control. Once the control was `pressed` it
+// stays away until the pointer enters again.
 Loader {
     required property string text
     required property bool hovered
+    property bool pressed: false
+    property bool wasPressed: false
 
-    active: hovered && text !== ""
+    active: hovered && !wasPressed && text !== ""
     anchors.fill: parent
+    onHoveredChanged: wasPressed = false
     onLoaded: (item as ToolTip).show(text)
+    onPressedChanged: wasPressed = wasPressed || pressed
 
     sourceComponent: ToolTip {
         id: bubble

@@ -46,7 +46,8 @@ T.AbstractButton {
     }
 
     HelpTip {
-        hovered: control.hovered && !control.down
+        hovered: control.hovered
+        pressed: control.down
         text: control.help
     }
 }
