@@ -55,7 +55,8 @@ int main(int argc, char **argv)
         "    ArrivalsList { id: rows; width: 520 }\n"
         "    SequentialAnimation on contentY { loops: Animation.Infinite\n"
         "      NumberAnimation { to: 900; duration: 900 } NumberAnimation { to: 0; duration: 900 } } } }");
-    (void)QTest::qWaitFor([&] { return scene.photos->launched >= rows && scene.photos->running == 0; });
+    (void)QTest::qWaitFor(
+        [&] { return scene.fixture.photos->launched >= rows && scene.fixture.photos->running == 0; });
 
     std::vector<double> intervals;
     QElapsedTimer sinceFrame;

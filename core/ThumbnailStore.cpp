@@ -30,6 +30,12 @@ QImage readThumbnail(ImageWorkerLauncher &launcher, const QUrl &url)
 
 } // namespace
 
+/// One file being read, for as long as a request wants it.
+struct ThumbnailRequest::Reading
+{
+    QList<std::weak_ptr<Answer>> answers;
+};
+
 ThumbnailRequest::ThumbnailRequest(Answer answer)
     : m_answer(std::make_shared<Answer>(std::move(answer)))
 {}
@@ -78,27 +84,44 @@ std::unique_ptr<ThumbnailRequest> ThumbnailStore::image(const QUrl &url, Thumbna
         return nullptr;
     }
     auto request = std::make_unique<ThumbnailRequest>(std::move(answer));
-    m_readers.start([this, url, waiting = std::weak_ptr(request->m_answer)] {
-        if (waiting.expired()) {
+    request->m_reading = m_readings.value(url).lock();
+    if (!request->m_reading) {
+        request->m_reading = startReading(url);
+    }
+    request->m_reading->answers.append(request->m_answer);
+    return request;
+}
+
+std::shared_ptr<ThumbnailStore::Reading> ThumbnailStore::startReading(const QUrl &url)
+{
+    auto reading = std::make_shared<Reading>();
+    m_readings.removeIf([](const auto &known) { return known.value().expired(); });
+    m_readings.insert(url, reading);
+    m_readers.start([this, url, wanted = std::weak_ptr(reading)] {
+        if (wanted.expired()) {
             return; // cancelled before its turn
         }
         ConversionActivity::awaitNone(m_longestWait);
         const QImage image = readThumbnail(*m_launcher, url);
         QMetaObject::invokeMethod(
-            this, [this, url, waiting, image] { finish(url, waiting, image); }, Qt::QueuedConnection);
+            this, [this, url, wanted, image] { finish(url, wanted, image); }, Qt::QueuedConnection);
     });
-    return request;
+    return reading;
 }
 
-void ThumbnailStore::finish(const QUrl &url, const std::weak_ptr<ThumbnailRequest::Answer> &waiting,
-                            const QImage &image)
+void ThumbnailStore::finish(const QUrl &url, const std::weak_ptr<Reading> &wanted, const QImage &image)
 {
-    const std::shared_ptr<ThumbnailRequest::Answer> answer = waiting.lock();
-    if (!answer) {
+    const std::shared_ptr<Reading> reading = wanted.lock();
+    if (!reading) {
         return;
     }
+    m_readings.remove(url);
     if (!image.isNull()) {
         m_cache.insert(url, new QImage(image));
     }
-    (*answer)(image);
+    for (const std::weak_ptr<ThumbnailRequest::Answer> &waiting : std::as_const(reading->answers)) {
+        if (const std::shared_ptr<ThumbnailRequest::Answer> answer = waiting.lock()) {
+            (*answer)(image);
+        }
+    }
 }

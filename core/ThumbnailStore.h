@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCache>
+#include <QHash>
 #include <QImage>
 #include <QObject>
 #include <QThreadPool>
@@ -25,7 +26,10 @@ public:
 
 private:
     friend class ThumbnailStore;
+    struct Reading;
+
     std::shared_ptr<Answer> m_answer;
+    std::shared_ptr<Reading> m_reading;
 };
 
 /// Small pictures of photo files. The most recent are kept in memory.
@@ -52,13 +56,18 @@ public:
 
     /// Hands the thumbnail to `answer`. When it is in memory this happens before the call returns, and the
     /// result is null; else it happens later, if the result is still kept. A file that cannot be decoded
-    /// gives a null image and is read again the next time.
+    /// gives a null image and is read again the next time. Requests for one file that overlap share one
+    /// reading.
     [[nodiscard]] std::unique_ptr<ThumbnailRequest> image(const QUrl &url, ThumbnailRequest::Answer answer);
 
 private:
-    void finish(const QUrl &url, const std::weak_ptr<ThumbnailRequest::Answer> &waiting, const QImage &image);
+    using Reading = ThumbnailRequest::Reading;
+
+    std::shared_ptr<Reading> startReading(const QUrl &url);
+    void finish(const QUrl &url, const std::weak_ptr<Reading> &wanted, const QImage &image);
 
     QCache<QUrl, QImage> m_cache;
+    QHash<QUrl, std::weak_ptr<Reading>> m_readings;
     std::shared_ptr<ImageWorkerLauncher> m_launcher;
     std::chrono::milliseconds m_longestWait;
     QThreadPool m_readers;

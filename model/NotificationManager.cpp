@@ -2,6 +2,7 @@
 
 #include "NotificationCenter.h"
 #include "PhotoFileName.h"
+#include "ThumbnailStore.h"
 #include "Workspace.h"
 
 #include <QUuid>
@@ -29,6 +30,8 @@ NotificationManager::NotificationManager(std::shared_ptr<NotificationCenter> cen
     , m_workspace(std::move(workspace))
 {}
 
+NotificationManager::~NotificationManager() = default;
+
 void NotificationManager::configure()
 {
     m_center->onResponse([this](const NotificationResponse &response) { didReceive(response); });
@@ -36,8 +39,9 @@ void NotificationManager::configure()
 
 void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
 {
-    m_center->add({.identifier = QStringLiteral("lumaport-ready-") +
-                                 QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper(),
+    const QString identifier =
+        QStringLiteral("lumaport-ready-") + QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
+    m_center->add({.identifier = identifier,
                    .title = tr("Photo landed ready"),
                    .subtitle = PhotoFileName::shown(outputURL.fileName()),
                    .body = tr("Converted locally. Click to reveal it in Finder."),
@@ -45,8 +49,16 @@ void NotificationManager::notifyConversionFinished(const QUrl &outputURL)
                    .action = {.identifier = showActionIdentifier, .title = tr("Show in Finder")},
                    .payload = {{outputPathKey, outputURL.toLocalFile()}},
                    .soundName = QStringLiteral("LumaportArrival.wav"),
-                   .image = outputURL,
                    .delay = announceDelay});
+    auto picture = ThumbnailStore::shared().image(outputURL, [this, identifier](const QImage &image) {
+        if (!image.isNull()) {
+            m_center->setImage(identifier, image);
+        }
+        m_pictures.erase(identifier);
+    });
+    if (picture) {
+        m_pictures.emplace(identifier, std::move(picture));
+    }
 }
 
 void NotificationManager::notifyStillWatching()

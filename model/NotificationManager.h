@@ -3,9 +3,11 @@
 #include <QCoreApplication>
 #include <QUrl>
 
+#include <map>
 #include <memory>
 
 class NotificationCenter;
+class ThumbnailRequest;
 class Workspace;
 struct NotificationResponse;
 
@@ -21,6 +23,10 @@ public:
 
     NotificationManager(std::shared_ptr<NotificationCenter> center, std::shared_ptr<Workspace> workspace);
 
+    ~NotificationManager();
+    NotificationManager(const NotificationManager &) = delete;
+    NotificationManager &operator=(const NotificationManager &) = delete;
+
     /// From now on clicks are answered. This desktop asks for no permission to notify.
     void configure();
     void notifyConversionFinished(const QUrl &outputURL);
@@ -32,4 +38,5 @@ private:
 
     std::shared_ptr<NotificationCenter> m_center;
     std::shared_ptr<Workspace> m_workspace;
+    std::map<QString, std::unique_ptr<ThumbnailRequest>> m_pictures; ///< by notification
 };

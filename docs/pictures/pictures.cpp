@@ -265,7 +265,8 @@ QImage rendered(const Picture &picture, SystemAppearance::ColorScheme scheme)
                {{QStringLiteral("panel"), QVariant::fromValue(&scene.panel)},
                 {QStringLiteral("main"), QVariant::fromValue(scene.main.get())}});
     const qsizetype thumbnails = scene.find(QStringLiteral("thumbnail")) ? scene.model.items().size() : 0;
-    (void)QTest::qWaitFor([&] { return scene.photos->launched >= thumbnails && scene.photos->running == 0; });
+    (void)QTest::qWaitFor(
+        [&] { return scene.fixture.photos->launched >= thumbnails && scene.fixture.photos->running == 0; });
     QCoreApplication::processEvents();
     QImage image = scene.window.grabWindow();
     image.setDevicePixelRatio(

@@ -3,6 +3,7 @@
 #include "ArrivalChime.h"
 #include "JobScheduler.h"
 
+#include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -20,6 +21,22 @@ constexpr qsizetype mostShown = 3; // a further one takes the place of the oldes
 QDBusMessage call(const QString &method)
 {
     return QDBusMessage::createMethodCall(service, objectPath, service, method);
+}
+
+/// The picture as pixels: the service need not read a file. Desktop Notifications protocol, "Icons and
+/// Images".
+QVariant imageData(const QImage &image)
+{
+    const QImage pixels = image.convertToFormat(QImage::Format_RGBA8888);
+    constexpr int bitsPerSample = 8;
+    constexpr int channels = 4;
+    QDBusArgument data;
+    data.beginStructure();
+    data << pixels.width() << pixels.height() << int(pixels.bytesPerLine()) << true << bitsPerSample
+         << channels
+         << QByteArray::fromRawData(reinterpret_cast<const char *>(pixels.constBits()), pixels.sizeInBytes());
+    data.endStructure();
+    return QVariant::fromValue(data);
 }
 
 } // namespace
@@ -61,13 +78,29 @@ void DesktopNotificationCenter::add(const NotificationRequest &request)
     if (!m_bus.isConnected()) {
         return;
     }
-    m_waiting.insert(request.identifier, m_jobs->after(request.delay, [this, request] {
-        m_waiting.remove(request.identifier);
-        m_due.append(request);
+    const auto fallDue = [this, identifier = request.identifier] {
+        m_due.append(m_waiting.take(identifier).request);
         if (m_due.size() == 1) {
             postFirstDue();
         }
-    }));
+    };
+    m_waiting.insert(request.identifier, {.request = request, .job = m_jobs->after(request.delay, fallDue)});
+}
+
+void DesktopNotificationCenter::setImage(const QString &identifier, const QImage &image)
+{
+    const auto waiting = m_waiting.find(identifier);
+    const auto due = std::ranges::find(m_due, identifier, &NotificationRequest::identifier);
+    const auto shown =
+        std::ranges::find(m_shown, identifier, [](const Shown &one) { return one.request.identifier; });
+    if (waiting != m_waiting.end()) {
+        waiting->request.image = image;
+    } else if (due != m_due.end()) {
+        due->image = image;
+    } else if (shown != m_shown.end()) {
+        shown->request.image = image;
+        m_bus.asyncCall(message(shown->request, shown->number));
+    }
 }
 
 void DesktopNotificationCenter::postFirstDue()
@@ -95,36 +128,20 @@ void DesktopNotificationCenter::askForCapabilities()
 
 void DesktopNotificationCenter::post(const NotificationRequest &request)
 {
-    QDBusMessage message = call(QStringLiteral("Notify"));
-    QVariantMap hints{
-        {QStringLiteral("desktop-entry"), QStringLiteral("io.lumaport.Lumaport")},
-        {QStringLiteral("category"), QStringLiteral("transfer.complete")},
-        {QStringLiteral("x-lumaport-category"), request.categoryIdentifier},
-        {QStringLiteral("urgency"), QVariant::fromValue<uchar>(1)},
-        {QStringLiteral("suppress-sound"), true},
-    };
-    if (!request.image.isEmpty()) {
-        hints.insert(QStringLiteral("image-path"), QString::fromLatin1(request.image.toEncoded()));
-    }
-    QStringList actions;
-    if (!request.action.identifier.isEmpty()) {
-        // An empty title for the click on the notification itself: services draw a button for any other.
-        actions << defaultAction << QString() << request.action.identifier << request.action.title;
-    }
-    constexpr int serviceDecides = -1; // how long it shows
     const uint replaced = m_shown.size() < mostShown ? 0 : m_shown.constFirst().number;
-    message << QStringLiteral("Lumaport") << replaced << QStringLiteral("io.lumaport.Lumaport")
-            << request.title << bodyOf(request) << actions << hints << serviceDecides;
-
-    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, replaced] {
+    const bool hasImage = !request.image.isNull();
+    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message(request, replaced)), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, replaced, hasImage] {
         const NotificationRequest posted = m_due.takeFirst();
         const QDBusPendingReply<uint> reply = *watcher;
         if (reply.isValid()) {
             forget(replaced);
-            m_shown.append({.number = reply.value(), .response = {.payload = posted.payload}});
+            m_shown.append({.number = reply.value(), .request = posted});
             if (!posted.soundName.isEmpty()) {
                 m_chime->play(posted.soundName);
+            }
+            if (!hasImage && !posted.image.isNull()) {
+                setImage(posted.identifier, posted.image); // it came while the service was asked
             }
         }
         if (!m_due.isEmpty()) {
@@ -132,6 +149,30 @@ void DesktopNotificationCenter::post(const NotificationRequest &request)
         }
         watcher->deleteLater();
     });
+}
+
+QDBusMessage DesktopNotificationCenter::message(const NotificationRequest &request, uint replaced) const
+{
+    QVariantMap hints{
+        {QStringLiteral("desktop-entry"), QStringLiteral("io.lumaport.Lumaport")},
+        {QStringLiteral("category"), QStringLiteral("transfer.complete")},
+        {QStringLiteral("x-lumaport-category"), request.categoryIdentifier},
+        {QStringLiteral("urgency"), QVariant::fromValue<uchar>(1)},
+        {QStringLiteral("suppress-sound"), true},
+    };
+    if (!request.image.isNull()) {
+        hints.insert(QStringLiteral("image-data"), imageData(request.image));
+    }
+    QStringList actions;
+    if (!request.action.identifier.isEmpty()) {
+        // An empty title for the click on the notification itself: services draw a button for any other.
+        actions << defaultAction << QString() << request.action.identifier << request.action.title;
+    }
+    constexpr int serviceDecides = -1; // how long it shows
+    QDBusMessage message = call(QStringLiteral("Notify"));
+    message << QStringLiteral("Lumaport") << replaced << QStringLiteral("io.lumaport.Lumaport")
+            << request.title << bodyOf(request) << actions << hints << serviceDecides;
+    return message;
 }
 
 QString DesktopNotificationCenter::bodyOf(const NotificationRequest &request) const
@@ -147,9 +188,9 @@ void DesktopNotificationCenter::actionInvoked(uint id, const QString &action)
 {
     const auto shown = std::ranges::find(m_shown, id, &Shown::number);
     if (shown != m_shown.end() && m_handler) {
-        NotificationResponse response = shown->response;
-        response.actionIdentifier = action;
-        m_handler(response);
+        m_handler({.actionIdentifier = action,
+                   .payload = shown->request.payload,
+                   .activationToken = shown->activationToken});
     }
 }
 
@@ -157,7 +198,7 @@ void DesktopNotificationCenter::activationToken(uint id, const QString &token)
 {
     const auto shown = std::ranges::find(m_shown, id, &Shown::number); // it comes just before the action
     if (shown != m_shown.end()) {
-        shown->response.activationToken = token;
+        shown->activationToken = token;
     }
 }
 

@@ -26,6 +26,7 @@ public:
 
     void onResponse(std::function<void(const NotificationResponse &)> handler) override;
     void add(const NotificationRequest &request) override;
+    void setImage(const QString &identifier, const QImage &image) override;
 
 private Q_SLOTS:
     void actionInvoked(uint id, const QString &action);
@@ -34,16 +35,22 @@ private Q_SLOTS:
     void forgetService();
 
 private:
-    /// A notification that still shows, by the service's number, and what a click on it gives.
+    struct Waiting
+    {
+        NotificationRequest request;
+        std::shared_ptr<ScheduledJob> job;
+    };
     struct Shown
     {
-        uint number;
-        NotificationResponse response;
+        uint number; ///< the service's
+        NotificationRequest request;
+        QString activationToken;
     };
 
     void postFirstDue();
     void askForCapabilities();
     void post(const NotificationRequest &request);
+    QDBusMessage message(const NotificationRequest &request, uint replaced) const;
     void forget(uint number);
     QString bodyOf(const NotificationRequest &request) const;
 
@@ -52,7 +59,7 @@ private:
     std::shared_ptr<ArrivalChime> m_chime;
     std::function<void(const NotificationResponse &)> m_handler;
     std::optional<QStringList> m_capabilities;
-    QHash<QString, std::shared_ptr<ScheduledJob>> m_waiting; ///< by request identifier
-    QList<NotificationRequest> m_due;                        ///< posted one by one, the first one now
-    QList<Shown> m_shown;                                    ///< the oldest first
+    QHash<QString, Waiting> m_waiting; ///< by request identifier
+    QList<NotificationRequest> m_due;  ///< posted one by one, the first one now
+    QList<Shown> m_shown;              ///< the oldest first
 };

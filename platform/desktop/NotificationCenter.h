@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QImage>
 #include <QString>
-#include <QUrl>
 #include <QVariantMap>
 
 #include <chrono>
@@ -26,7 +26,7 @@ struct NotificationRequest
     NotificationAction action;
     QVariantMap payload; ///< comes back with the response
     QString soundName;   ///< a sound file shipped with the application
-    QUrl image;          ///< a picture for the notification, where the desktop shows one
+    QImage image;        ///< where the desktop shows one
     std::chrono::milliseconds delay{};
 };
 
@@ -49,6 +49,8 @@ public:
     /// `handler` is called on the main thread.
     virtual void onResponse(std::function<void(const NotificationResponse &)> handler) = 0;
     virtual void add(const NotificationRequest &request) = 0;
+    /// Gives the notification of this identifier its picture. Nothing happens when it no longer shows.
+    virtual void setImage(const QString &identifier, const QImage &image) = 0;
 
     static std::shared_ptr<NotificationCenter> create();
 };

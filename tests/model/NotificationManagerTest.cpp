@@ -1,4 +1,5 @@
 #include "ModelFixture.h"
+#include "WriteFile.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -10,6 +11,7 @@ class NotificationManagerTest : public QObject
     std::shared_ptr<RecordingNotificationCenter> m_center;
     std::shared_ptr<RecordingWorkspace> m_workspace;
     std::optional<NotificationManager> m_manager;
+    ThumbnailStore m_thumbnails{std::make_shared<FakeImageWorkerLauncher>()};
 
 private Q_SLOTS:
     void init()
@@ -17,6 +19,7 @@ private Q_SLOTS:
         m_center = std::make_shared<RecordingNotificationCenter>();
         m_workspace = std::make_shared<RecordingWorkspace>();
         m_manager.emplace(m_center, m_workspace);
+        ThumbnailStore::setShared(&m_thumbnails);
     }
 
     void shouldAnnounceEachPhotoByItself()
@@ -37,6 +40,19 @@ private Q_SLOTS:
         const QRegularExpression identifier("^lumaport-ready-[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12}$");
         QVERIFY(identifier.match(first.identifier).hasMatch());
         QVERIFY(first.identifier != m_center->requests[1].identifier);
+    }
+
+    void shouldGiveTheNotificationTheCopysThumbnail()
+    {
+        const QTemporaryDir folder;
+        const QUrl photo = writeFile(folder.filePath("1.png"), "red");
+        m_manager->notifyConversionFinished(photo);
+        QTRY_COMPARE(m_center->images.size(), 1);
+        m_manager->notifyConversionFinished(photo); // in memory by now
+        QCOMPARE(m_center->images.size(), 2);
+        for (const NotificationRequest &request : std::as_const(m_center->requests)) {
+            QCOMPARE(m_center->images.value(request.identifier).pixelColor(1, 1), QColor(Qt::red));
+        }
     }
 
     void shouldRevealOnAClickOnly()

@@ -30,6 +30,7 @@ bool ManualFolderMonitor::start(const QUrl &at, std::function<void()> onChange)
 
 ModelFixture::ModelFixture()
 {
+    ThumbnailStore::setShared(&thumbnails);
     QDir(home.path()).mkdir("Photos");
     defaults->store("watchFolder", home.filePath("Photos"));
 }

@@ -3,12 +3,14 @@
 #include "AppModel.h"
 #include "ConversionEngine.h"
 #include "DefaultsStore.h"
+#include "FakeImageWorkerLauncher.h"
 #include "FolderMonitor.h"
 #include "ManualScheduler.h"
 #include "NotificationCenter.h"
 #include "NotificationManager.h"
 #include "OpenPanel.h"
 #include "SystemAppearance.h"
+#include "ThumbnailStore.h"
 #include "WallClock.h"
 #include "Workspace.h"
 
@@ -85,8 +87,10 @@ struct RecordingNotificationCenter : NotificationCenter
 {
     void onResponse(std::function<void(const NotificationResponse &)> handler) override { respond = handler; }
     void add(const NotificationRequest &request) override { requests.append(request); }
+    void setImage(const QString &identifier, const QImage &image) override { images[identifier] = image; }
 
     QList<NotificationRequest> requests;
+    QHash<QString, QImage> images;
     std::function<void(const NotificationResponse &)> respond;
 };
 
@@ -160,6 +164,8 @@ public:
     std::shared_ptr<SystemAppearance> appearance = std::make_shared<SystemAppearance>();
     std::shared_ptr<ManualEngine> engine;
     std::shared_ptr<ManualFolderMonitor> monitor = std::make_shared<ManualFolderMonitor>();
+    std::shared_ptr<FakeImageWorkerLauncher> photos = std::make_shared<FakeImageWorkerLauncher>();
+    ThumbnailStore thumbnails{photos};
 
 private:
     std::unique_ptr<NotificationManager> m_notifications;

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "AppModelSingleton.h"
-#include "FakeImageWorkerLauncher.h"
 #include "ModelFixture.h"
 #include "Scene.h"
-#include "ThumbnailStore.h"
 #include "WriteFile.h"
 
 #include <QDir>
@@ -17,7 +15,6 @@ public:
         : model(fixture.launch())
     {
         AppModelSingleton::provide(model);
-        ThumbnailStore::setShared(&thumbnails);
     }
     ~ModelScene() { close(); }
     ModelScene(const ModelScene &) = delete;
@@ -46,8 +43,6 @@ public:
         ModelFixture::turn();
     }
 
-    std::shared_ptr<FakeImageWorkerLauncher> photos = std::make_shared<FakeImageWorkerLauncher>();
-    ThumbnailStore thumbnails{photos};
     ModelFixture fixture;
     AppModel &model;
 };

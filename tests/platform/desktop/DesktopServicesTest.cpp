@@ -4,6 +4,7 @@
 #include "FakeService.h"
 #include "ManualScheduler.h"
 
+#include <QDBusArgument>
 #include <QDBusServiceWatcher>
 #include <QDesktopServices>
 #include <QSignalSpy>
@@ -30,7 +31,6 @@ NotificationRequest request()
             .action = {.identifier = "show", .title = "Show"},
             .payload = {{"outputPath", "/a"}},
             .soundName = "a.wav",
-            .image = QUrl::fromLocalFile("/a 1.png"),
             .delay = 250ms};
 }
 
@@ -138,7 +138,7 @@ private Q_SLOTS:
         QCOMPARE(call[5].toStringList(), QStringList({"default", QString(), "show", "Show"}));
         const QVariantMap hints = call[6].toMap();
         QCOMPARE(hints.value("suppress-sound"), QVariant(true));
-        QCOMPARE(hints.value("image-path"), QVariant("file:///a%201.png"));
+        QVERIFY(!hints.contains("image-data"));
         QCOMPARE(hints.value("x-lumaport-category"), QVariant("ready"));
 
         const QString action = "ActionInvoked";
@@ -181,6 +181,37 @@ private Q_SLOTS:
         m_service->emitSignal("ActionInvoked", {1U, "default"});
         QTRY_COMPARE(m_responses.size(), 1);
         QCOMPARE(m_responses.first().payload.value("outputPath"), QVariant("/4"));
+    }
+
+    void shouldGiveANotificationItsPictureBeforeAndAfterItShows()
+    {
+        QImage picture(3, 2, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        m_center->setImage("one", picture); // unknown yet
+        m_center->add(request());
+        m_center->setImage("one", picture);
+        m_jobs->advance(250ms);
+        QTRY_COMPARE(m_chime->played.size(), 1);
+        m_center->setImage("one", picture.copy(0, 0, 1, 2));
+        QTRY_COMPARE(m_service->calls.size(), 2);
+        QCOMPARE(m_service->calls[1][1].toUInt(), 1U);
+        QCOMPARE(m_chime->played.size(), 1);
+        for (const int i : {0, 1}) {
+            const auto data = m_service->calls[i][6].toMap().value("image-data").value<QDBusArgument>();
+            int width = 0;
+            int height = 0;
+            int stride = 0;
+            bool hasAlpha = false;
+            int bits = 0;
+            int channels = 0;
+            QByteArray bytes;
+            data.beginStructure();
+            data >> width >> height >> stride >> hasAlpha >> bits >> channels >> bytes;
+            data.endStructure();
+            QCOMPARE(QSize(width, height), QSize(i == 0 ? 3 : 1, 2));
+            QVERIFY(stride == 4 * width && hasAlpha && bits == 8 && channels == 4);
+            QCOMPARE(bytes, QByteArray("\xff\0\0\xff", 4).repeated(width * height));
+        }
     }
 
     void shouldEscapeNamesForMarkupAndForgetAServiceThatIsGone()

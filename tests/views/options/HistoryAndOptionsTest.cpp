@@ -85,7 +85,7 @@ private Q_SLOTS:
         scene.model.setItems(items);
         QCOMPARE(scene.find("thumbnail"), thumbnail);
         QVERIFY(thumbnail->property("loaded").toBool());
-        QCOMPARE(scene.photos->launched.load(), 1);
+        QCOMPARE(scene.fixture.photos->launched.load(), 1);
 
         items[0] = scene.item("b.heic", ConversionStatus::ready, "green");
         scene.model.setItems(items);
@@ -104,8 +104,8 @@ private Q_SLOTS:
         QVERIFY(corner.red() == 255 && qAbs(corner.green() - 201) <= 2 && qAbs(corner.blue() - 150) <= 2);
         QVERIFY(without.pixelColor(50, 60).blue() > 200); // the mountains, nearly white
         thumbnail->setProperty("url", scene.item("x.heic", ConversionStatus::queued, "?").sourceURL);
-        QTRY_COMPARE(scene.photos->launched.load(), 1);
-        QTRY_COMPARE(scene.photos->running.load(), 0);
+        QTRY_COMPARE(scene.fixture.photos->launched.load(), 1);
+        QTRY_COMPARE(scene.fixture.photos->running.load(), 0);
         QCoreApplication::processEvents();
         QCOMPARE(scene.window.grabWindow(), without);
     }
