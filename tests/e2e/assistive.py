@@ -10,12 +10,13 @@ from gi.repository import GLib
 from session_tools import wait_until
 
 
-def accessible(name, role="push button"):
+def accessible(name, role="button"):
     """The program's element of this name and role that shows on the screen; None without one."""
 
     def search(element):
         for child in filter(None, element):
-            if child.name == name and child.getRoleName() == role and child.getState().contains(pyatspi.STATE_SHOWING):
+            # Debian 12 says "push button" of what later releases call a button.
+            if child.name == name and child.getRoleName().removeprefix("push ") == role and child.getState().contains(pyatspi.STATE_SHOWING):
                 return child
             if found := search(child):
                 return found
@@ -26,7 +27,7 @@ def accessible(name, role="push button"):
     return program and search(program)
 
 
-def press(name, role="push button"):
+def press(name, role="button"):
     """Presses a button as a screen reader does."""
     actions = wait_until(lambda: accessible(name, role), f"the {role} {name}").queryAction()
     names = [actions.getName(number) for number in range(actions.nActions)]

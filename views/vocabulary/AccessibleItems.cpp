@@ -1,5 +1,8 @@
 #include "AccessibleItems.h"
 
+#include <QAccessible>
+
+#ifdef LUMAPORT_QT_HIDES_DISABLED
 #include <QtQuick/private/qaccessiblequickitem_p.h>
 #include <QtQuick/private/qquickitem_p.h>
 
@@ -34,10 +37,13 @@ QAccessibleInterface *accessibleItem(const QString & /*className*/, QObject *obj
 }
 
 } // namespace
+#endif
 
 void AccessibleItems::install()
 {
+#ifdef LUMAPORT_QT_HIDES_DISABLED
     QAccessible::installFactory(accessibleItem);
+#endif
 }
 
 void AccessibleItems::fallSilent()

@@ -1,6 +1,6 @@
 #pragma once
 
-/// What assistive programs are told of items. Qt 6.4 does not tell them whether an item is disabled, so
+/// What assistive programs are told of items. Before Qt 6.8 they are not told whether an item is disabled, so
 /// that a screen reader offers a button that cannot be pressed.
 namespace AccessibleItems {
 

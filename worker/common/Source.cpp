@@ -69,29 +69,23 @@ std::uint64_t lengthOf(const DataLocation &location)
 
 Result<Bytes> Source::read(std::uint64_t offset, std::uint64_t length) const
 {
-    if (offset > size() || length > size() - offset) {
-        return unreadable();
-    }
-    Bytes bytes(static_cast<std::size_t>(length));
-    if (!fill(offset, bytes)) {
-        return unreadable();
-    }
-    return bytes;
+    return read(DataLocation{{offset, length}});
 }
 
 Result<Bytes> Source::read(const DataLocation &location) const
 {
-    Bytes bytes;
     for (const Extent &extent : location) {
-        auto part = read(extent.offset, extent.length);
-        if (!part) {
+        if (extent.offset > size() || extent.length > size() - extent.offset) {
             return unreadable();
         }
-        if (bytes.empty()) {
-            bytes = std::move(*part);
-        } else {
-            bytes.insert(bytes.end(), part->begin(), part->end());
+    }
+    Bytes bytes(static_cast<std::size_t>(lengthOf(location)));
+    std::span<std::uint8_t> rest = bytes;
+    for (const Extent &extent : location) {
+        if (!fill(extent.offset, rest.first(static_cast<std::size_t>(extent.length)))) {
+            return unreadable();
         }
+        rest = rest.subspan(static_cast<std::size_t>(extent.length));
     }
     return bytes;
 }

@@ -9,6 +9,7 @@
 #include <array>
 #include <bit>
 #include <isa-l.h>
+#include <iterator>
 #include <string_view>
 #include <zlib.h>
 
@@ -109,7 +110,7 @@ public:
         appendNumber(header, static_cast<std::uint32_t>(m_size.width));
         appendNumber(header, static_cast<std::uint32_t>(m_size.height));
         // Bits, RGBA, the only methods of compression and filtering, not interlaced.
-        header.insert(header.end(), {8, 6, 0, 0, 0});
+        std::ranges::copy(std::to_array<std::uint8_t>({8, 6, 0, 0, 0}), std::back_inserter(header));
         writePart("IHDR", header);
         writePart("sRGB", {0});                      // perceptual
         writePart("gAMA", {0x00, 0x00, 0xB1, 0x8F}); // 1 / 2.2, for readers that do not know sRGB
