@@ -210,7 +210,7 @@ private Q_SLOTS:
             data.endStructure();
             QCOMPARE(QSize(width, height), QSize(i == 0 ? 3 : 1, 2));
             QVERIFY(stride == 4 * width && hasAlpha && bits == 8 && channels == 4);
-            QCOMPARE(bytes, QByteArray("\xff\0\0\xff", 4).repeated(width * height));
+            QCOMPARE(bytes, QByteArray("\xff\0\0\xff", 4).repeated(qsizetype(width) * height));
         }
     }
 
