@@ -22,7 +22,6 @@ public:
     static NotificationManager &shared();
 
     NotificationManager(std::shared_ptr<NotificationCenter> center, std::shared_ptr<Workspace> workspace);
-
     ~NotificationManager();
     NotificationManager(const NotificationManager &) = delete;
     NotificationManager &operator=(const NotificationManager &) = delete;

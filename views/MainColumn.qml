@@ -24,8 +24,8 @@ Column {
         width: parent.width
     }
 
-    // One workspace fades into the other, and the room for them goes from one height to the other. The landing workspace is covered and
-    // not made transparent, because its overlapping items would show through each other.
+    // One workspace fades into the other, and the room for them goes from one height to the other. The landing workspace is
+    // covered and not made transparent, because its overlapping items would show through each other.
     Item {
         height: landing.height + (history.height - landing.height) * switching.value
         width: parent.width

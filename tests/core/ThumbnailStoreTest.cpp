@@ -111,9 +111,12 @@ private Q_SLOTS:
         QTRY_COMPARE(m_answered, 1);
     }
 
-    void shouldNotReadWhatWasGivenUpBeforeItsTurn()
+    void shouldReadOnceForAllWhoWaitAndNeverWhatWasGivenUpBeforeItsTurn()
     {
         auto requests = askForHeld(4);
+        const QUrl held = QUrl::fromLocalFile(m_folder.filePath("held0.heic"));
+        requests.push_back(m_store->image(held, [this](const QImage &) { ++m_answered; }));
+        requests[0].reset(); // the other one still waits
         requests[2].reset();
         m_launcher->gate.release(4);
         QTRY_COMPARE(m_answered, 3);

@@ -15,8 +15,9 @@ def accessible(name, role="button"):
 
     def search(element):
         for child in filter(None, element):
+            shows = child.getState().contains(pyatspi.STATE_SHOWING)
             # Debian 12 says "push button" of what later releases call a button.
-            if child.name == name and child.getRoleName().removeprefix("push ") == role and child.getState().contains(pyatspi.STATE_SHOWING):
+            if shows and child.name == name and child.getRoleName().removeprefix("push ") == role:
                 return child
             if found := search(child):
                 return found

@@ -193,10 +193,16 @@ private Q_SLOTS:
         m_jobs->advance(250ms);
         QTRY_COMPARE(m_chime->played.size(), 1);
         m_center->setImage("one", picture.copy(0, 0, 1, 2));
-        QTRY_COMPARE(m_service->calls.size(), 2);
+        NotificationRequest second = request();
+        second.identifier = "two";
+        m_center->add(second);
+        m_jobs->advance(250ms);
+        m_center->setImage("two", picture.copy(0, 0, 1, 2)); // while the service is asked
+        QTRY_COMPARE(m_service->calls.size(), 4);
         QCOMPARE(m_service->calls[1][1].toUInt(), 1U);
-        QCOMPARE(m_chime->played.size(), 1);
-        for (const int i : {0, 1}) {
+        QCOMPARE(m_service->calls[3][1].toUInt(), 2U);
+        QCOMPARE(m_chime->played.size(), 2);
+        for (const int i : {0, 1, 3}) {
             const auto data = m_service->calls[i][6].toMap().value("image-data").value<QDBusArgument>();
             int width = 0;
             int height = 0;
