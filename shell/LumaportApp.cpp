@@ -18,6 +18,13 @@
 #include <QGuiApplication>
 #include <QQmlEngine>
 
+namespace {
+
+// So that a dark desktop sees no light frame first.
+constexpr std::chrono::milliseconds portalPatience{250};
+
+} // namespace
+
 LumaportApp::LumaportApp(SingleInstance &instance)
     : m_engine(std::make_unique<QQmlEngine>())
 {
@@ -50,6 +57,7 @@ LumaportApp::LumaportApp(SingleInstance &instance)
     });
     const bool isStartedByBus = SingleInstance::takeStartByBus();
     if (!isStartedByBus) {
+        m_portal->waitForAnswer(portalPatience);
         openMain();
     }
     m_delegate->configureMenuBar(*m_model, openMain);

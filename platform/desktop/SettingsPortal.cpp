@@ -7,6 +7,8 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
+#include <QEventLoop>
+#include <QTimer>
 
 namespace {
 
@@ -47,6 +49,16 @@ SettingsPortal::SettingsPortal(const QDBusConnection &bus, SystemAppearance &app
     readAll();
 }
 
+void SettingsPortal::waitForAnswer(std::chrono::milliseconds patience)
+{
+    if (!m_hasAnswered) {
+        QEventLoop loop;
+        connect(this, &SettingsPortal::answered, &loop, &QEventLoop::quit);
+        QTimer::singleShot(patience, &loop, &QEventLoop::quit);
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+}
+
 void SettingsPortal::readAll()
 {
     read(appearanceGroup, colorSchemeKey);
@@ -64,6 +76,10 @@ void SettingsPortal::read(const QString &group, const QString &key)
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
         if (reply.isValid()) {
             take(group, key, reply.value().variant());
+        }
+        if (key == colorSchemeKey) {
+            m_hasAnswered = true;
+            Q_EMIT answered();
         }
         watcher->deleteLater();
     });

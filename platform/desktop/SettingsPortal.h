@@ -3,6 +3,8 @@
 #include <QDBusConnection>
 #include <QObject>
 
+#include <chrono>
+
 class QDBusMessage;
 class QVariant;
 class SystemAppearance;
@@ -22,6 +24,13 @@ public:
     /// `appearance` must outlive this object.
     SettingsPortal(const QDBusConnection &bus, SystemAppearance &appearance, QObject *parent = nullptr);
 
+    /// Serves events until the portal has answered or refused the first question about light and dark, at most
+    /// for `patience`.
+    void waitForAnswer(std::chrono::milliseconds patience);
+
+Q_SIGNALS:
+    void answered();
+
 private Q_SLOTS:
     void settingChanged(const QDBusMessage &message);
 
@@ -32,6 +41,7 @@ private:
 
     QDBusConnection m_bus;
     SystemAppearance &m_appearance;
+    bool m_hasAnswered = false;
     bool m_gnomeReducesMotion = false;
     bool m_kdeReducesMotion = false;
 };

@@ -52,6 +52,10 @@ void MainWindowLayout::apply(QWindow &window, SavedFrame savedFrame) const
         return;
     }
     const auto saved = savedFrame == SavedFrame::restore ? this->savedFrame() : std::nullopt;
+    const bool shallBeMaximised = saved && saved->isMaximised;
+    if (shallBeMaximised && window.windowStates().testFlag(Qt::WindowMaximized)) {
+        return;
+    }
     const QMargins decoration = window.frameMargins();
     const QSize contentSize = saved ? saved->contentSize : recommendedContentSize;
     const QSize frameSize = contentSize.grownBy(decoration + menuBarOf(window));
@@ -74,16 +78,28 @@ void MainWindowLayout::apply(QWindow &window, SavedFrame savedFrame) const
     }
     window.resize(frame.size().shrunkBy(decoration));
     window.setFramePosition(frame.topLeft());
+    if (shallBeMaximised) {
+        window.setWindowStates(window.windowStates() | Qt::WindowMaximized);
+    }
 }
 
 void MainWindowLayout::save(const QWindow &window) const
 {
-    if (!window.isVisible() || window.windowStates() != Qt::WindowNoState) {
+    if (!window.isVisible()) {
         return;
     }
-    const WindowFrame frame{.origin = canKnowPlaces() ? std::optional(window.framePosition()) : std::nullopt,
-                            .contentSize = window.size().shrunkBy(menuBarOf(window))};
-    if (frame != savedFrame()) {
+    const auto saved = savedFrame();
+    WindowFrame frame;
+    if (window.windowStates() == Qt::WindowMaximized) {
+        frame = saved.value_or(WindowFrame{.contentSize = recommendedContentSize});
+        frame.isMaximised = true;
+    } else if (window.windowStates() == Qt::WindowNoState) {
+        frame = {.origin = canKnowPlaces() ? std::optional(window.framePosition()) : std::nullopt,
+                 .contentSize = window.size().shrunkBy(menuBarOf(window))};
+    } else {
+        return;
+    }
+    if (frame != saved) {
         m_defaults->store(frameAutosaveName, frame.toText());
     }
 }

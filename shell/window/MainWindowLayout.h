@@ -24,10 +24,11 @@ public:
     explicit MainWindowLayout(std::shared_ptr<DefaultsStore> defaults);
 
     /// Places and sizes the window, unless it is in full screen. With `restore` it gets the saved frame, if
-    /// there is one; else the recommended frame.
+    /// there is one, and is maximised if it was; else the recommended frame.
     void apply(QWindow &window, SavedFrame savedFrame) const;
 
-    /// Stores the window's frame, unless the window is hidden, minimised, maximised or in full screen.
+    /// Stores the window's frame, or that it is maximised; nothing while it is hidden, minimised or in full
+    /// screen.
     void save(const QWindow &window) const;
 
     /// A frame of this size at `origin`, or centred without one, shrunk and moved into `visibleFrame` less

@@ -8,6 +8,8 @@
 #include <QPalette>
 #include <QTest>
 
+using namespace std::chrono_literals;
+
 namespace {
 
 using Key = std::pair<const char *, const char *>; // its group and its name
@@ -65,7 +67,9 @@ private Q_SLOTS:
                 portal.leave();
             }
             SystemAppearance appearance;
-            const SettingsPortal follower(QDBusConnection::sessionBus(), appearance);
+            SettingsPortal follower(QDBusConnection::sessionBus(), appearance);
+            follower.waitForAnswer(1h);
+            QCOMPARE(appearance.isDark(), !isLater);
             if (isLater) {
                 portal.come();
             }

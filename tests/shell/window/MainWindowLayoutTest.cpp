@@ -76,10 +76,10 @@ private Q_SLOTS:
 
     void shouldReadBackOnlyWholeFrames()
     {
-        for (const char *text : {"-40 25 1000 700", "1000 700"}) {
+        for (const char *text : {"-40 25 1000 700", "1000 700 maximised"}) {
             QCOMPARE(WindowFrame::fromText(text)->toText(), QString(text));
         }
-        for (const char *text : {"", "1 2 3", "10 10 0 700", "10 10 700 -1", "10 10 wide 700"}) {
+        for (const char *text : {"", "1 2 3", "10 10 0 700", "10 10 700 -1", "10 10 wide 700", "1000 700 wide"}) {
             QVERIFY2(!WindowFrame::fromText(text), text);
         }
     }
@@ -96,6 +96,25 @@ private Q_SLOTS:
         window.setVisible(true); // show() would leave the full screen
         fixture.layout.save(window);
         QCOMPARE(fixture.saved(), "nothing");
+    }
+
+    void shouldBringBackAMaximisedWindowWithItsOrdinaryFrame()
+    {
+        const LayoutFixture fixture;
+        QWindow window;
+        window.setGeometry(25, 26, 530, 410);
+        window.setVisible(true);
+        fixture.layout.save(window);
+        const QRect ordinary(window.framePosition(), window.size());
+        window.setWindowState(Qt::WindowMaximized);
+        fixture.layout.save(window);
+
+        QWindow next;
+        fixture.layout.apply(next, MainWindowLayout::SavedFrame::restore);
+        QCOMPARE(QRect(next.framePosition(), next.size()), ordinary);
+        QCOMPARE(next.windowStates(), Qt::WindowMaximized);
+        fixture.layout.apply(next, MainWindowLayout::SavedFrame::restore); // once its decoration is known
+        QCOMPARE(next.windowStates(), Qt::WindowMaximized);
     }
 
     void shouldSaveOnceAfterTheUserHasMovedTheWindow()
