@@ -24,8 +24,8 @@ public:
     /// `appearance` must outlive this object.
     SettingsPortal(const QDBusConnection &bus, SystemAppearance &appearance, QObject *parent = nullptr);
 
-    /// Serves events until the portal has answered or refused the first question about light and dark, at most
-    /// for `patience`.
+    /// Serves events until the portal has answered or refused the first question about light and dark, at
+    /// most for `patience`.
     void waitForAnswer(std::chrono::milliseconds patience);
 
 Q_SIGNALS:

@@ -3,6 +3,7 @@
 #include "JobScheduler.h"
 #include "MenuBarViewController.h"
 #include "PanelPlacement.h"
+#include "PointerPresses.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -47,12 +48,13 @@ void PanelWindow::toggle(const std::optional<QRect> &item)
     } else {
         open(item);
     }
-    m_justLostFocus.reset();
+    m_justClosed.reset();
 }
 
 void PanelWindow::toggleByClick(const std::optional<QRect> &item)
 {
-    if (!std::exchange(m_justLostFocus, {})) {
+    const bool mayBeSameClick = !item || item->marginsAdded(aroundItem).contains(m_closedFrom);
+    if (!std::exchange(m_justClosed, {}) || !mayBeSameClick) {
         toggle(item);
     }
 }
@@ -62,6 +64,13 @@ void PanelWindow::open(const std::optional<QRect> &item)
     m_item = item;
     m_hadFocus = false;
     moveToPlace();
+    // A desktop may keep the focus from the panel: then only the press tells of a click elsewhere.
+    m_presses = std::make_unique<PointerPresses>();
+    connect(m_presses.get(), &PointerPresses::pressed, this, [this] {
+        if (!geometry().contains(QCursor::pos())) {
+            closeByClick();
+        }
+    });
     show();
     raise();
     requestActivate();
@@ -81,23 +90,27 @@ void PanelWindow::moveToPlace()
 
 void PanelWindow::followFocus(const QWindow *focus)
 {
-    if (!isVisible()) {
-        return;
-    }
     if (focus == this) {
         m_hadFocus = true;
     } else if (m_hadFocus) {
         // Until the panel has had the focus it stays open: on the way to it, no window may have the focus.
-        hide();
-        if (mayBeOnItem(QCursor::pos())) {
-            m_justLostFocus = m_jobs->after(sameClick, [this] { m_justLostFocus.reset(); });
-        }
+        closeByClick();
     }
 }
 
-bool PanelWindow::mayBeOnItem(const QPoint &pointer) const
+void PanelWindow::closeByClick()
 {
-    return !m_item || m_item->marginsAdded(aroundItem).contains(pointer);
+    if (isVisible()) {
+        hide();
+        m_closedFrom = QCursor::pos();
+        m_justClosed = m_jobs->after(sameClick, [this] { m_justClosed.reset(); });
+    }
+}
+
+void PanelWindow::hideEvent(QHideEvent *event)
+{
+    m_presses.reset();
+    QQuickView::hideEvent(event);
 }
 
 void PanelWindow::keyPressEvent(QKeyEvent *event)

@@ -7,6 +7,7 @@
 
 class JobScheduler;
 class MenuBarViewController;
+class PointerPresses;
 class ScheduledJob;
 
 /// The window of the status item's panel: frameless, as large as its view, above other windows. It closes
@@ -22,21 +23,24 @@ public:
 
     /// Opens the panel at the status item's place, or closes it.
     void toggle(const std::optional<QRect> &item);
-    /// The same for a click on the status item. A click that has just closed the panel, by taking the focus
-    /// from it, does not open it again.
+    /// The same for a click on the status item. A click that has just closed the panel does not open it
+    /// again.
     void toggleByClick(const std::optional<QRect> &item);
 
 protected:
+    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void open(const std::optional<QRect> &item);
     void followFocus(const QWindow *focus);
+    void closeByClick();
     void moveToPlace();
-    bool mayBeOnItem(const QPoint &pointer) const;
 
     std::shared_ptr<JobScheduler> m_jobs;
-    std::unique_ptr<ScheduledJob> m_justLostFocus;
+    std::unique_ptr<PointerPresses> m_presses; ///< while the panel is open
+    std::unique_ptr<ScheduledJob> m_justClosed;
+    QPoint m_closedFrom; ///< where the pointer was then
     std::optional<QRect> m_item;
     bool m_hadFocus = false;
 };

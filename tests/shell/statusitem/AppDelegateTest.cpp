@@ -9,6 +9,7 @@
 #include "SystemAppearanceSingleton.h"
 #include "WriteFile.h"
 
+#include <QCursor>
 #include <QDir>
 #include <QFile>
 #include <QQmlEngine>
@@ -156,6 +157,11 @@ private Q_SLOTS:
         shell.jobs->advance(1s);
         Q_EMIT shell.item->activated();
         QVERIFY2(panel->isVisible(), "a later click does not open it");
+
+        QVERIFY(closesWithoutFocus());
+        shell.item->placeOnScreen = QRect(QCursor::pos() + QPoint(100, 0), QSize(1, 1));
+        Q_EMIT shell.item->activated();
+        QVERIFY2(panel->isVisible(), "a click elsewhere counts as one on the item");
     }
 
     void shouldOfferInItsMenuWhatThePanelDoes()

@@ -79,7 +79,8 @@ private Q_SLOTS:
         for (const char *text : {"-40 25 1000 700", "1000 700 maximised"}) {
             QCOMPARE(WindowFrame::fromText(text)->toText(), QString(text));
         }
-        for (const char *text : {"", "1 2 3", "10 10 0 700", "10 10 700 -1", "10 10 wide 700", "1000 700 wide"}) {
+        for (const char *text :
+             {"", "1 2 3", "10 10 0 700", "10 10 700 -1", "10 10 wide 700", "1000 700 wide"}) {
             QVERIFY2(!WindowFrame::fromText(text), text);
         }
     }

@@ -1,0 +1,56 @@
+#include "PointerPresses.h"
+
+#include <QGuiApplication>
+
+#include <xcb/xinput.h>
+
+namespace {
+
+xcb_connection_t *connectionToServer()
+{
+    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 != nullptr ? x11->connection() : nullptr;
+}
+
+// Raw events need no window under the pointer and no grab: X Input Extension 2.2, "RawEvent".
+void select(xcb_connection_t *connection, std::uint32_t events)
+{
+    const struct
+    {
+        xcb_input_event_mask_t head;
+        std::uint32_t mask;
+    } selection{.head = {.deviceid = XCB_INPUT_DEVICE_ALL_MASTER, .mask_len = 1}, .mask = events};
+    for (auto screen = xcb_setup_roots_iterator(xcb_get_setup(connection)); screen.rem > 0;
+         xcb_screen_next(&screen)) {
+        xcb_input_xi_select_events(connection, screen.data->root, 1, &selection.head);
+    }
+    xcb_flush(connection);
+}
+
+} // namespace
+
+PointerPresses::PointerPresses()
+{
+    if (xcb_connection_t *connection = connectionToServer()) {
+        qGuiApp->installNativeEventFilter(this);
+        select(connection, XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS);
+    }
+}
+
+PointerPresses::~PointerPresses()
+{
+    if (xcb_connection_t *connection = connectionToServer()) {
+        select(connection, 0);
+    }
+}
+
+bool PointerPresses::nativeEventFilter(const QByteArray &eventType, void *message, qintptr * /*result*/)
+{
+    const auto *event = static_cast<const xcb_ge_generic_event_t *>(message);
+    if (eventType == "xcb_generic_event_t" && (event->response_type & 0x7F) == XCB_GE_GENERIC &&
+        event->event_type == XCB_INPUT_RAW_BUTTON_PRESS &&
+        event->extension == xcb_get_extension_data(connectionToServer(), &xcb_input_id)->major_opcode) {
+        Q_EMIT pressed();
+    }
+    return false;
+}
