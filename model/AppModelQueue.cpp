@@ -174,7 +174,8 @@ void AppModel::choosePhotos()
 {
     m_services.openPanel->show({.choice = OpenPanelRequest::Choice::photoFiles,
                                 .title = tr("Choose HEIC photos"),
-                                .prompt = tr("Convert photos")},
+                                .prompt = tr("Convert photos"),
+                                .folder = watchFolder()},
                                [this](const QList<QUrl> &photos) { convertManually(photos); });
 }
 

@@ -2,9 +2,22 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QPointer>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace {
+
+/// The shown window that is no dialog, tool or pop-up; null without one.
+QWindow *mainWindow()
+{
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    const auto found = std::ranges::find_if(
+        windows, [](const QWindow *window) { return window->isVisible() && window->type() == Qt::Window; });
+    return found == windows.end() ? nullptr : *found;
+}
 
 /// The desktop's own file dialog where it gives one, else Qt's.
 class DialogOpenPanel : public OpenPanel
@@ -23,7 +36,8 @@ public:
         }
         m_dialog = new QFileDialog(nullptr, request.title);
         m_dialog->setAttribute(Qt::WA_DeleteOnClose);
-        m_dialog->setWindowModality(Qt::ApplicationModal);
+        m_dialog->winId(); // makes the native window
+        m_dialog->windowHandle()->setTransientParent(mainWindow());
         m_dialog->setSupportedSchemes({QStringLiteral("file")});
         m_dialog->setLabelText(QFileDialog::Accept, request.prompt);
         if (request.choice == OpenPanelRequest::Choice::oneFolder) {

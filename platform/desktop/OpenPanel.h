@@ -27,9 +27,9 @@ class OpenPanel
 public:
     virtual ~OpenPanel() = default;
 
-    /// Shows the panel over the application's windows and returns at once. `chosen` is called when the user
-    /// accepts with at least one URL, and not at all when the user cancels. A panel that is shown already
-    /// stays the only one.
+    /// Shows the panel over the application's main window, which is blocked until it closes, and returns at
+    /// once. `chosen` is called when the user accepts with at least one URL, and not at all when the user
+    /// cancels. A panel that is shown already stays the only one.
     virtual void show(const OpenPanelRequest &request, std::function<void(const QList<QUrl> &)> chosen) = 0;
 
     static std::unique_ptr<OpenPanel> create();

@@ -35,13 +35,16 @@ class FileManager(dbus.service.Object):
 
 
 def answer_dialog(path):
-    """Types a path into the file dialog that stands open."""
+    """Types a path into the file dialog that stands open over the main window."""
 
     def dialog():
         main = windows("^Lumaport")
         return next((window for window in windows("lumaport", "--class") if window not in main), None)
 
-    run("xdotool", "windowfocus", "--sync", wait_until(dialog, "the file dialog"), "type", "--delay", "5", str(path))
+    shown = wait_until(dialog, "the file dialog")
+    owner = run("xprop", "-id", shown, "-f", "WM_TRANSIENT_FOR", "32i", " $0", "WM_TRANSIENT_FOR").split()[1]
+    assert owner in windows("^Lumaport$"), owner
+    run("xdotool", "windowfocus", "--sync", shown, "type", "--delay", "5", str(path))
     key("Return")
     wait_until(lambda: not dialog(), "the end of the file dialog")
 

@@ -138,6 +138,7 @@ private Q_SLOTS:
                                     QUrl("file://localhost" + m_fixture->path("a.HEIC"))};
         model().choosePhotos();
         QCOMPARE(m_fixture->panel->requests.last().prompt, "Convert photos");
+        QCOMPARE(m_fixture->panel->requests.last().folder, model().watchFolder());
         convertTurned({"a.HEIC"});
         QCOMPARE(statuses(), QStringList{"a.HEIC converting"});
         m_fixture->engine->succeed("a.png");
