@@ -1,16 +1,12 @@
 #include "PointerPresses.h"
 
+#include "X11.h"
+
 #include <QGuiApplication>
 
 #include <xcb/xinput.h>
 
 namespace {
-
-xcb_connection_t *connectionToServer()
-{
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 != nullptr ? x11->connection() : nullptr;
-}
 
 // Raw events need no window under the pointer and no grab: X Input Extension 2.2, "RawEvent".
 void select(xcb_connection_t *connection, std::uint32_t events)
@@ -31,7 +27,7 @@ void select(xcb_connection_t *connection, std::uint32_t events)
 
 PointerPresses::PointerPresses()
 {
-    if (xcb_connection_t *connection = connectionToServer()) {
+    if (xcb_connection_t *connection = X11::connection()) {
         qGuiApp->installNativeEventFilter(this);
         select(connection, XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS);
     }
@@ -39,7 +35,7 @@ PointerPresses::PointerPresses()
 
 PointerPresses::~PointerPresses()
 {
-    if (xcb_connection_t *connection = connectionToServer()) {
+    if (xcb_connection_t *connection = X11::connection()) {
         select(connection, 0);
     }
 }
@@ -49,7 +45,7 @@ bool PointerPresses::nativeEventFilter(const QByteArray &eventType, void *messag
     const auto *event = static_cast<const xcb_ge_generic_event_t *>(message);
     if (eventType == "xcb_generic_event_t" && (event->response_type & 0x7F) == XCB_GE_GENERIC &&
         event->event_type == XCB_INPUT_RAW_BUTTON_PRESS &&
-        event->extension == xcb_get_extension_data(connectionToServer(), &xcb_input_id)->major_opcode) {
+        event->extension == xcb_get_extension_data(X11::connection(), &xcb_input_id)->major_opcode) {
         Q_EMIT pressed();
     }
     return false;

@@ -1,16 +1,11 @@
 #include "WindowBlending.h"
 
-#include <QByteArray>
-#include <QGuiApplication>
+#include "X11.h"
 
 #include <cstdlib>
 #include <memory>
-#include <xcb/xcb.h>
 
 namespace {
-
-template<typename Reply>
-using ReplyPointer = std::unique_ptr<Reply, decltype(&std::free)>;
 
 // A compositor announces itself by owning this selection of its screen: Extended Window Manager Hints 1.5,
 // "Compositing Managers".
@@ -26,25 +21,16 @@ QByteArray selectionName()
 
 bool isOwned(xcb_connection_t *connection, const QByteArray &selection)
 {
-    const ReplyPointer<xcb_intern_atom_reply_t> atom(
-        xcb_intern_atom_reply(connection,
-                              xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(selection.size()),
-                                              selection.constData()),
-                              nullptr),
-        &std::free);
-    if (!atom) {
-        return false;
-    }
-    const ReplyPointer<xcb_get_selection_owner_reply_t> owner(
-        xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom), nullptr),
-        &std::free);
-    return owner && owner->owner != XCB_NONE;
+    const auto cookie = xcb_get_selection_owner(connection, X11::atom(connection, selection));
+    const std::unique_ptr<xcb_get_selection_owner_reply_t, decltype(&std::free)> reply(
+        xcb_get_selection_owner_reply(connection, cookie, nullptr), &std::free);
+    return reply && reply->owner != XCB_NONE;
 }
 
 } // namespace
 
 bool WindowBlending::isAvailable()
 {
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 && x11->connection() && isOwned(x11->connection(), selectionName());
+    xcb_connection_t *connection = X11::connection();
+    return connection != nullptr && isOwned(connection, selectionName());
 }

@@ -4,6 +4,7 @@
 #include "MenuBarViewController.h"
 #include "PanelPlacement.h"
 #include "PointerPresses.h"
+#include "TaskBar.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -71,6 +72,8 @@ void PanelWindow::open(const std::optional<QRect> &item)
             closeByClick();
         }
     });
+    create();
+    TaskBar::leaveOut(*this);
     show();
     raise();
     requestActivate();

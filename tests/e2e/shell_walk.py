@@ -91,6 +91,7 @@ class Shell(Application):
         self.key("ctrl+shift+m")
         panel = one_window(PANEL)
         wait_until(lambda: has_focus(panel), "the panel's focus")
+        assert "SKIP_TASKBAR" in run("xprop", "-id", panel, "_NET_WM_STATE")
         return panel
 
     def signal_workers(self, number):
@@ -102,7 +103,7 @@ class Shell(Application):
         return dbus.Interface(item, interface)
 
     def tool_tip(self):
-        return self.item(PROPERTIES).Get(ITEM, "ToolTip")[2]
+        return self.item(PROPERTIES).Get(ITEM, "ToolTip")[3]
 
 
 class ShellWalk(unittest.TestCase):
