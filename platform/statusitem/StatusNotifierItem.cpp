@@ -116,7 +116,8 @@ StatusNotifierPixmaps StatusNotifierItem::iconPixmap() const
 
 StatusNotifierToolTip StatusNotifierItem::toolTip() const
 {
-    return {.iconName = {}, .pixmaps = {}, .title = m_look.toolTip, .text = {}};
+    // With an empty text some hosts show the accessibility label below the title.
+    return {.iconName = {}, .pixmaps = {}, .title = title(), .text = m_look.toolTip};
 }
 
 void StatusNotifierItem::Activate(int x, int y)

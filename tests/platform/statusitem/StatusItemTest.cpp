@@ -101,7 +101,8 @@ private Q_SLOTS:
         QCOMPARE(properties.value("ItemIsMenu"), QVariant(false));
         QCOMPARE(properties.value("IconAccessibleDesc").toString(), "Lumaport, Auto-convert: On");
         const auto toolTip = qdbus_cast<StatusNotifierToolTip>(properties.value("ToolTip"));
-        QCOMPARE(toolTip.title, "Lumaport: Auto-convert: On");
+        QCOMPARE(toolTip.title, "Lumaport");
+        QCOMPARE(toolTip.text, "Lumaport: Auto-convert: On");
 
         const auto pixmaps = qdbus_cast<StatusNotifierPixmaps>(properties.value("IconPixmap"));
         QCOMPARE(pixmaps.size(), 2);
