@@ -40,6 +40,13 @@ const QScreen *screenFor(const QWindow &window, const std::optional<QRect> &save
     return window.screen() != nullptr ? window.screen() : QGuiApplication::primaryScreen();
 }
 
+/// What a window may cover of the part of a screen that desktop panels leave free.
+QRect areaIn(const QRect &visibleFrame)
+{
+    constexpr int margin = MainWindowLayout::margin;
+    return visibleFrame.marginsRemoved({margin, margin, margin, margin});
+}
+
 } // namespace
 
 MainWindowLayout::MainWindowLayout(std::shared_ptr<DefaultsStore> defaults)
@@ -76,6 +83,9 @@ void MainWindowLayout::apply(QWindow &window, SavedFrame savedFrame) const
             Qt::SingleShotConnection);
         window.setWindowStates(window.windowStates() & ~Qt::WindowMaximized);
     }
+    // A smallest size beyond the screen's would put a part of the window out of reach.
+    const QSize room = areaIn(screen->availableGeometry()).size().shrunkBy(decoration);
+    window.setMinimumSize(window.minimumSize().boundedTo(room));
     window.resize(frame.size().shrunkBy(decoration));
     window.setFramePosition(frame.topLeft());
     if (shallBeMaximised) {
@@ -112,7 +122,7 @@ std::optional<WindowFrame> MainWindowLayout::savedFrame() const
 QRect MainWindowLayout::place(const QRect &visibleFrame, const QSize &frameSize,
                               const std::optional<QPoint> &origin)
 {
-    const QRect area = visibleFrame.marginsRemoved({margin, margin, margin, margin});
+    const QRect area = areaIn(visibleFrame);
     QRect frame(QPoint(), frameSize.boundedTo(area.size()));
     frame.moveCenter(area.center());
     if (origin) {

@@ -4,6 +4,7 @@
 #include "MainWindowPlacement.h"
 #include "ManualScheduler.h"
 
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWindow>
@@ -97,6 +98,15 @@ private Q_SLOTS:
         window.setVisible(true); // show() would leave the full screen
         fixture.layout.save(window);
         QCOMPARE(fixture.saved(), "nothing");
+    }
+
+    void shouldFitAScreenSmallerThanItsSmallestSize()
+    {
+        const LayoutFixture fixture;
+        QWindow window;
+        window.setMinimumSize({9000, 10});
+        fixture.layout.apply(window, MainWindowLayout::SavedFrame::ignore);
+        QCOMPARE(window.minimumSize(), QSize(window.screen()->availableSize().width() - 40, 10));
     }
 
     void shouldBringBackAMaximisedWindowWithItsOrdinaryFrame()
