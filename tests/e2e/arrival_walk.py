@@ -7,7 +7,8 @@ import subprocess
 import sys
 import unittest
 
-from session_tools import COPIES, DOWNLOADS, HOME, Application, ended, everything_in, fresh, history, photo, ready, run, wait_until
+from session_tools import (COPIES, DOWNLOADS, HOME, Application, Program, ended, everything_in, fresh, history, key, photo, ready, run,
+                           wait_stored, wait_until)
 
 PROGRAM = sys.argv.pop()
 UNREADABLE = "The image could not be opened. It may still be transferring."
@@ -92,6 +93,27 @@ class ArrivalWalk(unittest.TestCase):
             photo(DOWNLOADS, "new.heic")
             ready("new.heic")
             self.assertEqual(history()[1]["sourceName"], "stalled.heic")
+
+    @unittest.skipUnless(os.access("/dev/fuse", os.W_OK), "serving a folder takes FUSE")
+    def test_a_served_folder_that_fails_and_hangs(self):
+        served = HOME / "served"
+        served.mkdir()
+        photo(served, "old.heic")
+        server = pathlib.Path(__file__).with_name("served_folder.py")
+        with (Program("/usr/bin/python3", server, served, DOWNLOADS, HOME, ready=lambda: os.path.ismount(DOWNLOADS)),
+              Application(PROGRAM)):
+            for fault, met in (("fail", "failed"), ("hang", "hung")):
+                photo(served, f"before {fault}.heic")
+                ready(f"before {fault}.heic")
+                (HOME / fault).touch()
+                wait_until((HOME / met).exists, "the look at the folder")
+                for isWatching in ("false", "true"):  # the window answers
+                    key("ctrl+shift+p")
+                    wait_stored("isWatching", isWatching)
+                (HOME / fault).unlink()
+            photo(served, "last.heic")
+            ready("last.heic")
+            self.assertEqual([item["sourceName"] for item in history()], ["last.heic", "before hang.heic", "before fail.heic"])
 
     def test_being_killed_leaves_no_part_and_the_next_start_works(self):
         with Application(PROGRAM) as application:
