@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import Lumaport.Vocabulary
+import Lumaport.Controls
 
 // A menu of the menu bar, wide enough for its longest command and its keys.
 Menu {
@@ -21,10 +21,5 @@ Menu {
         }
     }
 
-    background: Rectangle {
-        border.color: LumaportPalette.softLine
-        border.width: 1
-        color: LumaportPalette.panel
-        radius: 9
-    }
+    background: PopUpSurface {}
 }

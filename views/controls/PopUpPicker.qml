@@ -73,12 +73,7 @@ T.ComboBox {
         width: picker.width
         y: picker.height + 4
 
-        background: Rectangle {
-            border.color: LumaportPalette.softLine
-            border.width: 1
-            color: LumaportPalette.panel
-            radius: 9
-        }
+        background: PopUpSurface {}
         contentItem: ListView {
             clip: true
             currentIndex: picker.highlightedIndex
