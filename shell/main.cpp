@@ -62,7 +62,10 @@ int main(int argc, char **argv)
         }
         // The first process is ending, so that this one or another takes its place; or it hangs.
         if (++attempts == mostAttempts || deadline.hasExpired()) {
-            std::fputs("lumaport: is running already, but does not answer\n", stderr);
+            std::fputs(QDBusConnection::sessionBus().isConnected()
+                           ? "lumaport: is running already, but does not answer\n"
+                           : "lumaport: is running already, and cannot be reached without a session bus\n",
+                       stderr);
             return 1;
         }
     }

@@ -11,7 +11,7 @@ import dbus
 
 from assistive import UsableChanges, accessible, press
 from session_tools import (DOWNLOADS, HOME, PATIENCE, Application, Program, client_area, ended, everything_in, fresh, history, key, move, photo,
-                           run, stored, wait_stored, wait_until, windows)
+                           ready, run, stored, wait_stored, wait_until, windows)
 
 PROGRAM = sys.argv.pop()
 ITEM = "org.kde.StatusNotifierItem"
@@ -171,6 +171,16 @@ class ShellWalk(unittest.TestCase):
         finally:
             monitor.terminate()
             monitor.communicate(timeout=PATIENCE)
+
+    def test_without_a_bus_one_process_converts_and_bears_a_hang_up(self):
+        without = {"DBUS_SESSION_BUS_ADDRESS": "unix:path=/none"}
+        with Application("nohup", PROGRAM, **without) as application:
+            again = subprocess.run([PROGRAM], env={**os.environ, **without}, capture_output=True, text=True, timeout=PATIENCE, check=False)
+            self.assertEqual((again.returncode, again.stderr),
+                             (1, "lumaport: is running already, and cannot be reached without a session bus\n"))
+            application.process.send_signal(signal.SIGHUP)
+            photo(DOWNLOADS, "IMG_1.HEIC")
+            ready("IMG_1.HEIC")
 
     def test_the_commands_keys_work_and_the_panel_closes_when_left(self):
         with Shell(PROGRAM) as shell:
