@@ -10,8 +10,8 @@ struct RgbRow
 {
     explicit RgbRow(int width)
         : red(static_cast<std::size_t>(width))
-        , green(red)
-        , blue(red)
+        , green(red.size())
+        , blue(red.size())
     {}
     int width() const { return static_cast<int>(red.size()); }
 

@@ -47,10 +47,10 @@ TEST(Container, ShouldTurnAndCropInTheOrderOfTheProperties)
         {mirror(0), rotation(1)},
         {rotation(3), mirror(1)},
         {mirror(1), rotation(3)},
-        // Whole places: on halves decoders differ.
-        {crop({50, 30}, -12, 6), rotation(1)},
-        {rotation(1), crop({30, 50}, 6, -12)},
-        {crop({70, 40}, 0, 0), rotation(2), mirror(1), crop({30, 16}, 4, -8)},
+        // Even places: on odd ones libheif 1.23 shifts the colours, on halves decoders differ.
+        {crop({50, 30}, -10, 6), rotation(1)},
+        {rotation(1), crop({30, 50}, 6, -10)},
+        {crop({72, 40}, 0, 0), rotation(2), mirror(1), crop({30, 16}, 6, -8)},
     };
     const CodedItem coded = codedItemOf(makePhoto({.size = {128, 64}}));
     for (std::size_t order = 0; order < orders.size(); ++order) {
@@ -58,6 +58,9 @@ TEST(Container, ShouldTurnAndCropInTheOrderOfTheProperties)
         expectLikeIndependentDecoder(photoOf(coded, orders[order]));
         expectLikeIndependentDecoder(gridPhoto({150, 100}, orders[order]));
     }
+    const auto whole = shown(photoOf(coded));
+    ASSERT_TRUE(whole);
+    expectShown(photoOf(coded, {crop({50, 30}, -12, 6)}), partOf(*whole, 33, 20, {50, 30}), 0);
 }
 
 TEST(Container, ShouldReadPicturesOfOtherCodecs)

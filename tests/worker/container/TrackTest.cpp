@@ -12,7 +12,7 @@ namespace {
 TEST(Tracks, ShouldShowTheFirstPictureCroppedAndTurnedWhereverTheTablesSayItIs)
 {
     CodedItem picture = codedItemOf(makePhoto({.size = {128, 64}}));
-    picture.properties.push_back(crop({50, 30}, 12, 6));
+    picture.properties.push_back(crop({50, 30}, 10, 6));
     for (unsigned quarters = 0; quarters < 4; ++quarters) {
         SCOPED_TRACE(quarters);
         expectShown(fileOfTracks({{.picture = picture,

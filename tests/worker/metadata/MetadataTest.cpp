@@ -19,8 +19,8 @@ std::string readWith(const std::string &command, const MemoryFile &copy)
 {
     const std::string file =
         "/proc/" + std::to_string(::getpid()) + "/fd/" + std::to_string(copy.descriptor());
-    const std::unique_ptr<FILE, decltype(&::pclose)> pipe(
-        ::popen((command + " " + file + " 2>&1").c_str(), "r"), &::pclose);
+    const std::unique_ptr<FILE, int (*)(FILE *)> pipe(::popen((command + " " + file + " 2>&1").c_str(), "r"),
+                                                      &::pclose);
     std::string text;
     std::array<char, 4096> part = {};
     while (pipe != nullptr && std::fgets(part.data(), part.size(), pipe.get()) != nullptr) {
