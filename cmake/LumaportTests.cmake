@@ -15,7 +15,7 @@ endfunction()
 function(lumaport_register_test name)
   set(home "${CMAKE_CURRENT_BINARY_DIR}/home/${name}")
   file(MAKE_DIRECTORY "${home}")
-  add_test(NAME ${name} COMMAND "${DBUS_RUN_SESSION}" -- $<TARGET_FILE:${name}> ${ARGN})
-  set_tests_properties(${name} PROPERTIES TIMEOUT 60 ENVIRONMENT
+  add_test(NAME ${name} COMMAND "${DBUS_RUN_SESSION}" -- ${CMAKE_CROSSCOMPILING_EMULATOR} $<TARGET_FILE:${name}> ${ARGN})
+  set_tests_properties(${name} PROPERTIES TIMEOUT 600 ENVIRONMENT
     "HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software;LC_ALL=C.UTF-8;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/leaks.supp:print_suppressions=0;TSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/cmake/races.supp:ignore_noninstrumented_modules=1:print_suppressions=0")
 endfunction()
