@@ -18,7 +18,7 @@ Rectangle {
     border.width: AppModel.isDropTargeted ? 2 : 1
     color: LumaportPalette.panel
     implicitHeight: column.height + 2 * padding
-    radius: 22
+    radius: Math.round(22 * Screen.devicePixelRatio) / Screen.devicePixelRatio // whole pixels, see RoundedRectangle
 
     // The answer is always a copy: after a move, the source would delete the originals.
     DropArea {

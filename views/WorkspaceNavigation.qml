@@ -51,7 +51,7 @@ FocusScope {
         }
     }
 
-    Rectangle {
+    RoundedRectangle {
         id: highlight
 
         color: LumaportPalette.panel

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Drawing
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
@@ -19,7 +20,7 @@ Item {
         id: hover
     }
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         color: LumaportPalette.iris
         opacity: feedback.hovered ? 0.09 : 0

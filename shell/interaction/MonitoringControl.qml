@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Drawing
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
@@ -15,15 +16,15 @@ Item {
     implicitHeight: Math.max(badge.height, texts.implicitHeight, button.implicitHeight) + 2 * padding
     implicitWidth: 360
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
-        border.color: Qt.alpha(card.accent, 0.25)
-        border.width: 1
+        borderColor: Qt.alpha(card.accent, 0.25)
+        borderWidth: 1
         color: Qt.alpha(card.accent, 0.06)
         radius: 15
     }
 
-    Rectangle {
+    RoundedRectangle {
         id: badge
 
         Accessible.name: AppModel.monitorTitle

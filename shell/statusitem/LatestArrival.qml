@@ -1,10 +1,11 @@
 import QtQuick
+import Lumaport.Drawing
 import Lumaport.History
 import Lumaport.StatusItem
 import Lumaport.Vocabulary
 
 // The newest entry of the history: its thumbnail, its name, its status, and a button that reveals its converted file.
-Rectangle {
+RoundedRectangle {
     id: row
 
     required property MenuBarViewController controller

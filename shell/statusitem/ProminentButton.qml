@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Drawing
 import Lumaport.Vocabulary
 
 // A button filled with the accent colour.
@@ -11,7 +12,7 @@ PlainButton {
     horizontalPadding: 14
     verticalPadding: 7
 
-    background: Rectangle {
+    background: RoundedRectangle {
         color: control.down ? Qt.darker(LumaportPalette.iris, 1.15) : LumaportPalette.iris
         radius: control.cornerRadius
     }

@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Drawing
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 import Lumaport.Welcome
@@ -119,9 +120,9 @@ Item {
             text: qsTr("Get started")
             verticalPadding: 12
 
-            background: Rectangle {
-                border.color: Qt.alpha("white", 0.35)
-                border.width: 1
+            background: RoundedRectangle {
+                borderColor: Qt.alpha("white", 0.35)
+                borderWidth: 1
                 color: Qt.alpha("black", 0.28)
                 radius: height / 2
             }

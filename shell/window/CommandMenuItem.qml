@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumaport.Drawing
 import Lumaport.Vocabulary
 
 // A command with its keys, which the style's own item would not show. The keys work also while the menu is closed, and in
@@ -17,7 +18,7 @@ MenuItem {
     height: 30
     horizontalPadding: 10
 
-    background: Rectangle {
+    background: RoundedRectangle {
         color: item.highlighted ? LumaportPalette.iris : "transparent"
         radius: 6
     }

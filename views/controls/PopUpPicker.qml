@@ -3,6 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Lumaport.Controls
+import Lumaport.Drawing
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
@@ -31,9 +32,9 @@ T.ComboBox {
     leftPadding: mirrored ? 28 : 10
     rightPadding: mirrored ? 10 : 28
 
-    background: Rectangle {
-        border.color: Qt.alpha(LumaportPalette.muted, 0.75) // 3:1 against the panel
-        border.width: 1
+    background: RoundedRectangle {
+        borderColor: Qt.alpha(LumaportPalette.muted, 0.75) // 3:1 against the panel
+        borderWidth: 1
         color: LumaportPalette.night
         radius: 9
 

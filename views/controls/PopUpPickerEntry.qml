@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Lumaport.Drawing
 import Lumaport.Vocabulary
 
 // One entry of a pop-up picker's menu; the chosen one has a check mark.
@@ -20,7 +21,7 @@ T.ItemDelegate {
     leftPadding: mirrored ? 0 : 28
     rightPadding: mirrored ? 28 : 0
 
-    background: Rectangle {
+    background: RoundedRectangle {
         color: entry.highlighted ? LumaportPalette.iris : "transparent"
         radius: 8
 

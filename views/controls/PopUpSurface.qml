@@ -3,11 +3,11 @@ import Lumaport.Drawing
 import Lumaport.Vocabulary
 
 // What a pop-up list lies on, with the shadow that tells it from the page.
-Rectangle {
+RoundedRectangle {
     id: surface
 
-    border.color: LumaportPalette.softLine
-    border.width: 1
+    borderColor: LumaportPalette.softLine
+    borderWidth: 1
     color: LumaportPalette.panel
     radius: 9
 

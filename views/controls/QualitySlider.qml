@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Lumaport.Drawing
 import Lumaport.Interaction
 import Lumaport.Vocabulary
 
@@ -40,7 +41,7 @@ T.Slider {
     implicitWidth: 120
     padding: 3
 
-    background: Rectangle {
+    background: RoundedRectangle {
         color: slider.outline
         height: 4
         radius: 2
@@ -48,7 +49,7 @@ T.Slider {
         x: slider.leftPadding
         y: (slider.height - height) / 2
 
-        Rectangle {
+        RoundedRectangle {
             color: LumaportPalette.iris
             height: parent.height
             radius: 2
@@ -56,9 +57,9 @@ T.Slider {
             x: slider.mirrored ? parent.width - width : 0
         }
     }
-    handle: Rectangle {
-        border.color: slider.outline
-        border.width: 1
+    handle: RoundedRectangle {
+        borderColor: slider.outline
+        borderWidth: 1
         color: slider.pressed ? LumaportPalette.deck : "white"
         height: slider.knob
         radius: slider.knob / 2

@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Lumaport.Controls
+import Lumaport.Drawing
 import Lumaport.Vocabulary
 
 // A switch between a few choices, with a pill that slides to the chosen one. The Tab key stops here once; the arrow keys
@@ -38,13 +39,13 @@ FocusScope {
     implicitHeight: segmentHeight + 2 * padding
     implicitWidth: segments.length * (segmentWidth + spacing) - spacing + 2 * padding
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
         color: LumaportPalette.deck
         radius: 12
     }
 
-    Rectangle {
+    RoundedRectangle {
         color: LumaportPalette.cobalt
         height: control.segmentHeight
         objectName: "pill"

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Lumaport.Drawing
 import Lumaport.Vocabulary
 
 // A small switch with its text before it. Its user handles `chosen` and sets `checked`.
@@ -28,15 +29,15 @@ T.Switch {
         verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap
     }
-    indicator: Rectangle {
+    indicator: RoundedRectangle {
         readonly property SpringValue travel: SpringValue {
             dampingFraction: 0.8
             response: 0.25
             to: control.checked ? 1 : 0
         }
 
-        border.color: control.checked ? LumaportPalette.iris : LumaportPalette.muted
-        border.width: 1
+        borderColor: control.checked ? LumaportPalette.iris : LumaportPalette.muted
+        borderWidth: 1
         color: control.checked ? LumaportPalette.iris : LumaportPalette.deck
         height: 16
         radius: 8
@@ -44,7 +45,7 @@ T.Switch {
         x: control.mirrored ? 0 : control.width - width
         y: (control.height - height) / 2
 
-        Rectangle {
+        RoundedRectangle {
             color: control.checked ? LumaportPalette.panel : LumaportPalette.muted
             height: 12
             radius: 6

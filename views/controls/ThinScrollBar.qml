@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Lumaport.Drawing
 import Lumaport.Vocabulary
 
 // A scroll bar that is shown while it is used and fades out soon after.
@@ -13,7 +14,7 @@ T.ScrollBar {
     padding: 2
     visible: size < 1
 
-    contentItem: Rectangle {
+    contentItem: RoundedRectangle {
         color: LumaportPalette.muted
         opacity: 0
         radius: 3

@@ -5,6 +5,13 @@
 #include <QQuickWindow>
 #include <QSGImageNode>
 
+namespace {
+
+/// Transparent pixels on every side, for the edges of a turned picture.
+constexpr int margin = 1;
+
+} // namespace
+
 PaintedImage::PaintedImage(QQuickItem *parent)
     : QQuickItem(parent)
 {
@@ -20,11 +27,13 @@ void PaintedImage::repaint()
 QImage PaintedImage::painted()
 {
     const qreal scale = window()->effectiveDevicePixelRatio() * m_oversampling;
-    QImage image((size() * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    const auto pixels = [scale](qreal points) { return qCeil(points * scale) + 2 * margin; };
+    QImage image(pixels(width()), pixels(height()), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.translate(margin / scale, margin / scale);
     paint(&painter);
     return image;
 }
@@ -43,10 +52,13 @@ QSGNode *PaintedImage::updatePaintNode(QSGNode *node, UpdatePaintNodeData * /*da
         m_isStale = true;
     }
     if (m_isStale) {
-        shown->setTexture(window()->createTextureFromImage(painted(), QQuickWindow::TextureHasAlphaChannel));
+        const QImage image = painted();
+        shown->setTexture(window()->createTextureFromImage(image, QQuickWindow::TextureHasAlphaChannel));
+        // Pixel for pixel, so that nothing is scaled.
+        const qreal outside = margin / image.devicePixelRatio();
+        shown->setRect(QRectF({-outside, -outside}, image.deviceIndependentSize()));
         m_isStale = false;
     }
-    shown->setRect(boundingRect());
     return shown;
 }
 

@@ -5,9 +5,8 @@
 
 class QPainter;
 
-/// An item that is painted into a picture, which the scene then shows. Unlike other painted items its picture
-/// stays smooth when it is rotated or tilted, on every renderer; its edges do when paint() leaves a margin of
-/// one transparent point.
+/// An item that is painted into a picture, which the scene then shows. Unlike other painted items it stays
+/// smooth when it is rotated or tilted, on every renderer.
 class PaintedImage : public QQuickItem
 {
     Q_OBJECT

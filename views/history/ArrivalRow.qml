@@ -1,4 +1,5 @@
 import QtQuick
+import Lumaport.Drawing
 import Lumaport.History
 import Lumaport.Vocabulary
 
@@ -36,7 +37,7 @@ Item {
         url: row.displayFile
         width: 52
 
-        Rectangle {
+        RoundedRectangle {
             anchors.bottom: parent.bottom
             anchors.margins: -4
             anchors.right: parent.right

@@ -80,7 +80,7 @@ void PhotoThumbnail::setImage(const QImage &image)
 
 void PhotoThumbnail::paint(QPainter *painter)
 {
-    const QRectF frame = boundingRect().adjusted(m_margin, m_margin, -m_margin, -m_margin);
+    const QRectF frame = boundingRect();
     QPainterPath outline;
     outline.addRoundedRect(frame, m_cornerRadius, m_cornerRadius);
     if (m_image.isNull()) {

@@ -21,7 +21,6 @@ class PhotoThumbnail : public PaintedImage
     Q_PROPERTY(QUrl url READ url WRITE setUrl NOTIFY urlChanged)
     Q_PROPERTY(int variant MEMBER m_variant NOTIFY frameChanged)
     Q_PROPERTY(double cornerRadius MEMBER m_cornerRadius NOTIFY frameChanged)
-    Q_PROPERTY(double margin MEMBER m_margin NOTIFY frameChanged)
     Q_PROPERTY(bool loaded READ isLoaded NOTIFY loadedChanged)
 
 public:
@@ -47,7 +46,6 @@ private:
     QUrl m_url;
     int m_variant = 0;           ///< of the gradient: an odd number is warm, an even one blue
     double m_cornerRadius = 0.0; ///< of the frame, in points
-    double m_margin = 0.0;       ///< transparent points around the frame, for the edges of a turned picture
     QImage m_image;
     std::unique_ptr<ThumbnailRequest> m_request;
 };

@@ -26,29 +26,22 @@ Item {
         shapeSize: Qt.size(card.width, card.height)
     }
 
-    Rectangle {
+    RoundedRectangle {
         anchors.fill: parent
-        antialiasing: true
         color: "white"
         radius: 11
     }
 
-    Item {
+    PhotoThumbnail {
         id: picture
 
+        cornerRadius: 7
         height: 95
+        url: card.url
+        variant: card.index
         width: 101
         x: 7
         y: 7
-    }
-
-    PhotoThumbnail {
-        anchors.fill: picture
-        anchors.margins: -1
-        cornerRadius: 7
-        margin: 1
-        url: card.url
-        variant: card.index
     }
 
     Item {

@@ -53,7 +53,7 @@ Item {
             shapeSize: Qt.size(240, 24)
         }
 
-        Rectangle {
+        RoundedRectangle {
             anchors.centerIn: parent
             anchors.verticalCenterOffset: 13
             color: LumaportPalette.cobalt
@@ -62,7 +62,7 @@ Item {
             width: 223
         }
 
-        Rectangle {
+        RoundedRectangle {
             anchors.centerIn: parent
             anchors.horizontalCenterOffset: -70
             anchors.verticalCenterOffset: -55

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Lumaport.Drawing
 import Lumaport.Stage
 import Lumaport.Vocabulary
 
@@ -16,14 +17,14 @@ Item {
     Repeater {
         model: ["arrow.down", "checkmark", "exclamationmark"]
 
-        Rectangle {
+        RoundedRectangle {
             id: face
 
             required property string modelData
 
             anchors.fill: parent
-            border.color: Qt.alpha("white", 0.3)
-            border.width: 1
+            borderColor: Qt.alpha("white", 0.3)
+            borderWidth: 1
             color: Qt.alpha("white", 0.13)
             opacity: badge.controller.badgeSymbol === modelData ? 1 : 0
             radius: width / 2

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Lumaport.Drawing
 import Lumaport.Vocabulary
 
 // A tool tip of the control around it. It is made when the pointer enters the control. Once the control was `pressed` it
@@ -30,9 +31,9 @@ Loader {
         topPadding: 5
         y: fitsAbove ? -height - 6 : (parent?.height ?? 0) + 6
 
-        background: Rectangle {
-            border.color: LumaportPalette.softLine
-            border.width: 1
+        background: RoundedRectangle {
+            borderColor: LumaportPalette.softLine
+            borderWidth: 1
             color: LumaportPalette.panel
             radius: 9
         }

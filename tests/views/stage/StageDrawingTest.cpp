@@ -5,6 +5,8 @@
 #include "ModelScene.h"
 #include "PhotoLandingStageController.h"
 
+#include <QQuickRenderControl>
+#include <QQuickRenderTarget>
 #include <QVector3D>
 
 #include <cmath>
@@ -104,6 +106,50 @@ private Q_SLOTS:
         const int end = picture.pixelColor(51, 41).red(); // a rectangle would be dark here, an ellipse is not
         QVERIFY2(end > 220, qPrintable(QString::number(end)));
         QCOMPARE(picture.pixelColor(100, 50 - 10 - 16).red(), 255);
+    }
+
+    void shouldDrawRoundCornersWithoutGapsAtEveryScale()
+    {
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData("import Lumaport.Drawing\nRoundedRectangle { x: 7.3; y: 9.4; width: 61; height: 37;"
+                          "radius: 9; color: 'blue'; borderColor: 'red'; borderWidth: 3 }",
+                          {});
+        for (double scale = 1.0; scale <= 3.0; scale += 0.25) {
+            QQuickRenderControl control;
+            QQuickWindow window(&control);
+            window.resize(80, 60);
+            const std::unique_ptr<QObject> shape(component.create());
+            qobject_cast<QQuickItem *>(shape.get())->setParentItem(window.contentItem());
+            QImage picture(window.size() * scale, QImage::Format_ARGB32_Premultiplied);
+            picture.setDevicePixelRatio(scale);
+            QQuickRenderTarget target = QQuickRenderTarget::fromPaintDevice(&picture);
+            target.setDevicePixelRatio(scale);
+            window.setRenderTarget(target);
+            control.polishItems();
+            control.sync();
+            control.render();
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    // How far inside of the outline the pixel is: the outline is 9 points around a box.
+                    const QPointF beyond((std::abs((x + 0.5) / scale - 37.8) - 21.5),
+                                         (std::abs((y + 0.5) / scale - 27.9) - 9.5));
+                    const double inside =
+                        scale * (9.0 - std::hypot(std::max(beyond.x(), 0.0), std::max(beyond.y(), 0.0)) -
+                                 std::min(0.0, std::max(beyond.x(), beyond.y())));
+                    const auto is = [&](Qt::GlobalColor color) {
+                        return picture.pixelColor(x, y) == QColor(color);
+                    };
+                    constexpr double edge = 1.5; // pixels, on either side
+                    const double line = 3.0 * scale;
+                    const bool isRight = inside < -edge                          ? is(Qt::white)
+                                         : inside > line + edge                  ? is(Qt::blue)
+                                         : inside > edge && inside < line - edge ? is(Qt::red)
+                                                                                 : true;
+                    QVERIFY2(isRight, qPrintable(QStringLiteral("%1: %2 %3").arg(scale).arg(x).arg(y)));
+                }
+            }
+        }
     }
 
     void shouldLeanTheFolderAboutItsBottomEdge()
