@@ -1,5 +1,4 @@
 #include "ModelScene.h"
-#include "Typeface.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
@@ -40,7 +39,6 @@ std::vector<double> timed(int times, Work work)
 int main(int argc, char **argv)
 {
     const QGuiApplication application(argc, argv);
-    QGuiApplication::setFont(Typeface::preferred(QGuiApplication::font()));
 
     ModelScene scene;
     QList<ConversionItem> items;

@@ -5,7 +5,6 @@
 #include "SingleInstance.h"
 #include "TerminationSignals.h"
 #include "Translations.h"
-#include "Typeface.h"
 
 #include <QApplication>
 #include <QDBusConnection>
@@ -43,7 +42,6 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     const Translations translations;
     QApplication::setWindowIcon(BrandAssets::icon());
-    QApplication::setFont(Typeface::preferred(QApplication::font()));
     chooseRenderer();
     AccessibleItems::install();
     QQuickStyle::setStyle(QStringLiteral("Basic"));

@@ -2,7 +2,6 @@
 #include "MainViewController.h"
 #include "MenuBarViewController.h"
 #include "ModelScene.h"
-#include "Typeface.h"
 
 #include <QDir>
 #include <QTranslator>
@@ -295,7 +294,6 @@ bool drawInto(const QDir &folder, const Picture &picture)
 int main(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
-    QGuiApplication::setFont(Typeface::preferred(QGuiApplication::font()));
     const QStringList arguments = QGuiApplication::arguments();
     if (arguments.size() < 2) {
         std::fprintf(stderr, "usage: pictures FOLDER [TRANSLATION.qm]\n");

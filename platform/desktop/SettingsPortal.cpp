@@ -20,6 +20,9 @@ constexpr QLatin1String appearanceGroup("org.freedesktop.appearance");
 constexpr QLatin1String colorSchemeKey("color-scheme");
 constexpr QLatin1String gnomeGroup("org.gnome.desktop.interface");
 constexpr QLatin1String gnomeAnimationsKey("enable-animations");
+constexpr QLatin1String gnomeFontKey("font-name");
+constexpr QLatin1String kdeGeneralGroup("org.kde.kdeglobals.General");
+constexpr QLatin1String kdeFontKey("font");
 constexpr QLatin1String kdeGroup("org.kde.kdeglobals.KDE");
 constexpr QLatin1String kdeAnimationsKey("AnimationDurationFactor");
 
@@ -63,6 +66,8 @@ void SettingsPortal::readAll()
 {
     read(appearanceGroup, colorSchemeKey);
     read(gnomeGroup, gnomeAnimationsKey);
+    read(gnomeGroup, gnomeFontKey);
+    read(kdeGeneralGroup, kdeFontKey);
     read(kdeGroup, kdeAnimationsKey);
 }
 
@@ -99,6 +104,10 @@ void SettingsPortal::take(const QString &group, const QString &key, const QVaria
     if (group == appearanceGroup && key == colorSchemeKey) {
         m_appearance.setSystemScheme(value.toUInt() == prefersDark ? SystemAppearance::ColorScheme::Dark
                                                                    : SystemAppearance::ColorScheme::Light);
+        return;
+    }
+    if ((group == gnomeGroup && key == gnomeFontKey) || (group == kdeGeneralGroup && key == kdeFontKey)) {
+        m_appearance.setSystemFont(value.toString());
         return;
     }
     if (group == gnomeGroup && key == gnomeAnimationsKey) {

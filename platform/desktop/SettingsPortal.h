@@ -10,12 +10,12 @@ class QVariant;
 class SystemAppearance;
 
 /// Follows the desktop's settings portal (org.freedesktop.portal.Settings) and hands what it says about
-/// light, dark and motion to a SystemAppearance, live. Reads again when the portal is started later; without
-/// one nothing is handed over.
+/// light, dark, motion and font to a SystemAppearance, live. Reads again when the portal is started later;
+/// without one nothing is handed over.
 ///
-/// Keys: the portal's "color-scheme" (0 no preference, 1 dark, 2 light), GNOME's "enable-animations" and
-/// KDE's "AnimationDurationFactor", whose 0 stands for no animation. Motion is reduced when either desktop's
-/// key says so.
+/// Keys: the portal's "color-scheme" (0 no preference, 1 dark, 2 light), GNOME's "font-name" and
+/// "enable-animations", KDE's "font" and "AnimationDurationFactor", whose 0 stands for no animation. Motion
+/// is reduced when either desktop's key says so.
 class SettingsPortal : public QObject
 {
     Q_OBJECT

@@ -1,5 +1,7 @@
 #include "SystemAppearance.h"
 
+#include <QFont>
+#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -30,7 +32,38 @@ void applyWidgetPalette(SystemAppearance::ColorScheme scheme)
     QGuiApplication::setPalette(palette);
 }
 
+/// The longest start of `description` that is the name of an installed family; empty without one.
+QString familyIn(const QString &description)
+{
+    QStringList words =
+        description.section(QLatin1Char(','), 0, 0).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    while (!words.isEmpty() && !QFontDatabase::hasFamily(words.join(QLatin1Char(' ')))) {
+        words.removeLast();
+    }
+    return words.join(QLatin1Char(' '));
+}
+
 } // namespace
+
+SystemAppearance::SystemAppearance(QObject *parent)
+    : QObject(parent)
+{
+    // Where the desktop names no font, Qt's font is a stand-in such as "Sans Serif", which is no family.
+    setSystemFont(QGuiApplication::font().family());
+}
+
+void SystemAppearance::setSystemFont(const QString &description)
+{
+    const QString installed = familyIn(description);
+    const QString family = installed.isEmpty() ? QStringLiteral("Inter") : installed;
+    if (m_fontFamily != family) {
+        m_fontFamily = family;
+        QFont font = QGuiApplication::font();
+        font.setFamily(family);
+        QGuiApplication::setFont(font);
+        Q_EMIT fontFamilyChanged();
+    }
+}
 
 void SystemAppearance::setSystemScheme(ColorScheme scheme)
 {

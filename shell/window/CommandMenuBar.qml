@@ -18,6 +18,7 @@ MenuBar {
 
         Accessible.name: text.replace("&", "")
         Accessible.onPressAction: heading.clicked()
+        font.family: SystemAppearance.fontFamily
         font.pixelSize: 12
         horizontalPadding: 10
         verticalPadding: 6

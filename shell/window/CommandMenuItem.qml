@@ -14,6 +14,7 @@ MenuItem {
     readonly property color ink: highlighted ? LumaportPalette.panel : LumaportPalette.ink
 
     Accessible.onPressAction: item.triggered()
+    font.family: SystemAppearance.fontFamily
     font.pixelSize: 12
     height: 30
     horizontalPadding: 10

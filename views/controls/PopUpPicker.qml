@@ -27,6 +27,7 @@ T.ComboBox {
     // While the menu is open, the keys belong to it. It opens when the key is released: a release would close it.
     Keys.enabled: !popup.visible
     Keys.onReleased: event => event.accepted = picker.opensBy(event.key)
+    font.family: SystemAppearance.fontFamily
     font.pixelSize: 12
     implicitHeight: 30
     leftPadding: mirrored ? 28 : 10

@@ -15,6 +15,7 @@ T.ItemDelegate {
     Accessible.onPressAction: entry.clicked()
     Accessible.selectable: true
     Accessible.selected: chosen
+    font.family: SystemAppearance.fontFamily
     font.pixelSize: 12
     hoverEnabled: true
     implicitHeight: 28

@@ -8,6 +8,7 @@ TextEdit {
     Accessible.role: Accessible.StaticText
     activeFocusOnTab: true
     color: LumaportPalette.muted
+    font.family: SystemAppearance.fontFamily
     font.pixelSize: 11
     font.preferShaping: /[^\u0000-\u02ff]/.test(text)
     horizontalAlignment: TextEdit.AlignLeft

@@ -14,6 +14,7 @@ T.Switch {
     Accessible.onToggleAction: control.chosen(!control.checked)
     Keys.onEnterPressed: event => event.isAutoRepeat || control.chosen(!control.checked)
     Keys.onReturnPressed: event => event.isAutoRepeat || control.chosen(!control.checked)
+    font.family: SystemAppearance.fontFamily
     font.pixelSize: 12
     implicitHeight: Math.max(20, implicitContentHeight)
     implicitWidth: implicitContentWidth + leftPadding + rightPadding

@@ -56,6 +56,7 @@ Item {
             id: text
 
             color: card.printed
+            font.family: SystemAppearance.fontFamily
             font.pixelSize: 8
             font.weight: Font.DemiBold
             text: card.caption

@@ -11,6 +11,7 @@ Text {
     Accessible.name: text
     Accessible.role: Accessible.StaticText
     color: LumaportPalette.ink
+    font.family: SystemAppearance.fontFamily
     font.pixelSize: size
     font.preferShaping: !verbatim || /[^\u0000-\u02ff]/.test(text)
     horizontalAlignment: Text.AlignLeft

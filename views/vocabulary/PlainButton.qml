@@ -22,6 +22,7 @@ T.AbstractButton {
     Keys.onEnterPressed: event => event.isAutoRepeat || control.clicked()
     Keys.onReturnPressed: event => event.isAutoRepeat || control.clicked()
     focusPolicy: Qt.StrongFocus
+    font.family: SystemAppearance.fontFamily
     font.pixelSize: 12
     font.preferShaping: caption === text || /[^\u0000-\u02ff]/.test(caption)
     hoverEnabled: true

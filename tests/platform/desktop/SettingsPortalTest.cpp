@@ -4,6 +4,7 @@
 #include "SystemAppearance.h"
 
 #include <QDBusVariant>
+#include <QFont>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QTest>
@@ -16,6 +17,8 @@ using Key = std::pair<const char *, const char *>; // its group and its name
 
 constexpr Key scheme{"org.freedesktop.appearance", "color-scheme"};
 constexpr Key animations{"org.gnome.desktop.interface", "enable-animations"};
+constexpr Key font{"org.gnome.desktop.interface", "font-name"};
+constexpr Key kdeFont{"org.kde.kdeglobals.General", "font"};
 constexpr Key factor{"org.kde.kdeglobals.KDE", "AnimationDurationFactor"};
 
 } // namespace
@@ -95,6 +98,14 @@ private Q_SLOTS:
         QVERIFY(appearance.reduceMotion());
         portal.change(factor, "0.5");
         QTRY_VERIFY(!appearance.reduceMotion());
+
+        portal.change(font, "DejaVu Sans Mono Bold 10");
+        QTRY_COMPARE(appearance.fontFamily(), "DejaVu Sans Mono");
+        QCOMPARE(QGuiApplication::font().family(), "DejaVu Sans Mono");
+        portal.change(font, "Sans 10"); // any font, that is
+        QTRY_COMPARE(appearance.fontFamily(), "Inter");
+        portal.change(kdeFont, "DejaVu Serif,10,-1,5,50,0,0,0,0,0");
+        QTRY_COMPARE(appearance.fontFamily(), "DejaVu Serif");
     }
 
     void shouldSetTheWidgetPaletteWithTheEffectiveScheme()
