@@ -79,7 +79,7 @@ void addNames(const QByteArray &names)
 }
 
 /// For workers that hang: they do so for the shorter time.
-constexpr ImageWorkerLimits ShortToStart{.start = std::chrono::milliseconds(200)};
+constexpr ImageWorkerLimits ShortToStart{.start = std::chrono::seconds(2)};
 constexpr ImageWorkerLimits ShortToOpen{.open = std::chrono::milliseconds(200)};
 
 } // namespace
