@@ -52,7 +52,7 @@ SettingsPortal::SettingsPortal(const QDBusConnection &bus, SystemAppearance &app
     readAll();
 }
 
-void SettingsPortal::waitForAnswer(std::chrono::milliseconds patience)
+void SettingsPortal::waitForAnswer(std::chrono::milliseconds patience) const
 {
     if (!m_hasAnswered) {
         QEventLoop loop;

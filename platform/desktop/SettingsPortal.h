@@ -26,7 +26,7 @@ public:
 
     /// Serves events until the portal has answered or refused the first question about light and dark, at
     /// most for `patience`.
-    void waitForAnswer(std::chrono::milliseconds patience);
+    void waitForAnswer(std::chrono::milliseconds patience) const;
 
 Q_SIGNALS:
     void answered();
