@@ -8,9 +8,21 @@
 
 namespace {
 
-// Raw events need no window under the pointer and no grab: X Input Extension 2.2, "RawEvent".
-void select(xcb_connection_t *connection, std::uint32_t events)
+/// Of the X Input Extension; 0 without an X server that has it.
+std::uint8_t majorOpcode()
 {
+    xcb_connection_t *connection = X11::connection();
+    const auto *extension = connection ? xcb_get_extension_data(connection, &xcb_input_id) : nullptr;
+    return extension && extension->present ? extension->major_opcode : 0;
+}
+
+// Raw events need no window under the pointer and no grab: X Input Extension 2.2, "RawEvent".
+void select(std::uint32_t events)
+{
+    if (majorOpcode() == 0) {
+        return; // a request for a missing extension closes the connection
+    }
+    xcb_connection_t *connection = X11::connection();
     const struct
     {
         xcb_input_event_mask_t head;
@@ -27,25 +39,20 @@ void select(xcb_connection_t *connection, std::uint32_t events)
 
 PointerPresses::PointerPresses()
 {
-    if (xcb_connection_t *connection = X11::connection()) {
-        qGuiApp->installNativeEventFilter(this);
-        select(connection, XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS);
-    }
+    qGuiApp->installNativeEventFilter(this);
+    select(XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS);
 }
 
 PointerPresses::~PointerPresses()
 {
-    if (xcb_connection_t *connection = X11::connection()) {
-        select(connection, 0);
-    }
+    select(0);
 }
 
 bool PointerPresses::nativeEventFilter(const QByteArray &eventType, void *message, qintptr * /*result*/)
 {
     const auto *event = static_cast<const xcb_ge_generic_event_t *>(message);
     if (eventType == "xcb_generic_event_t" && (event->response_type & 0x7F) == XCB_GE_GENERIC &&
-        event->event_type == XCB_INPUT_RAW_BUTTON_PRESS &&
-        event->extension == xcb_get_extension_data(X11::connection(), &xcb_input_id)->major_opcode) {
+        event->event_type == XCB_INPUT_RAW_BUTTON_PRESS && event->extension == majorOpcode()) {
         Q_EMIT pressed();
     }
     return false;
